@@ -1,0 +1,42 @@
+# valkorin_library(<folder> SOURCES ... USES ...): one static library a folder, which links only
+# the folders that it may use.
+
+add_library(valkorin_options INTERFACE)
+target_include_directories(valkorin_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(valkorin_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Werror
+  # Results must be the same on every machine: no fused multiply-add.
+  -ffp-contract=off)
+if(VALKORIN_SANITIZE)
+  target_compile_options(valkorin_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(valkorin_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(VALKORIN_COVERAGE)
+  target_compile_options(valkorin_options INTERFACE --coverage)
+  target_link_options(valkorin_options INTERFACE --coverage)
+endif()
+
+function(valkorin_library folder)
+  cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+  add_library(valkorin_${folder} STATIC ${arg_SOURCES})
+  target_link_libraries(valkorin_${folder} PUBLIC valkorin_options)
+  foreach(used IN LISTS arg_USES)
+    target_link_libraries(valkorin_${folder} PUBLIC valkorin_${used})
+  endforeach()
+endfunction()
+
+# valkorin_test(<folder> SOURCES ... USES ...): the GoogleTest program of a folder.
+function(valkorin_test folder)
+  cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+  add_executable(${folder}_tests ${arg_SOURCES})
+  target_link_libraries(${folder}_tests PRIVATE valkorin_options GTest::gmock GTest::gtest_main)
+  foreach(used IN LISTS arg_USES)
+    target_link_libraries(${folder}_tests PRIVATE valkorin_${used})
+  endforeach()
+  target_compile_definitions(${folder}_tests PRIVATE
+    VALKORIN_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+    VALKORIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+  gtest_discover_tests(${folder}_tests TEST_PREFIX ${folder}. DISCOVERY_MODE PRE_TEST
+    WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "navigation/session_form.h"
+
+namespace compliance {
+
+// The compliance screen: the tests of the population's upper percentile against the limit value.
+struct PercExForm final : navigation::SessionForm {
+  PercExForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+
+  screen::Control MenuPrint{*this, screen::Kind::Menu, "MenuPrint"};
+
+  screen::Control Frame2{*this, screen::Kind::Frame, "Frame2"};
+  screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
+  screen::Control SampSizCaptionLbl{*this, screen::Kind::Label, "SampSizCaptionLbl"};
+  screen::Control SampSizLbl{*this, screen::Kind::Label, "SampSizLbl"};
+  screen::Control DegreesCaptionLbl{*this, screen::Kind::Label, "DegreesCaptionLbl"};
+  screen::Control DegreesLbl{*this, screen::Kind::Label, "DegreesLbl"};
+  screen::Control GMLbl{*this, screen::Kind::Label, "GMLbl"};
+  screen::Control GMValueLbl{*this, screen::Kind::Label, "GMValueLbl"};
+  screen::Control DimLbl0{*this, screen::Kind::Label, "DimLbl(0)"};
+  screen::Control GSDLbl{*this, screen::Kind::Label, "GSDLbl"};
+  screen::Control GSDValueLbl{*this, screen::Kind::Label, "GSDValueLbl"};
+  screen::Control DimLbl1{*this, screen::Kind::Label, "DimLbl(1)"};
+  screen::Control VkrValLbl0{*this, screen::Kind::Label, "VkrValLbl(0)"};
+  screen::Control VkrValLbl1{*this, screen::Kind::Label, "VkrValLbl(1)"};
+
+  screen::Control LeidelCmb{*this, screen::Kind::CommandButton, "LeidelCmb"};
+  screen::Control WilksCmb{*this, screen::Kind::CommandButton, "WilksCmb"};
+  screen::Control TuggleCmb{*this, screen::Kind::CommandButton, "TuggleCmb"};
+
+  screen::Control IntroFrm{*this, screen::Kind::Frame, "IntroFrm"};
+  screen::Control IntroLbl{*this, screen::Kind::Label, "IntroLbl"};
+
+  screen::Control UTLFrm{*this, screen::Kind::Frame, "UTLFrm"};
+  screen::Control PercExLbl0{*this, screen::Kind::Label, "PercExLbl(0)"};
+  screen::Control PercExTxB0{*this, screen::Kind::TextBox, "PercExTxB(0)"};
+  screen::Control DimLbl2{*this, screen::Kind::Label, "DimLbl(2)"};
+  screen::Control PercExLbl1{*this, screen::Kind::Label, "PercExLbl(1)"};
+  screen::Control PercExTxB1{*this, screen::Kind::TextBox, "PercExTxB(1)"};
+  screen::Control DimLbl3{*this, screen::Kind::Label, "DimLbl(3)"};
+  screen::Control PercExLbl2{*this, screen::Kind::Label, "PercExLbl(2)"};
+  screen::Control PercExTxB2{*this, screen::Kind::TextBox, "PercExTxB(2)"};
+  screen::Control DimLbl4{*this, screen::Kind::Label, "DimLbl(4)"};
+  screen::Control ComplianceLbl{*this, screen::Kind::Label, "ComplianceLbl"};
+  screen::Control CommentLbl{*this, screen::Kind::Label, "CommentLbl"};
+  screen::Control SampSizeCkb{*this, screen::Kind::CheckBox, "SampSizeCkb"};
+  screen::Control SampsizeFrm{*this, screen::Kind::Frame, "SampsizeFrm"};
+
+  double Ur = 0;  // standardised distance of the limit from the mean on the log scale
+
+  void Load() override;
+  void Activate() override;
+
+  void BasisStatus();
+  void TestLayout();
+  void LeidelCmb_Click();
+};
+
+}  // namespace compliance

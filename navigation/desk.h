@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+#include "session/workflow.h"
+
+namespace navigation {
+
+using workflow::ScreenId;
+
+// What a screen may ask of the program around it.
+class Desk {
+ public:
+  virtual ~Desk() = default;
+  // Hides the present screen, shows `target` and runs its activation.
+  virtual void Open(ScreenId target) = 0;
+  // Whether the program has that screen.
+  virtual bool Has(ScreenId target) const = 0;
+  // Opens the screen of the extrapolation `tag` ("Le", "Wi", "Tu", "Ap", "Ex") and starts it.
+  virtual void RunExtrapolation(const std::string& tag) = 0;
+  // Whether the series differs from its file.
+  virtual bool Unsaved() const = 0;
+  // The series now in the record is what its file holds.
+  virtual void MarkSaved() = 0;
+  // The user's "close all data": asks about unsaved changes, shows the start screen, ends the
+  // session.
+  virtual void CloseAllData() = 0;
+  // Ends the session and shows the start screen, without a question.
+  virtual void AbandonData() = 0;
+  // Asks, and ends the program.
+  virtual void Exit() = 0;
+};
+
+}  // namespace navigation

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "navigation/desk.h"
+#include "screen/form.h"
+#include "session/global_bas.h"
+
+namespace navigation {
+
+// What the working screens have in common: the record, the tab strip, the menus that lead to
+// other screens, and the label with the window number.
+struct SessionForm : screen::Form {
+  SessionForm(std::string formName, ScreenId screenId, std::string stripName,
+              ExposureSession& record, Desk& programDesk, screen::Ports& formPorts);
+
+  ExposureSession& session;
+  Desk& desk;
+  const ScreenId id;
+
+  screen::Control MenuFile{*this, screen::Kind::Menu, "MenuFile"};
+  screen::Control Menuclose{*this, screen::Kind::Menu, "Menuclose"};
+  screen::Control MenuExit{*this, screen::Kind::Menu, "MenuExit"};
+  screen::Control menuTools{*this, screen::Kind::Menu, "menuTools"};
+  screen::Control MenuPlot{*this, screen::Kind::Menu, "MenuPlot"};
+  screen::Control MenuVerd{*this, screen::Kind::Menu, "MenuVerd"};
+  screen::Control menuExtrPol{*this, screen::Kind::Menu, "menuExtrPol"};
+  screen::Control MenuLeid{*this, screen::Kind::Menu, "MenuLeid"};
+  screen::Control MenuWilks{*this, screen::Kind::Menu, "MenuWilks"};
+  screen::Control MenuTugg{*this, screen::Kind::Menu, "MenuTugg"};
+  screen::Control MenuAM{*this, screen::Kind::Menu, "MenuAM"};
+  screen::Control MenuJahr{*this, screen::Kind::Menu, "MenuJahr"};
+  screen::Control MenuLand{*this, screen::Kind::Menu, "MenuLand"};
+  screen::Control MenuComp{*this, screen::Kind::Menu, "MenuComp"};
+  screen::TabStrip Tabs;
+  screen::Control WindnrLbl{*this, screen::Kind::Label, "WindnrLbl"};
+
+  // Empties the strip and fills it with the tabs of the present state; MenuPlot follows.
+  void RebuildStrip();
+  // A click on the tab with that key.
+  void Tab_Click(const std::string& key);
+
+  // Runs before a tab click is looked at.
+  virtual void BeforeTabClick() {}
+  // Runs instead of the way out when a click passes no gate.
+  virtual void ClickLedNowhere() {}
+
+  // The text of a number as the screens show it: through its mask, and without leading blanks.
+  std::string Shown(const std::optional<double>& value) const;
+  std::string ShownTrimmed(const std::optional<double>& value) const;
+  // What the validator of a field gets.
+  GlobalBAS::Entry EntryOf(const screen::Control& field) const;
+  // Shows a validator's complaint.
+  GlobalBAS::Notify Notifier();
+};
+
+}  // namespace navigation

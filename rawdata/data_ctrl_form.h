@@ -1,0 +1,52 @@
+#pragma once
+
+#include "navigation/session_form.h"
+#include "rawdata/raw_file.h"
+
+namespace rawdata {
+
+// The data control screen: the series in an editable table, its range, unit and detection range.
+struct DataCtrlForm final : navigation::SessionForm {
+  DataCtrlForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+
+  screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
+  screen::Control MenuEdit{*this, screen::Kind::Menu, "MenuEdit"};
+  screen::Control MenuAddRow{*this, screen::Kind::Menu, "MenuAddRow"};
+  screen::Control MenuDeleteRow{*this, screen::Kind::Menu, "MenuDeleteRow"};
+  screen::Control MenuPaste{*this, screen::Kind::Menu, "MenuPaste"};
+
+  screen::Grid DBGridVkr{*this, "DBGridVkr"};
+  // The quiet line under the grid: how the file was understood.
+  screen::Control ReadingLbl{*this, screen::Kind::Label, "ReadingLbl"};
+
+  screen::Control SampleFrame{*this, screen::Kind::Frame, "SampleFrame"};
+  screen::Control SampSzCaptionLbl{*this, screen::Kind::Label, "SampSzCaptionLbl"};
+  screen::Control SampSzLbl{*this, screen::Kind::Label, "SampSzLbl"};
+  screen::Control UnitLbl{*this, screen::Kind::Label, "UnitLbl"};
+  screen::Control DimCbo{*this, screen::Kind::ComboBox, "DimCbo"};
+
+  screen::Control RangeFrame{*this, screen::Kind::Frame, "RangeFrame"};
+  screen::Control LowestLbl{*this, screen::Kind::Label, "LowestLbl"};
+  screen::Control C1Lbl{*this, screen::Kind::Label, "C1Lbl"};
+  screen::Control HighestLbl{*this, screen::Kind::Label, "HighestLbl"};
+  screen::Control CnLbl{*this, screen::Kind::Label, "CnLbl"};
+
+  screen::Control DetecChB{*this, screen::Kind::CheckBox, "DetecChB"};
+  screen::Control FrmDetec{*this, screen::Kind::Frame, "FrmDetec"};
+  screen::Control DetecLLbl{*this, screen::Kind::Label, "DetecLLbl"};
+  screen::Control DetecLTxb{*this, screen::Kind::TextBox, "DetecLTxb"};
+  screen::Control DetecULbl{*this, screen::Kind::Label, "DetecULbl"};
+  screen::Control DetecUTxb{*this, screen::Kind::TextBox, "DetecUTxb"};
+  screen::Control InRangeLbl{*this, screen::Kind::Label, "InRangeLbl"};
+  screen::Control DegreesLbl{*this, screen::Kind::Label, "DegreesLbl"};
+
+  void Load() override;
+  void Activate() override;
+
+  void DataCtrlStatus();
+  void VkrSave();
+  // Tells how the opened file was understood; a typed series has no notes.
+  void TellReading(const ReadingNotes* notes);
+};
+
+}  // namespace rawdata

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "session/exposure_session.h"
+
+// Raw data files (*.vkr): plain text, one outcome a line.
+namespace rawdata {
+
+// How a file's lines were understood, for the line under the grid.
+struct ReadingNotes {
+  std::vector<int> trailingText;    // lines that carried text behind the number
+  std::vector<int> commaAndPoint;   // lines that held both comma and point
+};
+
+// The outcome of the first pass.
+struct FileCheck {
+  bool readable = true;   // false: not a readable file; the pass ended at a read error
+  int count = 0;          // lines met, the refused one included
+  int messageId = 0;      // 915, 920, 925, or 0 when the file can be loaded
+  int refusedLine = 0;    // 1-based; 0 when none was refused
+  std::string refusedText;  // what stands there, at most 40 characters, printable
+};
+
+// Reads the whole file once in bounded memory and checks every line.
+FileCheck CheckFile(const std::string& path);
+
+// The outcomes of the file in the order of its lines. `ok` is false after a read error, or when
+// the file no longer has `count` lines.
+struct FileValues {
+  bool ok = false;
+  std::vector<double> values;  // index 0 is the first line
+  ReadingNotes notes;
+};
+FileValues ReadFile(const std::string& path, int count);
+
+// Writes values[0..] one a line with CR LF, beside the file first and then renamed over it, so
+// that the old file survives a failure. Returns false, with nothing changed, on any failure.
+bool WriteFile(const std::string& path, const std::vector<double>& values);
+
+// Why a typed or pasted text is no outcome: catalogue id 920, or 0 when it is one in
+// 1E-10 to 1E+10.
+int RefusalOf(double value);
+
+// Sorts c(1) to c(count) ascending unless `order` says they are; sets `order` (not for two).
+void SortValues(int count, std::vector<double>& c, std::string& order);
+
+}  // namespace rawdata

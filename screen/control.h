@@ -1,0 +1,122 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The vocabulary of screens: controls as plain state plus handlers. Rules read and write the
+// state; a binder shows it with some toolkit and calls the handlers.
+namespace screen {
+
+struct Form;
+
+enum class Kind {
+  Label,
+  TextBox,
+  ComboBox,
+  CommandButton,
+  OptionButton,
+  CheckBox,
+  Frame,
+  Menu,
+  TabStrip,
+  Grid,
+  UpDown,
+  CommonDialog
+};
+
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  bool operator==(const Colour&) const = default;
+};
+
+using Handler = std::function<void()>;
+
+// What of a control can be seen. A control's handlers never run because of a change made here.
+struct ControlState {
+  std::string text;  // caption, or the text of a text or combo box
+  std::string tip;
+  bool visible = true;
+  bool enabled = true;
+  bool locked = false;
+  bool ticked = false;
+  std::optional<Colour> colour;  // of the text; the system's when absent
+  std::vector<std::string> items;
+  bool operator==(const ControlState&) const = default;
+};
+
+struct Control : ControlState {
+  Control(Form& form, Kind kind, std::string name);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const Kind kind;
+  const std::string name;  // DimLbl(0) carries its index
+
+  // Design-time ids of caption and tip, filled by whoever lays the screen out.
+  std::string tag;
+  std::string toolTipText;
+
+  // The user changed the text since the field got the focus or was last committed.
+  bool touched = false;
+  // Select the whole text at the next showing of the state.
+  bool selectAll = false;
+
+  Handler Click;      // button, option, check box, menu; a choice from a combo box's list
+  Handler GotFocus;
+  Handler LostFocus;  // also by the Tab key
+  Handler EnterKey;
+  Handler StepUp;     // of an UpDown, or of a field that has one
+  Handler StepDown;
+
+  void Hide() { visible = false; }
+  void Show() { visible = true; }
+  // Repaints the screen now, in the middle of a handler.
+  void Refresh();
+
+ private:
+  Form& form_;
+};
+
+struct Tab {
+  std::string key;
+  std::string caption;
+  std::string tip;
+  bool enabled = true;
+  bool operator==(const Tab&) const = default;
+};
+
+struct TabStrip : Control {
+  TabStrip(Form& form, std::string name) : Control(form, Kind::TabStrip, std::move(name)) {}
+  std::vector<Tab> tabs;
+  std::string selected;                            // key
+  std::function<void(const std::string&)> Choose;  // a click on the tab with that key
+};
+
+// A table that keeps no data of its own: every cell is asked for when it is shown.
+struct Grid : Control {
+  struct Column {
+    std::string caption;
+    int widthTwips = 0;
+    bool editable = false;
+  };
+  Grid(Form& form, std::string name) : Control(form, Kind::Grid, std::move(name)) {}
+  std::vector<Column> columns;
+  int rowCount = 0;
+  int currentRow = 0;
+  // Raised whenever rows or cells may have changed, so that a view asks again.
+  int revision = 0;
+  std::function<std::string(int row, int column)> Cell;
+  std::function<bool(int row, int column, const std::string& text)> Write;
+  std::function<bool(const std::string& text)> AddRow;
+  std::function<void(int row)> DeleteRow;
+  std::function<void()> CommitRow;
+  // Fills rows from `row` on with the lines of `text`.
+  std::function<void(int row, const std::string& text)> Paste;
+};
+
+}  // namespace screen

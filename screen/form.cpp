@@ -1,0 +1,43 @@
+#include "screen/form.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "base/fault.h"
+#include "catalog/catalog.h"
+
+namespace screen {
+
+Control::Control(Form& form, Kind controlKind, std::string controlName)
+    : kind(controlKind), name(std::move(controlName)), form_(form) {
+  form.controls.push_back(this);
+}
+
+void Control::Refresh() { form_.Refresh(); }
+
+Control* Form::Find(const std::string& controlName) const {
+  auto found = std::find_if(controls.begin(), controls.end(),
+                            [&](const Control* c) { return c->name == controlName; });
+  return found == controls.end() ? nullptr : *found;
+}
+
+void Form::Refresh() { ports.surface.Repaint(*this); }
+
+void Form::Complain(const std::string& text, const std::string& title) {
+  ports.messageBox.Show({text, title, Icon::Exclamation});
+}
+
+void Guarded(Ports& ports, const Handler& handler) {
+  constexpr int kTitle = 17;
+  try {
+    if (handler) handler();
+  } catch (const std::exception& error) {
+    std::string title = LoadResString(kTitle);
+    title.erase(title.find_last_not_of(' ') + 1);
+    ports.messageBox.Show({std::string("This step could not be finished: ") + error.what() +
+                               ". What was entered before it is kept.",
+                           title, Icon::Exclamation});
+  }
+}
+
+}  // namespace screen

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+
+// What the screens need of the system around them. The window toolkit has the real ones, tests
+// have recording ones.
+namespace screen {
+
+struct Form;
+
+enum class Icon { None, Exclamation, Question, Information };
+enum class Buttons { Ok, OkCancel, YesNo };
+enum class Answer { Ok, Cancel, Yes, No };
+
+struct Message {
+  std::string text;
+  std::string title;
+  Icon icon = Icon::None;
+  Buttons buttons = Buttons::Ok;
+  Answer defaultAnswer = Answer::Ok;
+};
+
+class MessageBox {
+ public:
+  virtual ~MessageBox() = default;
+  virtual Answer Show(const Message& message) = 0;
+};
+
+class FileDialog {
+ public:
+  struct Request {
+    bool save = false;
+    std::string title;
+    std::string filter;
+    std::string fileName;
+    std::string helpFile;
+    int helpContext = 0;
+  };
+  virtual ~FileDialog() = default;
+  // The chosen path, or the empty text when the dialog was cancelled.
+  virtual std::string Ask(const Request& request) = 0;
+};
+
+class Surface {
+ public:
+  virtual ~Surface() = default;
+  // Shows the present state of `form` and repaints it before it returns.
+  virtual void Repaint(Form& form) = 0;
+};
+
+struct Ports {
+  MessageBox& messageBox;
+  FileDialog& fileDialog;
+  Surface& surface;
+};
+
+}  // namespace screen

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "screen/form.h"
+#include "screen/ports.h"
+#include "navigation/desk.h"
+
+namespace start {
+
+// The whole program without a window: the record, the screens, and the ways between them. A
+// window toolkit binds its widgets to Forms() and follows Shown().
+class Program final : public navigation::Desk {
+ public:
+  explicit Program(screen::Ports& ports);
+  ~Program() override;
+
+  ExposureSession& Session();
+  const std::vector<screen::Form*>& Forms() const;
+  screen::Form* FormByName(const std::string& name) const;
+
+  // The start sequence up to the opening message. Call it once the controls carry their
+  // design-time ids. Nothing that fails in it is told or stops it.
+  void Start();
+
+  // The screen that is now shown.
+  screen::Form& Shown() const;
+  // Called after a different screen is shown (before its activation runs).
+  std::function<void(screen::Form&)> onShow;
+
+  // Title of the window, without the unsaved mark.
+  std::string Title() const;
+
+  // The user closes the window: true when the program may end.
+  bool MayUnload();
+  // Set by MenuExit's Yes: the window toolkit ends its loop.
+  bool EndRequested() const;
+
+  // navigation::Desk
+  void Open(navigation::ScreenId target) override;
+  bool Has(navigation::ScreenId target) const override;
+  bool Unsaved() const override;
+  void MarkSaved() override;
+  void RunExtrapolation(const std::string& tag) override;
+  void CloseAllData() override;
+  void AbandonData() override;
+  void Exit() override;
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace start
