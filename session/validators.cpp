@@ -1,0 +1,183 @@
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "catalog/catalog.h"
+#include "session/global_bas.h"
+
+// What a numeric field accepts. All validators take the same steps; a row of constants tells them
+// apart. They leave their verdict in InputState and their complaint in MsgText and MsgTitle, and
+// show it. A number beyond a double is an infinity here, and so too small or too large.
+namespace GlobalBAS {
+namespace {
+
+enum InputCode : std::int16_t { kAccepted, kEmpty, kZero, kTooSmall, kTooLarge };
+
+struct Limits {
+  double lower;
+  double upper;
+  bool clamps;
+  int title;
+  int tooSmall;
+  int tooLarge;
+  int hint;
+};
+
+constexpr int kReferenceTooLarge = 381;  // the one text that is ours and not the catalogue's
+
+constexpr Limits kU = {0.01, 99.99, true, 2120, 2125, 2130, 2135};
+constexpr Limits kD = {0.01, 99.99, true, 2140, 2145, 2150, 2155};
+// GM keeps a refused value and relies on StatusFlags to mark it; GSD is pulled to its limit.
+constexpr Limits kGM = {0.0001, 10000, false, 770, 775, 780, 785};
+constexpr Limits kGSD = {1.001, 1000, true, 790, 795, 800, 805};
+constexpr Limits kOELV = {1E-10, 1E+10, true, 810, 815, 820, 825};
+constexpr Limits kM = {2, 2000, false, 370, 375, 380, 385};
+constexpr Limits kMRef = {2, 30000, true, 370, 375, kReferenceTooLarge, 385};
+
+std::string ComplaintText(int id) {
+  if (id == kReferenceTooLarge) return "A Sample size M of more than thirty thousand is too large";
+  return LoadResString(id);
+}
+
+void Begin(ExposureSession& s, const Limits& limits) {
+  s.MsgTitle = LoadResString(limits.title);
+  s.MsgText.clear();
+  s.InputState = kAccepted;
+}
+
+void Complain(ExposureSession& s, const Notify& notify) {
+  if (s.InputState > kAccepted) notify(s.MsgText, s.MsgTitle);
+}
+
+void CheckLimits(ExposureSession& s, const Limits& limits, double& value) {
+  if (value < limits.lower) {
+    s.InputState = kTooSmall;
+    s.MsgText = ComplaintText(limits.tooSmall);
+    if (limits.clamps) value = limits.lower;
+  } else if (value > limits.upper) {
+    s.InputState = kTooLarge;
+    s.MsgText = ComplaintText(limits.tooLarge);
+    if (limits.clamps) value = limits.upper;
+  }
+}
+
+// A sample size that is no whole number is cut to one, with the code of an empty entry, so that
+// the hint comes up. Whole is what a ten-thousandth more leaves the same; a negative number is
+// thereby never whole.
+bool CutToWhole(ExposureSession& s, double& value) {
+  if (std::trunc(value + 0.0001) == value) return false;
+  value = std::trunc(value);
+  s.InputState = kEmpty;
+  return true;
+}
+
+void JudgeValue(ExposureSession& s, const Limits& limits, double& value, bool whole) {
+  if (whole && CutToWhole(s, value)) return;
+  if (value == 0)
+    s.InputState = kZero;
+  else
+    CheckLimits(s, limits, value);
+}
+
+void Check(ExposureSession& s, const Limits& limits, const Entry& entry, double& value, bool whole,
+           const Notify& notify) {
+  Begin(s, limits);
+  if (entry.text.empty()) {
+    s.InputState = kEmpty;
+  } else {
+    if (entry.touched) value = ReadNumber(entry.text);
+    JudgeValue(s, limits, value, whole);
+  }
+  if (s.InputState == kEmpty || s.InputState == kZero) s.MsgText = LoadResString(limits.hint);
+  Complain(s, notify);
+}
+
+Entry Trimmed(const Entry& entry) {
+  return {Trim(entry.text), entry.touched};
+}
+
+bool Within(double value, const Limits& limits) {
+  return value >= limits.lower && value <= limits.upper;
+}
+
+}  // namespace
+
+void CheckU(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+  Check(s, kU, entry, value, false, notify);
+}
+
+void CheckD(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+  Check(s, kD, entry, value, false, notify);
+}
+
+// A field whose limit is still absent has no value to stand for: its text is read.
+void CheckOELV(ExposureSession& s, const Entry& entry, std::optional<double>& value,
+               const Notify& notify) {
+  const Entry read = {entry.text, entry.touched || !value};
+  double present = value.value_or(0);
+  Check(s, kOELV, read, present, false, notify);
+  if (!entry.text.empty()) value = present;
+}
+
+void CheckGM(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+  Check(s, kGM, Trimmed(entry), value, false, notify);
+}
+
+void CheckGSD(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+  Check(s, kGSD, Trimmed(entry), value, false, notify);
+}
+
+void CheckM(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+  Check(s, kM, Trimmed(entry), value, true, notify);
+}
+
+void CheckMRef(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+  const Entry trimmed = Trimmed(entry);
+  if (trimmed.text.empty()) return;
+  const Notify afterPull = [&](const std::string& text, const std::string& title) {
+    if (s.InputState == kZero) value = kMRef.lower;
+    notify(text, title);
+  };
+  Check(s, kMRef, trimmed, value, true, afterPull);
+}
+
+void CheckName(ExposureSession& s, const std::string& text, std::string& name,
+               const Notify& notify) {
+  s.MsgTitle = LoadResString(400);
+  s.MsgText.clear();
+  s.InputState = kAccepted;
+  const std::string trimmed = Trim(text);
+  if (!trimmed.empty() && trimmed == name) return;
+  if (trimmed.empty()) {
+    s.InputState = kEmpty;
+    s.MsgText = LoadResString(401);
+  } else {
+    const char first = trimmed.front();
+    const bool letter = (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
+    if (!letter) {
+      s.InputState = kZero;
+      s.MsgText = LoadResString(390);
+    }
+  }
+  name = s.InputState > kAccepted ? std::string() : trimmed;
+  Complain(s, notify);
+}
+
+bool InRangeOELV(const std::optional<double>& value) {
+  return value && Within(*value, kOELV);
+}
+bool InRangeU(double value) {
+  return Within(value, kU);
+}
+bool InRangeD(double value) {
+  return Within(value, kD);
+}
+bool InRangeGM(double value) {
+  return Within(value, kGM);
+}
+bool InRangeGSD(double value) {
+  return Within(value, kGSD);
+}
+
+}  // namespace GlobalBAS
