@@ -68,7 +68,18 @@ struct DescriptForm final : navigation::SessionForm {
   void Load() override;
   void Activate() override;
 
+  // Tabs and menus of the present state.
   void BasisDescStat();
+
+ private:
+  void ShowIdentification();
+  void ShowGeometric();
+  void ShowMeans();
+  void ShowDeviations();
+  void ShowNoRange();
+  void ShowRange();
+  void ShowSampleWords();
+  void ShowRegressionWords();
 };
 
 }  // namespace analysis

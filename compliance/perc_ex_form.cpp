@@ -1,0 +1,172 @@
+#include "compliance/perc_ex_form.h"
+
+#include "base/fault.h"
+#include "catalog/catalog.h"
+#include "compliance/leidel.h"
+
+namespace compliance {
+namespace {
+
+constexpr screen::Colour kGreen{0, 128, 0};
+constexpr screen::Colour kRed{192, 0, 0};
+constexpr double kActionPercent = 5;  // the limit of the verdict; it does not follow U
+
+}  // namespace
+
+PercExForm::PercExForm(ExposureSession& record, navigation::Desk& programDesk,
+                       screen::Ports& formPorts)
+    : SessionForm("PercExForm", navigation::ScreenId::PercEx, "TabPercEx", record, programDesk,
+                  formPorts) {
+  LeidelCmb.Click = [this] { LeidelCmb_Click(); };
+  for (screen::Control* box : {&PercExTxB0, &PercExTxB1, &PercExTxB2}) box->locked = true;
+}
+
+void PercExForm::Load() {
+  loaded = true;
+  OfferMenus();
+  MenuPrint.enabled = false;
+  WilksCmb.enabled = desk.HasExtrapolation("Wi");
+  TuggleCmb.enabled = desk.HasExtrapolation("Tu");
+  caption = LoadResString(2304);
+  CommentLbl.Hide();
+  ComplianceLbl.Hide();
+}
+
+void PercExForm::Activate() {
+  EnterOwnTab();
+  DropStaleResults();
+  BasisStatus();
+  ShowWording();
+  SampsizeFrm.Hide();
+  SampSizeCkb.text = LoadResString(2302);
+  SampSizeCkb.ticked = false;
+  DimLbl4.text = "%";
+}
+
+PercExForm::Basis PercExForm::PresentBasis() const {
+  return {session.GM, session.GSD, session.df, session.OELV.value_or(0), session.U, session.D};
+}
+
+// The boxes of a test stay as they are until a button is pressed, but never show the numbers of
+// other data or another limit.
+void PercExForm::DropStaleResults() {
+  if (PresentBasis() == shownBasis_) return;
+  ComplianceLbl.Hide();
+  for (screen::Control* box : {&PercExTxB0, &PercExTxB1, &PercExTxB2}) box->text.clear();
+}
+
+void PercExForm::BasisStatus() {
+  WindnrLbl.text = "23";
+  DimLbl4.text.clear();
+  CommentLbl.Hide();
+  ShowHeader();
+  ShowIntroduction();
+  TestLayout();
+  RebuildStrip();
+  menuExtrPol.enabled = session.LimitsOk;
+}
+
+void PercExForm::ShowHeader() {
+  NameLbl.text = session.Name;
+  SampSizLbl.text = Shown(session.M);
+  DegreesLbl.text = Shown(session.df);
+  GMValueLbl.text = Shown(session.GM);
+  GSDValueLbl.text = Shown(session.GSD);
+  DimLbl0.text = session.Unit;
+  DimLbl1.text.clear();
+  VkrValLbl1.text = LimitText(" \\ ");
+}
+
+// The limit value with its unit and, where one is stated, its reference period.
+std::string PercExForm::LimitText(const std::string& separator) const {
+  std::string text = Shown(session.OELV) + " " + session.Unit;
+  if (!session.RefPeriod.empty()) text += separator + session.RefPeriod;
+  return text;
+}
+
+void PercExForm::ShowIntroduction() {
+  const std::string& cr = session.CR;
+  auto text = [](int id) { return LoadResString(id); };
+  std::string intro = text(2340) + cr + text(2342) + text(2344) + cr + text(2346) + cr +
+                      text(2348) + cr + text(2350) + cr + text(2352) + cr + cr + text(2354) +
+                      ShownTrimmed(session.M) + text(2355);
+  if (session.OELV.value_or(0) > 0) {
+    const double distance = Divide(Log(*session.OELV) - Log(session.GM), Log(session.GSD));
+    intro += text(2357) + " = " + ShownTrimmed(distance) + " " + text(2358);
+  }
+  IntroLbl.text = intro;
+}
+
+void PercExForm::ShowWording() {
+  const int frame = session.RegressionOn ? 2832 : 2830;
+  Frame2.text = LoadResString(frame);
+  Frame2.tip = Frame2.text;
+  if (session.RegressionOn) {
+    GMLbl.text = navigation::RegressionWords(session, "GMg");
+    GSDLbl.text = navigation::RegressionWords(session, "GSDg");
+  } else {
+    GMLbl.text = LoadResString(2006);
+    GSDLbl.text = LoadResString(2008);
+  }
+}
+
+void PercExForm::ShowResultControls(bool shown) {
+  for (screen::Control* control :
+       {&MenuVerd, &MenuPrint, &PercExLbl0, &PercExLbl1, &PercExLbl2, &PercExTxB0, &PercExTxB1,
+        &PercExTxB2, &DimLbl2, &DimLbl3, &DimLbl4, &CommentLbl})
+    control->visible = shown;
+  IntroFrm.visible = !shown;
+}
+
+void PercExForm::TestLayout() {
+  DimLbl2.text = "%";
+  DimLbl3.text = session.Unit;
+  CommentLbl.Hide();
+  ShowResultControls(!session.TestTag.empty());
+  if (session.TestTag.empty()) {
+    UTLFrm.text = LoadResString(2320);
+    ComplianceLbl.Hide();
+    SampSizeCkb.Hide();
+    SampSizeCkb.ticked = false;
+  }
+  if (!(session.OELV.value_or(0) > 0)) {
+    desk.Open(navigation::ScreenId::Basis);
+    return;
+  }
+  Ur = Divide(Log(Divide(*session.OELV, session.GM)), Log(session.GSD));
+  VkrValLbl1.text = LimitText(" \\  ");
+}
+
+void PercExForm::ShowVerdict(bool compliance, int captionIfSo, int captionIfNot) {
+  ComplianceLbl.colour = compliance ? kGreen : kRed;
+  ComplianceLbl.text = LoadResString(compliance ? captionIfSo : captionIfNot);
+}
+
+void PercExForm::LeidelCmb_Click() {
+  session.TestTag = "Le";
+  IntroFrm.Hide();
+  TestLayout();
+  WindnrLbl.text = "25";
+  UTLFrm.text = LoadResString(2320) + ": " + LoadResString(2501);
+  for (screen::Control* control :
+       {&SampsizeFrm, &SampSizeCkb, &PercExLbl2, &PercExTxB2, &DimLbl4})
+    control->Hide();
+  ComplianceLbl.Show();
+  CommentLbl.text = LoadResString(2505) + LoadResString(2506) + LoadResString(2507);
+  PercExLbl0.text = PercExLbl0.tip = PercExTxB0.tip = LoadResString(2508);
+  PercExTxB0.text = std::string(17, ' ');
+
+  session.PercEx = LeidelExceedance(Ur);
+  ShowVerdict(session.PercEx < kActionPercent, 2307, 2308);
+  PercExTxB0.text = session.PercEx == 0 ? "    <1E-300      " : Shown(session.PercEx);
+
+  PercExLbl1.tip = PercExTxB1.tip = LoadResString(2503);
+  Ur = LeidelDeviate(session.U);
+  session.UTL = LeidelToleranceLimit(session.GM, session.GSD, Ur);
+  PercExLbl1.text = ShownTrimmed(session.U) + LoadResString(2504);
+  PercExTxB1.text = Shown(session.UTL);
+  shownBasis_ = PresentBasis();
+  Refresh();
+}
+
+}  // namespace compliance

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <string>
+
 #include "navigation/session_form.h"
 
 namespace compliance {
@@ -48,13 +51,30 @@ struct PercExForm final : navigation::SessionForm {
   screen::Control SampsizeFrm{*this, screen::Kind::Frame, "SampsizeFrm"};
 
   double Ur = 0;  // standardised distance of the limit from the mean on the log scale
+  bool loaded = false;
 
   void Load() override;
   void Activate() override;
 
   void BasisStatus();
+  // Sets the layout for the present TestTag and computes Ur.
   void TestLayout();
   void LeidelCmb_Click();
+
+ private:
+  // What a verdict rests on.
+  using Basis = std::array<double, 6>;
+  Basis PresentBasis() const;
+
+  void ShowHeader();
+  void ShowIntroduction();
+  void ShowWording();
+  void DropStaleResults();
+  void ShowResultControls(bool shown);
+  std::string LimitText(const std::string& separator) const;
+  void ShowVerdict(bool compliance, int captionIfSo, int captionIfNot);
+
+  Basis shownBasis_{};
 };
 
 }  // namespace compliance

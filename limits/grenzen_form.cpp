@@ -1,0 +1,216 @@
+#include "limits/grenzen_form.h"
+
+#include "catalog/catalog.h"
+#include "limits/steps.h"
+
+namespace limits {
+namespace {
+
+// The blue that says: this value is still to be filled in.
+constexpr screen::Colour kMissing{0, 0, 255};
+constexpr int kDefaultUnit = 314;
+constexpr int kSmallestOELV = 2160;
+
+}  // namespace
+
+GrenzenForm::GrenzenForm(ExposureSession& record, navigation::Desk& programDesk,
+                         screen::Ports& formPorts)
+    : SessionForm("GrenzenForm", navigation::ScreenId::Grenzen, "TabGrenzen", record, programDesk,
+                  formPorts) {
+  WireBoxes();
+  WireSteps();
+  WireCombos();
+}
+
+void GrenzenForm::WireBoxes() {
+  for (screen::Control* box : {&AlphaTxb, &DeltaTxb}) {
+    box->GotFocus = [this, box] {
+      WindnrLbl.text = "21";
+      box->text = ShownTrimmed(box == &AlphaTxb ? session.U : session.D);
+      box->selectAll = true;
+    };
+    box->LostFocus = box->EnterKey = [this, box] { LeavePercent(*box); };
+  }
+  VkrValTxB.GotFocus = [this] {
+    WindnrLbl.text = "21";
+    if (GlobalBAS::InRangeOELV(session.OELV)) VkrValTxB.text = ShownTrimmed(session.OELV);
+    VkrValTxB.selectAll = true;
+  };
+  VkrValTxB.LostFocus = VkrValTxB.EnterKey = [this] { LeaveLimit(); };
+}
+
+void GrenzenForm::WireSteps() {
+  Alpha_UpD.StepUp = [this] { StepPercent(AlphaTxb, 1); };
+  Alpha_UpD.StepDown = [this] { StepPercent(AlphaTxb, -1); };
+  Delta_UpD.StepUp = [this] { StepPercent(DeltaTxb, 1); };
+  Delta_UpD.StepDown = [this] { StepPercent(DeltaTxb, -1); };
+  VkrVal_UpD.StepUp = [this] { StepLimit(1); };
+  VkrVal_UpD.StepDown = [this] { StepLimit(-1); };
+}
+
+void GrenzenForm::WireCombos() {
+  auto wire = [this](screen::Control& combo, std::string& field, const char* window) {
+    combo.GotFocus = [this, &combo, window] {
+      if (*window) WindnrLbl.text = window;
+      combo.selectAll = true;
+    };
+    combo.Click = [this, &combo, &field] {
+      combo.touched = true;
+      LeaveText(combo, field);
+    };
+    combo.LostFocus = combo.EnterKey = [this, &combo, &field] { LeaveText(combo, field); };
+  };
+  wire(DimCbo, session.Unit, "14");
+  wire(DurationCmB, session.Duration, "20");
+  wire(RefPerCmb, session.RefPeriod, "");
+}
+
+void GrenzenForm::Load() {
+  OfferMenus();
+  caption = session.VersionText + LoadResString(2098);
+  FillCombos();
+  for (screen::Control* box : {&NameTxB, &SampSizTxB}) box->locked = true;
+  VkrValLbl0.colour = kMissing;
+}
+
+void GrenzenForm::FillCombos() {
+  for (int id : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(id));
+  for (int id : {334, 336, 338, 340, 342, 344, 346, 348, 350, 352, 354})
+    DurationCmB.items.push_back(LoadResString(id));
+  RefPerCmb.items = DurationCmB.items;
+  for (const char* period : {"1 month", "3 months", "1 year", "40 years", "life time"})
+    RefPerCmb.items.emplace_back(period);
+}
+
+void GrenzenForm::Activate() {
+  BasisStatus();
+  EnterOwnTab();
+  WindnrLbl.text = session.Mode == "R" ? "21a" : "21b";
+  IdentFrame.Show();
+  NameTxB.text = session.Name;
+  SampSizTxB.text = ShownTrimmed(session.M);
+}
+
+void GrenzenForm::BasisStatus() {
+  Flags();
+  ShowState();
+}
+
+void GrenzenForm::ShowState() {
+  NameTxB.text = session.Name;
+  SampSizTxB.text = ShownTrimmed(session.M);
+  session.TestTag.clear();
+  if (session.Unit.empty()) session.Unit = LoadResString(kDefaultUnit);
+  ShowValues();
+  ColourLabels();
+  ShowMissing();
+  StatusStrip();
+}
+
+void GrenzenForm::ShowValues() {
+  DimCbo.text = session.Unit;
+  DimLbl2.text = session.Unit;
+  RefPerCmb.text = session.RefPeriod.empty() ? LoadResString(330) : session.RefPeriod;
+  DurationCmB.text = session.Duration.empty() ? LoadResString(2322) : session.Duration;
+  AlphaTxb.text = ShownTrimmed(session.U);
+  DeltaTxb.text = ShownTrimmed(session.D);
+  VkrValTxB.text = ShownTrimmed(session.OELV);
+}
+
+// The message that says what is missing, and the focus on the first bad entry.
+void GrenzenForm::ShowMissing() {
+  BoodschFrame.visible = !session.LimitsOk;
+  BoodschLbl.text = session.CR + LoadResString(2170) + session.CR + LoadResString(2175);
+  menuExtrPol.enabled = session.LimitsOk;
+  if (session.LimitsOk) return;
+  if (!GlobalBAS::InRangeOELV(session.OELV))
+    SetFocus(VkrValTxB);
+  else if (!GlobalBAS::InRangeU(session.U))
+    SetFocus(AlphaTxb);
+  else if (!GlobalBAS::InRangeD(session.D))
+    SetFocus(DeltaTxb);
+}
+
+void GrenzenForm::StatusStrip() {
+  RebuildStrip();
+  menuExtrPol.visible = session.LimitsOk;
+}
+
+void GrenzenForm::ColourLabels() {
+  auto colour = [](screen::Control& label, bool missing) {
+    label.colour = missing ? std::optional(kMissing) : std::nullopt;
+  };
+  colour(VkrValLbl1, session.RefPeriod.empty());
+  colour(DimLbl0, session.Unit.empty());
+  colour(DimLbl2, session.Unit.empty());
+  colour(DurationLbl, session.Duration.empty());
+  colour(AlphaLbl0, false);
+  colour(AlphaLbl1, false);
+}
+
+void GrenzenForm::LeavePercent(screen::Control& box) {
+  box.text = GlobalBAS::Trim(box.text);
+  if (&box == &AlphaTxb)
+    GlobalBAS::CheckU(session, EntryOf(box), session.U, Notifier());
+  else
+    GlobalBAS::CheckD(session, EntryOf(box), session.D, Notifier());
+  box.touched = false;
+  const bool refused = session.InputState != 0;
+  Flags();
+  ShowState();
+  if (refused) SetFocus(box);
+}
+
+// An empty box keeps the limit as it is, yet marks it as missing.
+void GrenzenForm::LeaveLimit() {
+  VkrValTxB.text = GlobalBAS::Trim(VkrValTxB.text);
+  if (VkrValTxB.text.empty()) {
+    VkrValLbl0.colour = kMissing;
+    return;
+  }
+  GlobalBAS::CheckOELV(session, EntryOf(VkrValTxB), session.OELV, Notifier());
+  VkrValTxB.touched = false;
+  const bool refused = session.InputState != 0;
+  Flags();
+  VkrValLbl0.colour.reset();
+  ShowState();
+  if (refused) SetFocus(VkrValTxB);
+}
+
+void GrenzenForm::LeaveText(screen::Control& combo, std::string& field) {
+  if (!combo.touched) return;
+  field = combo.text;
+  combo.touched = false;
+  DimLbl2.text = session.Unit;
+  ColourLabels();
+}
+
+// A text that is still being typed counts first.
+void GrenzenForm::StepPercent(screen::Control& box, int direction) {
+  if (box.touched) LeavePercent(box);
+  double& value = &box == &AlphaTxb ? session.U : session.D;
+  value = limits::StepPercent(value, direction);
+  box.text = ShownTrimmed(value);
+  box.touched = false;
+}
+
+void GrenzenForm::StepLimit(int direction) {
+  if (VkrValTxB.touched) LeaveLimit();
+  const LimitStep step = StepOELV(session.OELV, direction);
+  session.OELV = step.value;
+  if (step.atBound) session.MsgText = LoadResString(kSmallestOELV);
+  VkrValTxB.text = ShownTrimmed(session.OELV);
+  VkrValTxB.touched = false;
+}
+
+void GrenzenForm::BeforeTabClick() {
+  for (screen::Control* box : {&AlphaTxb, &DeltaTxb})
+    if (box->touched) LeavePercent(*box);
+  if (VkrValTxB.touched) LeaveLimit();
+  LeaveText(DimCbo, session.Unit);
+  LeaveText(RefPerCmb, session.RefPeriod);
+  LeaveText(DurationCmB, session.Duration);
+  Flags();
+}
+
+}  // namespace limits

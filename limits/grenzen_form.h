@@ -40,7 +40,26 @@ struct GrenzenForm final : navigation::SessionForm {
   void Activate() override;
   void BeforeTabClick() override;
 
+  // Brings every control into line with the session.
   void BasisStatus();
+
+ private:
+  void WireBoxes();
+  void WireSteps();
+  void WireCombos();
+  void FillCombos();
+
+  void ShowState();
+  void ShowValues();
+  void ShowMissing();
+  void StatusStrip();
+  void ColourLabels();
+
+  void LeavePercent(screen::Control& box);
+  void LeaveLimit();
+  void LeaveText(screen::Control& combo, std::string& field);
+  void StepPercent(screen::Control& box, int direction);
+  void StepLimit(int direction);
 };
 
 }  // namespace limits

@@ -16,17 +16,20 @@ class Desk {
   virtual void Open(ScreenId target) = 0;
   // Whether the program has that screen.
   virtual bool Has(ScreenId target) const = 0;
+  // Whether the program has the extrapolation `tag`, and the frequency picture.
+  virtual bool HasExtrapolation(const std::string& tag) const = 0;
+  virtual bool HasPicture() const = 0;
   // Opens the screen of the extrapolation `tag` ("Le", "Wi", "Tu", "Ap", "Ex") and starts it.
   virtual void RunExtrapolation(const std::string& tag) = 0;
   // Whether the series differs from its file.
   virtual bool Unsaved() const = 0;
   // The series now in the record is what its file holds.
   virtual void MarkSaved() = 0;
-  // The user's "close all data": asks about unsaved changes, shows the start screen, ends the
-  // session.
-  virtual void CloseAllData() = 0;
-  // Ends the session and shows the start screen, without a question.
-  virtual void AbandonData() = 0;
+  // Asks about unsaved changes; true when the series may go.
+  virtual bool MayDropSeries() = 0;
+  // "Close all data": asks about unsaved changes, shows the start screen, ends the session. False
+  // when the user kept the session; the screen then stays.
+  virtual bool CloseAllData() = 0;
   // Asks, and ends the program.
   virtual void Exit() = 0;
 };

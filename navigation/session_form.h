@@ -41,8 +41,16 @@ struct SessionForm : screen::Form {
   // A click on the tab with that key.
   void Tab_Click(const std::string& key);
 
-  // Runs before a tab click is looked at.
+  // StatusFlags; besides, an incomplete series has no descriptive statistics.
+  void Flags();
+  // First step of every activation: this screen's tab is the current one.
+  void EnterOwnTab();
+  // Enables the menus whose screens the program has.
+  void OfferMenus();
+
+  // Runs before the gate of a clicked tab is tested, and once it has been found open.
   virtual void BeforeTabClick() {}
+  virtual void BeforeLeavingFor(ScreenId) {}
   // Runs instead of the way out when a click passes no gate.
   virtual void ClickLedNowhere() {}
 
@@ -54,5 +62,8 @@ struct SessionForm : screen::Form {
   // Shows a validator's complaint.
   GlobalBAS::Notify Notifier();
 };
+
+// Label of a regression estimate, such as "Double censored Rankit estimate GMg=".
+std::string RegressionWords(const ExposureSession& session, const std::string& estimate);
 
 }  // namespace navigation

@@ -45,8 +45,40 @@ struct DataCtrlForm final : navigation::SessionForm {
 
   void DataCtrlStatus();
   void VkrSave();
+  // Lets the grid ask for its rows anew.
+  void Rebind();
   // Tells how the opened file was understood; a typed series has no notes.
   void TellReading(const ReadingNotes* notes);
+
+ private:
+  void WireGrid();
+  void WireDetection();
+
+  bool RangeCheck();
+  void ShowRange();
+  void TakeUnit();
+  void SampleStatistics();
+  void ScanSeries();
+  void SortAndLog();
+  void StatusStrip();
+
+  void DetecChB_Click();
+  void DetectionOff();
+  void DetectionOn();
+  void LeaveDetectionLimit(screen::Control& field);
+  void RecountRange();
+
+  std::string CellText(int row, int column);
+  std::string OperatorOf(double value) const;
+  bool Refuses(double value);
+  bool HasRoomFor(int rows);
+  bool WriteCell(int row, int column, const std::string& text);
+  bool AddRow(const std::string& text);
+  void DeleteRow(int row);
+  void CommitRow();
+  void PasteRows(int row, const std::string& text);
+
+  int rangeCheck_ = 0;  // 0 none, 4 range too small, 5 range too large
 };
 
 }  // namespace rawdata

@@ -65,6 +65,8 @@ struct Control : ControlState {
   bool touched = false;
   // Select the whole text at the next showing of the state.
   bool selectAll = false;
+  // Page of the manual that explains the control.
+  int helpContext = 0;
 
   Handler Click;      // button, option, check box, menu; a choice from a combo box's list
   Handler GotFocus;

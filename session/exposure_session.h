@@ -83,8 +83,23 @@ struct ExposureSession {
   std::int16_t Idx = 0;
 };
 
-// Number of elements 1 to M, as a loop bound.
-inline int SampleCount(const ExposureSession& s) { return static_cast<int>(s.M); }
+// The largest sample size.
+inline constexpr int kMaxSampleSize = 2000;
+
+// M as a loop bound. A rejected M that the record still holds counts as the nearest valid bound.
+inline int SampleCount(const ExposureSession& s) {
+  if (!(s.M > 0)) return 0;
+  return s.M > kMaxSampleSize ? kMaxSampleSize : static_cast<int>(s.M);
+}
+
+// Lets C and LnC grow to 0 to M; new elements are 0, and no element is dropped.
+void GrowSeries(ExposureSession& s);
+
+// Cuts C and LnC to 0 to M, or lets them grow.
+void SizeSeries(ExposureSession& s);
+
+// Whether one of C(1) to C(M) is still unfilled (0 or below), or missing.
+bool HasUnfilled(const ExposureSession& s);
 
 // Degrees of freedom of the present M, DetecOn and NInRange, into df.
 void DegreesOfFreedom(ExposureSession& s);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <optional>
+#include <functional>
+#include <string>
 
 #include "navigation/session_form.h"
 #include "rawdata/raw_file.h"
@@ -44,15 +45,63 @@ struct BasisForm final : navigation::SessionForm {
   screen::Control BoodschFrame{*this, screen::Kind::Frame, "BoodschFrame"};
   screen::Control BoodschLbl{*this, screen::Kind::Label, "BoodschLbl"};
 
-  // How the last opened file was understood; empty for a typed series.
-  std::optional<rawdata::ReadingNotes> readingNotes;
+  // Tells the data control screen how the opened file was understood, or, with null, that its
+  // series is gone.
+  std::function<void(const rawdata::ReadingNotes*)> tellReading;
 
   void Load() override;
   void Activate() override;
 
+  // Shows the present state of the session: fields, messages, menus and tabs.
   void BasisStatus();
+  // Ends the session: the record is emptied apart from OELV, U and D.
   void Sluiten();
+  // What "close all data" does once the user has agreed.
+  void Menuclose_Click();
+  // Loads a raw data file into the session and shows the data control screen.
+  void VkrOpen();
+  // The three lines that ask for the kind of data.
   void OpeningMessage();
+
+ private:
+  // What Modify saves and Reset brings back.
+  struct Original {
+    std::string Name;
+    double M = 0;
+    double df = 0;
+    double GM = 0;
+    double GSD = 0;
+  };
+
+  void WireMenus();
+  void WireFields();
+
+  void RawOpt_Click();
+  void ChooseRaw();
+  void DesOpt_GotFocus();
+  void DesOpt_Click();
+  void ChooseStatistics();
+  void MenuNewVkrFil_Click();
+  void CmdContinu_Click();
+  void OriModiCmd_Click();
+
+  void LeaveName();
+  void LeaveSampleSize();
+  void StepSampleSize(double step);
+  void SampleSizeChanged();
+  void LeaveStatistic(screen::Control& field);
+
+  void StatusRaw();
+  void StatusKnown();
+  void ShowStatistics();
+  void StatusStrip();
+  void ShowMessage(const std::string& text);
+
+  void TellRefusal(const std::string& path, const rawdata::FileCheck& check);
+  void TakeSeries(const rawdata::FileValues& file);
+
+  Original ori_;
+  bool keptSession_ = false;  // the user has just declined to give up the series for mode "D"
 };
 
 }  // namespace start

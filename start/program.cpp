@@ -1,0 +1,203 @@
+#include "start/program.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "analysis/descript_form.h"
+#include "catalog/catalog.h"
+#include "compliance/perc_ex_form.h"
+#include "limits/grenzen_form.h"
+#include "rawdata/data_ctrl_form.h"
+#include "start/basis_form.h"
+#include "start/version.h"
+#include "stats/coefficients.h"
+
+namespace start {
+
+using navigation::ScreenId;
+
+struct Program::Parts {
+  Parts(Program& program, screen::Ports& formPorts, std::vector<std::string> folders)
+      : ports(formPorts),
+        coefficientFolders(std::move(folders)),
+        basis(session, program, formPorts),
+        dataCtrl(session, program, formPorts),
+        grenzen(session, program, formPorts),
+        descript(session, program, formPorts),
+        percEx(session, program, formPorts),
+        forms{&basis, &dataCtrl, &grenzen, &descript, &percEx} {
+    basis.tellReading = [this](const rawdata::ReadingNotes* notes) {
+      dataCtrl.TellReading(notes);
+    };
+  }
+
+  screen::Ports& ports;
+  const std::vector<std::string> coefficientFolders;
+  ExposureSession session;
+  BasisForm basis;
+  rawdata::DataCtrlForm dataCtrl;
+  limits::GrenzenForm grenzen;
+  analysis::DescriptForm descript;
+  compliance::PercExForm percEx;
+  std::vector<navigation::SessionForm*> forms;
+  std::vector<screen::Form*> allForms{forms.begin(), forms.end()};
+
+  screen::Form* shown = &basis;
+  bool endRequested = false;
+  std::vector<double> savedSeries;  // C(1) to C(M) as the file holds them
+
+  navigation::SessionForm* ById(ScreenId id) const {
+    for (navigation::SessionForm* form : forms)
+      if (form->id == id) return form;
+    return nullptr;
+  }
+
+  // The outcomes 1 to M as they would be written. Under Modify the record's M is another one.
+  std::vector<double> Series() const {
+    if (session.C.size() < 2) return {};
+    auto count = static_cast<std::size_t>(SampleCount(session));
+    if (session.ModifyMode || count >= session.C.size()) count = session.C.size() - 1;
+    return {session.C.begin() + 1, session.C.begin() + 1 + static_cast<std::ptrdiff_t>(count)};
+  }
+
+  // A series without a file in which no row is filled yet holds nothing to lose.
+  bool NothingTyped() const {
+    const std::vector<double> series = Series();
+    return std::none_of(series.begin(), series.end(), [](double c) { return c > 0; });
+  }
+
+  // What to ask before the program ends; the words follow the kind of data.
+  std::string ExitQuestion() const {
+    const std::string start = LoadResString(215);
+    if (session.Mode == "R")
+      return start + LoadResString(220) + session.Name + LoadResString(225);
+    if (session.Mode == "D")
+      return start + LoadResString(230) + session.Name + LoadResString(225);
+    return start + LoadResString(220) + LoadResString(235);
+  }
+};
+
+Program::Program(screen::Ports& ports, std::vector<std::string> coefficientFolders)
+    : parts_(std::make_unique<Parts>(*this, ports, std::move(coefficientFolders))) {}
+
+Program::~Program() = default;
+
+ExposureSession& Program::Session() { return parts_->session; }
+
+const std::vector<screen::Form*>& Program::Forms() const { return parts_->allForms; }
+
+screen::Form* Program::FormByName(const std::string& name) const {
+  for (screen::Form* form : parts_->allForms)
+    if (form->name == name) return form;
+  return nullptr;
+}
+
+// Each step stands on its own: one that fails is passed over without a word.
+void Program::Start() {
+  auto step = [](const screen::Handler& action) {
+    try {
+      action();
+    } catch (const std::exception&) {
+      return;
+    }
+  };
+  Parts& p = *parts_;
+  p.session.CR = "\r";
+  step([&] { p.session.VersionText = LoadResString(2) + kVersion + "  "; });
+  step([&] { p.basis.caption = p.session.VersionText + LoadResString(3); });
+  for (screen::Form* form : p.allForms) step([&] { screen::ApplyCatalogue(*form); });
+  for (screen::Form* form : p.allForms)
+    if (form != &p.basis && form != &p.percEx) step([&] { form->Load(); });
+  step([&] { StatFWinBAS::LoadCoefficients(p.coefficientFolders); });
+  step([&] { p.basis.Load(); });
+  step([&] { p.basis.EnterOwnTab(); });
+}
+
+screen::Form& Program::Shown() const { return *parts_->shown; }
+
+std::string Program::Title() const {
+  const Parts& p = *parts_;
+  std::string title = GlobalBAS::Trim(p.shown->caption);
+  if (!p.session.Name.empty()) title += " - " + p.session.Name;
+  return title;
+}
+
+bool Program::Unsaved() const {
+  const Parts& p = *parts_;
+  return p.session.Mode == "R" && p.Series() != p.savedSeries &&
+         !(p.savedSeries.empty() && p.NothingTyped());
+}
+
+void Program::MarkSaved() { parts_->savedSeries = parts_->Series(); }
+
+bool Program::MayUnload() {
+  using namespace screen;
+  Parts& p = *parts_;
+  if (p.endRequested) return true;
+  const Message question{p.ExitQuestion(), LoadResString(210), Icon::Question, Buttons::OkCancel,
+                         Answer::Ok};
+  p.endRequested = p.ports.messageBox.Show(question) == Answer::Ok;
+  return p.endRequested;
+}
+
+bool Program::EndRequested() const { return parts_->endRequested; }
+
+void Program::Open(ScreenId target) {
+  Parts& p = *parts_;
+  navigation::SessionForm* form = p.ById(target);
+  if (!form) return;
+  p.shown = form;
+  form->focusWanted = nullptr;
+  if (form == &p.percEx && !p.percEx.loaded) p.percEx.Load();
+  if (onShow) onShow(*form);
+  form->Activate();
+}
+
+bool Program::Has(ScreenId target) const { return parts_->ById(target) != nullptr; }
+
+bool Program::HasExtrapolation(const std::string& tag) const { return tag == "Le"; }
+
+bool Program::HasPicture() const { return false; }
+
+void Program::RunExtrapolation(const std::string& tag) {
+  Parts& p = *parts_;
+  if (!HasExtrapolation(tag)) return;
+  if (p.shown != &p.percEx) {
+    const ScreenId from = static_cast<navigation::SessionForm*>(p.shown)->id;
+    if (!workflow::GateOpen(p.session, from, ScreenId::PercEx)) return;
+    p.session.TestTag = tag;
+    Open(ScreenId::PercEx);
+  }
+  p.percEx.LeidelCmb_Click();
+}
+
+bool Program::MayDropSeries() {
+  using namespace screen;
+  Parts& p = *parts_;
+  if (!Unsaved()) return true;
+  const Message question{
+      LoadResString(215) + LoadResString(220) + p.session.Name + " ?", LoadResString(1324),
+      Icon::Question, Buttons::YesNo, Answer::No};
+  return p.ports.messageBox.Show(question) == Answer::Yes;
+}
+
+bool Program::CloseAllData() {
+  Parts& p = *parts_;
+  if (!MayDropSeries()) return false;
+  if (p.shown != &p.basis) Open(ScreenId::Basis);
+  p.basis.Menuclose_Click();
+  return true;
+}
+
+void Program::Exit() {
+  using namespace screen;
+  Parts& p = *parts_;
+  const Message question{p.ExitQuestion(), LoadResString(210), Icon::None, Buttons::YesNo,
+                         Answer::No};
+  if (p.ports.messageBox.Show(question) == Answer::Yes)
+    p.endRequested = true;
+  else
+    Open(ScreenId::Basis);
+}
+
+}  // namespace start

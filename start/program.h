@@ -15,7 +15,8 @@ namespace start {
 // window toolkit binds its widgets to Forms() and follows Shown().
 class Program final : public navigation::Desk {
  public:
-  explicit Program(screen::Ports& ports);
+  // `coefficientFolders`: where the coefficient files are looked for besides the current directory.
+  Program(screen::Ports& ports, std::vector<std::string> coefficientFolders);
   ~Program() override;
 
   ExposureSession& Session();
@@ -42,11 +43,13 @@ class Program final : public navigation::Desk {
   // navigation::Desk
   void Open(navigation::ScreenId target) override;
   bool Has(navigation::ScreenId target) const override;
+  bool HasExtrapolation(const std::string& tag) const override;
+  bool HasPicture() const override;
   bool Unsaved() const override;
   void MarkSaved() override;
   void RunExtrapolation(const std::string& tag) override;
-  void CloseAllData() override;
-  void AbandonData() override;
+  bool MayDropSeries() override;
+  bool CloseAllData() override;
   void Exit() override;
 
  private:

@@ -1,0 +1,18 @@
+#pragma once
+
+// The maximum likelihood compliance test: the sample's GM and GSD are taken as the population's.
+namespace compliance {
+
+// Percent of the exposure distribution above the limit value, 0 to 100. `Ur` is the standardised
+// distance of the limit from the mean on the log scale, ln(OELV / GM) / ln(GSD), any finite value.
+// Upper tail of the standard normal distribution; 0 above Ur = 37. Source: Leidel, Busch, Lynch,
+// Occupational Exposure Sampling Strategy Manual (1977). As accurate as NormalUpper.
+double LeidelExceedance(double Ur);
+
+// The deviate that the fraction U / 100 of the population stays below; U in percent, 0.01 to 99.99.
+double LeidelDeviate(double U);
+
+// Upper tolerance limit GM * GSD ^ deviate, in the unit of GM. Faults beyond a double.
+double LeidelToleranceLimit(double GM, double GSD, double deviate);
+
+}  // namespace compliance

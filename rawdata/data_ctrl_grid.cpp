@@ -1,0 +1,226 @@
+#include <algorithm>
+
+#include "catalog/catalog.h"
+#include "rawdata/data_ctrl_form.h"
+
+// The grid of the data control screen: its cells, and what editing them does to the series.
+namespace rawdata {
+namespace {
+
+constexpr int kNumber = 0;
+constexpr int kOperator = 1;
+constexpr int kConcentration = 2;
+
+// "3, 7 and 12"; a long list is cut.
+std::string LineList(const std::vector<int>& lines) {
+  constexpr std::size_t kMost = 12;
+  const std::size_t shown = std::min(lines.size(), kMost);
+  std::string text;
+  for (std::size_t i = 0; i < shown; ++i) {
+    if (i > 0) text += i + 1 == lines.size() ? " and " : ", ";
+    text += GlobalBAS::GeneralText(lines[i]);
+  }
+  if (shown < lines.size())
+    text += " and " + GlobalBAS::GeneralText(static_cast<double>(lines.size() - shown)) + " more";
+  return text;
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines(1);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+    if (text[i] == '\n' || text[i] == '\r')
+      lines.emplace_back();
+    else
+      lines.back() += text[i];
+  }
+  while (!lines.empty() && GlobalBAS::Trim(lines.back()).empty()) lines.pop_back();
+  return lines;
+}
+
+}  // namespace
+
+void DataCtrlForm::WireGrid() {
+  DBGridVkr.Cell = [this](int row, int column) { return CellText(row, column); };
+  DBGridVkr.Write = [this](int row, int column, const std::string& text) {
+    return WriteCell(row, column, text);
+  };
+  DBGridVkr.AddRow = [this](const std::string& text) { return AddRow(text); };
+  DBGridVkr.DeleteRow = [this](int row) { DeleteRow(row); };
+  DBGridVkr.CommitRow = [this] { CommitRow(); };
+  DBGridVkr.Paste = [this](int row, const std::string& text) { PasteRows(row, text); };
+  // The empty line behind the last row takes the new outcome.
+  MenuAddRow.Click = [this] {
+    DBGridVkr.currentRow = DBGridVkr.rowCount;
+    ++DBGridVkr.revision;
+  };
+  MenuDeleteRow.Click = [this] { DeleteRow(DBGridVkr.currentRow); };
+}
+
+void DataCtrlForm::Rebind() {
+  const int count = std::min(SampleCount(session), static_cast<int>(session.C.size()) - 1);
+  DBGridVkr.rowCount = std::max(count, 0);
+  DBGridVkr.text = session.Name;
+  SampSzLbl.text = ShownTrimmed(session.M);
+  // Showing a concentration widens the numbers to the longest one.
+  for (int row = 1; row <= DBGridVkr.rowCount; ++row) {
+    const auto width =
+        GlobalBAS::GeneralText(session.C[static_cast<std::size_t>(row)]).size();
+    session.SigDigits = std::max(session.SigDigits, static_cast<std::int16_t>(width));
+  }
+  session.GridData.resize(static_cast<std::size_t>(DBGridVkr.rowCount));
+  ++DBGridVkr.revision;
+}
+
+std::string DataCtrlForm::CellText(int row, int column) {
+  if (row < 0 || row >= DBGridVkr.rowCount || column < 0 || column > 3) return "-9999";
+  const double value = session.C[static_cast<std::size_t>(row) + 1];
+  std::string text = session.Unit;
+  if (column == kNumber) text = Shown(row + 1);
+  if (column == kOperator) text = OperatorOf(value);
+  if (column == kConcentration) text = Shown(value);
+  session.GridData[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
+  return text;
+}
+
+// The operators follow from the detection range: they are neither stored nor read from a file.
+std::string DataCtrlForm::OperatorOf(double value) const {
+  if (!session.DetecOn) return "=";
+  if (value < session.LOQ) return "<";
+  return value >= session.URR ? ">" : "=";
+}
+
+bool DataCtrlForm::Refuses(double value) {
+  // An unfilled row reads as 0 or below: the series is incomplete, the entry no error.
+  if (value <= 0 || RefusalOf(value) == 0) return false;
+  Complain(LoadResString(920), LoadResString(1530));
+  return true;
+}
+
+bool DataCtrlForm::HasRoomFor(int rows) {
+  if (rows <= kMaxSampleSize) return true;
+  Complain(LoadResString(380), LoadResString(370));
+  return false;
+}
+
+bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
+  if (column != kConcentration || row < 0 || row >= DBGridVkr.rowCount) return false;
+  const double value = GlobalBAS::ReadNumber(text);
+  if (Refuses(value)) return false;
+  SizeSeries(session);
+  session.C[static_cast<std::size_t>(row) + 1] = value;
+  return true;
+}
+
+bool DataCtrlForm::AddRow(const std::string& text) {
+  const double value = GlobalBAS::ReadNumber(text);
+  if (!HasRoomFor(SampleCount(session) + 1) || Refuses(value)) return false;
+  SizeSeries(session);
+  session.M += 1;
+  SizeSeries(session);
+  std::fill(session.LnC.begin(), session.LnC.end(), 0.0);
+  const auto last = static_cast<std::size_t>(SampleCount(session));
+  session.C[last] = value;
+  if (session.RawIncomplete || value < session.C[last - 1]) session.SortOrder = "Onbekend";
+  CommitRow();
+  return true;
+}
+
+void DataCtrlForm::DeleteRow(int row) {
+  SizeSeries(session);
+  if (session.M <= 2 || row < 0 || row >= SampleCount(session)) return;
+  session.C.erase(session.C.begin() + row + 1);
+  session.M -= 1;
+  SizeSeries(session);
+  std::fill(session.LnC.begin(), session.LnC.end(), 0.0);
+  DBGridVkr.currentRow = std::min(row, SampleCount(session) - 1);
+  CommitRow();
+}
+
+void DataCtrlForm::CommitRow() {
+  DataCtrlStatus();
+  if (!session.RawIncomplete && session.DetecOn) RecountRange();
+  Rebind();
+}
+
+// After an edit, the values that lie within the detection range are counted anew.
+void DataCtrlForm::RecountRange() {
+  const auto first = session.C.begin() + 1;
+  const auto last = first + SampleCount(session);
+  const auto below =
+      session.LOQ < *first ? first : std::upper_bound(first, last, session.LOQ);
+  const auto above =
+      session.URR > *(last - 1) ? last : std::lower_bound(first, last, session.URR);
+  if (above - below < 2) return;
+  session.FirstInRange = static_cast<std::int16_t>(below - first + 1);
+  session.LastInRange = static_cast<std::int16_t>(above - first);
+  DetectionOn();
+  DegreesOfFreedom(session);
+}
+
+// All lines or none: a refused line would shift the rows behind it.
+void DataCtrlForm::PasteRows(int row, const std::string& text) {
+  const std::vector<std::string> lines = Lines(text);
+  if (lines.empty() || row < 0 || row > SampleCount(session)) return;
+  std::vector<double> values;
+  for (const std::string& line : lines) {
+    values.push_back(GlobalBAS::ReadNumber(line));
+    if (RefusalOf(values.back()) == 0) continue;
+    Complain("Line " + GlobalBAS::GeneralText(static_cast<double>(values.size())) + ": \"" +
+                 line.substr(0, 40) + "\". " + LoadResString(920) + "Nothing was pasted.",
+             LoadResString(1530));
+    return;
+  }
+  const int rows = std::max(SampleCount(session), row + static_cast<int>(values.size()));
+  if (!HasRoomFor(rows)) return;
+  SizeSeries(session);
+  session.M = rows;
+  SizeSeries(session);
+  std::copy(values.begin(), values.end(), session.C.begin() + 1 + row);
+  session.SortOrder = "Onbekend";
+  CommitRow();
+}
+
+void DataCtrlForm::TellReading(const ReadingNotes* notes) {
+  ReadingLbl.text.clear();
+  if (!notes) {
+    Rebind();
+    return;
+  }
+  ReadingLbl.text = ShownTrimmed(session.M) + " outcomes read.";
+  if (!notes->trailingText.empty())
+    ReadingLbl.text += " Text behind the number on line " + LineList(notes->trailingText) +
+                       " was passed over.";
+  if (!notes->commaAndPoint.empty())
+    ReadingLbl.text += " Both comma and point on line " + LineList(notes->commaAndPoint) +
+                       ": the last one was read as the decimal sign.";
+}
+
+void DataCtrlForm::VkrSave() {
+  session.MsgText = LoadResString(1320);
+  session.MsgTitle = LoadResString(1324);
+  const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
+      {true, LoadResString(94), "Valkorin Files (*.vkr)|*.vkr", session.Name, "Valkowin.chm",
+       100260}));
+  if (path.empty()) {
+    ports.messageBox.Show({session.MsgText, session.MsgTitle});
+    return;
+  }
+  busyPointer = true;
+  Refresh();
+  session.MsgTitle = LoadResString(910) + path;
+  session.MsgText.clear();
+  SizeSeries(session);
+  const bool written = WriteFile(path, {session.C.begin() + 1, session.C.end()});
+  busyPointer = false;
+  if (!written) {
+    ReadingLbl.text = "The file could not be written: " + path + ". The series is not saved.";
+    return;
+  }
+  session.Name = path;
+  desk.MarkSaved();
+  ReadingLbl.text = ShownTrimmed(session.M) + " outcomes saved.";
+  Rebind();
+}
+
+}  // namespace rawdata

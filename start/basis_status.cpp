@@ -1,0 +1,166 @@
+#include "catalog/catalog.h"
+#include "start/basis_form.h"
+
+namespace start {
+
+void BasisForm::BasisStatus() {
+  Flags();
+  BoodschFrame.Show();
+  menuExtrPol.enabled = false;
+  menuTools.Show();
+  MenuPlot.enabled = desk.Has(navigation::ScreenId::Plot);
+  if (session.Mode.empty()) {
+    IdentFrame.Hide();
+    NameTxB.locked = false;
+    SampSizTxB.locked = false;
+    menuTools.Hide();
+    return;
+  }
+  if (session.Mode == "R")
+    StatusRaw();
+  else
+    StatusKnown();
+  StatusStrip();
+  busyPointer = false;
+}
+
+void BasisForm::StatusRaw() {
+  BoodschFrame.Hide();
+  IdentFrame.Show();
+  NameTxB.text = session.Name;
+  SampSizTxB.text = ShownTrimmed(session.M);
+  NameTxB.locked = false;
+  SampSizTxB.locked = false;
+  OriModiCmd.Hide();
+  if (!session.IdentOk) {
+    BoodschFrame.Show();
+    DescriptFrame.Hide();
+    menuTools.Hide();
+    return;
+  }
+  CmdContinu.Show();
+  // The series itself can't be edited while other values are tried on top of it.
+  CmdContinu.enabled = !session.ModifyMode;
+  DescriptFrame.visible = session.ModifyMode;
+  if (session.ModifyMode) {
+    GMTxB.locked = false;
+    GSDTxB.locked = false;
+    ShowStatistics();
+  }
+  if (session.DescOk) {
+    OriModiCmd.Show();
+    menuExtrPol.enabled = session.LimitsOk;
+  } else {
+    menuTools.Hide();
+  }
+}
+
+void BasisForm::StatusKnown() {
+  IdentFrame.Show();
+  CmdContinu.Hide();
+  NameTxB.Show();
+  NameTxB.locked = false;
+  SampSizTxB.locked = false;
+  NameTxB.text = session.Name;
+  SampSizTxB.text = session.M < 1 ? std::string() : ShownTrimmed(session.M);
+  ShowStatistics();
+  MenuPlot.enabled = false;
+  if (!session.IdentOk) {
+    BoodschFrame.Show();
+    DescriptFrame.Hide();
+    OriModiCmd.Hide();
+    menuTools.Hide();
+    return;
+  }
+  BoodschFrame.Hide();
+  DescriptFrame.Show();
+  DegreesOfFreedom(session);
+  DegreesLbl.text = ShownTrimmed(session.df);
+  GMTxB.locked = false;
+  GSDTxB.locked = false;
+  if (!session.DescOk) {
+    menuTools.Hide();
+    SetFocus(GlobalBAS::InRangeGM(session.GM) ? GSDTxB : GMTxB);
+    OriModiCmd.Hide();
+    return;
+  }
+  OriModiCmd.Show();
+  if (session.LimitsOk) menuExtrPol.enabled = true;
+}
+
+void BasisForm::ShowStatistics() {
+  GMTxB.text = GlobalBAS::InRangeGM(session.GM) ? ShownTrimmed(session.GM) : std::string();
+  GSDTxB.text = GlobalBAS::InRangeGSD(session.GSD) ? ShownTrimmed(session.GSD) : std::string();
+  DegreesLbl.text = ShownTrimmed(session.df);
+  DimLbl.text = session.Unit;
+}
+
+void BasisForm::StatusStrip() {
+  Tabs.visible = workflow::StripVisible(session);
+  if (!Tabs.visible) return;
+  if (session.LimitsOk) menuTools.Show();
+  RebuildStrip();
+}
+
+void BasisForm::Menuclose_Click() {
+  WindnrLbl.text = "2";
+  menuopen.enabled = true;
+  MenuNewVkrFil.enabled = true;
+  menuExtrPol.enabled = false;
+  Sluiten();
+}
+
+void BasisForm::Sluiten() {
+  session.Name.clear();
+  session.M = 0;
+  if (session.Mode == "R") {
+    SizeSeries(session);
+    session.GridData.assign(1, {});
+  }
+  session.Mode.clear();
+  session.DescOk = false;
+  session.IdentOk = false;
+  if (session.LimitsOk) GlobalBAS::StatusFlags(session);
+  session.LimitsOk = false;
+  session.RawIncomplete = false;
+  session.SortOrder = "Onbekend";
+  session.MsgTitle.clear();
+  session.MsgText.clear();
+  session.InputState = 0;
+  session.DetecOn = false;
+  session.RegressionOn = false;
+  session.ModifyMode = false;
+
+  DesRawFrame.enabled = true;
+  DesRawFrame.Show();
+  const bool wasTicked = RawOpt.ticked;
+  RawOpt.ticked = true;
+  DesOpt.ticked = false;
+  if (!wasTicked) ChooseRaw();
+  session.IdentOk = false;
+  IdentFrame.Hide();
+  for (screen::Control* box : {&NameTxB, &SampSizTxB}) {
+    box->text.clear();
+    box->locked = false;
+  }
+  session.Unit.clear();
+  session.Duration.clear();
+  session.RefPeriod.clear();
+  DescriptFrame.Hide();
+  for (screen::Control* box : {&DegreesLbl, &GMTxB, &GSDTxB}) box->text.clear();
+  session.df = 0;
+  session.GM = 0;
+  session.GSD = 0;
+  session.LogName.clear();
+  desk.MarkSaved();
+  if (tellReading) tellReading(nullptr);
+  OpeningMessage();
+  menuTools.Hide();
+  OriModiCmd.text = LoadResString(725);
+  OriModiCmd.Hide();
+  CmdContinu.Hide();
+  Tabs.Hide();
+  busyPointer = false;
+}
+
+}  // namespace start
