@@ -10,6 +10,7 @@ struct DescriptForm final : navigation::SessionForm {
   DescriptForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control IdentFrame{*this, screen::Kind::Frame, "IdentFrame"};
+  screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
   screen::Control NameTxB{*this, screen::Kind::TextBox, "NameTxB"};
   screen::Control SampSizLbl{*this, screen::Kind::Label, "SampSizLbl"};
   screen::Control SampSizTxB{*this, screen::Kind::TextBox, "SampSizTxB"};
@@ -26,7 +27,7 @@ struct DescriptForm final : navigation::SessionForm {
   screen::Control GMuTxB{*this, screen::Kind::TextBox, "GMuTxB"};
   screen::Control DimLbl2{*this, screen::Kind::Label, "DimLbl(2)"};
 
-  screen::Control MeanFrame{*this, screen::Kind::Frame, "MeanFrame"};
+  screen::Control ArithmFrm{*this, screen::Kind::Frame, "ArithmFrm"};
   screen::Control AMmlLbl{*this, screen::Kind::Label, "AMmlLbl"};
   screen::Control AMmlTxb{*this, screen::Kind::TextBox, "AMmlTxb"};
   screen::Control DimLbl3{*this, screen::Kind::Label, "DimLbl(3)"};
@@ -36,11 +37,11 @@ struct DescriptForm final : navigation::SessionForm {
   screen::Control AMmvLbl{*this, screen::Kind::Label, "AMmvLbl"};
   screen::Control AMmvTxb{*this, screen::Kind::TextBox, "AMmvTxb"};
   screen::Control DimLbl5{*this, screen::Kind::Label, "DimLbl(5)"};
-  screen::Control AmlinLbl{*this, screen::Kind::Label, "AmlinLbl"};
+  screen::Control AMlinLbl{*this, screen::Kind::Label, "AMlinLbl"};
   screen::Control AmlinTxb{*this, screen::Kind::TextBox, "AmlinTxb"};
   screen::Control DimLbl6{*this, screen::Kind::Label, "DimLbl(6)"};
 
-  screen::Control DeviationFrame{*this, screen::Kind::Frame, "DeviationFrame"};
+  screen::Control SDFrm{*this, screen::Kind::Frame, "SDFrm"};
   screen::Control SDULbl{*this, screen::Kind::Label, "SDULbl"};
   screen::Control SDUTxb{*this, screen::Kind::TextBox, "SDUTxb"};
   screen::Control DimLbl7{*this, screen::Kind::Label, "DimLbl(7)"};
@@ -49,10 +50,10 @@ struct DescriptForm final : navigation::SessionForm {
   screen::Control DimLbl8{*this, screen::Kind::Label, "DimLbl(8)"};
 
   screen::Control DetecFrame{*this, screen::Kind::Frame, "DetecFrame"};
-  screen::Control DetecLLbl{*this, screen::Kind::Label, "DetecLLbl"};
+  screen::Control DetcLbl0{*this, screen::Kind::Label, "DetcLbl(0)"};
   screen::Control DetecLTxb{*this, screen::Kind::TextBox, "DetecLTxb"};
   screen::Control DimLbl9{*this, screen::Kind::Label, "DimLbl(9)"};
-  screen::Control DetecULbl{*this, screen::Kind::Label, "DetecULbl"};
+  screen::Control DetcLbl1{*this, screen::Kind::Label, "DetcLbl(1)"};
   screen::Control DetecUTxb{*this, screen::Kind::TextBox, "DetecUTxb"};
   screen::Control DegreesLbl7{*this, screen::Kind::Label, "DegreesLbl(7)"};
   screen::Control DegreesTxb{*this, screen::Kind::TextBox, "DegreesTxb"};

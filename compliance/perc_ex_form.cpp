@@ -70,8 +70,8 @@ void PercExForm::ShowHeader() {
   NameLbl.text = session.Name;
   SampSizLbl.text = Shown(session.M);
   DegreesLbl.text = Shown(session.df);
-  GMValueLbl.text = Shown(session.GM);
-  GSDValueLbl.text = Shown(session.GSD);
+  GMLbl.text = Shown(session.GM);
+  GSDLbl.text = Shown(session.GSD);
   DimLbl0.text = session.Unit;
   DimLbl1.text.clear();
   VkrValLbl1.text = LimitText(" \\ ");
@@ -102,11 +102,11 @@ void PercExForm::ShowWording() {
   Frame2.text = LoadResString(frame);
   Frame2.tip = Frame2.text;
   if (session.RegressionOn) {
-    GMLbl.text = navigation::RegressionWords(session, "GMg");
-    GSDLbl.text = navigation::RegressionWords(session, "GSDg");
+    GMLbl0.text = navigation::RegressionWords(session, "GMg");
+    GSDLbl0.text = navigation::RegressionWords(session, "GSDg");
   } else {
-    GMLbl.text = LoadResString(2006);
-    GSDLbl.text = LoadResString(2008);
+    GMLbl0.text = LoadResString(2006);
+    GSDLbl0.text = LoadResString(2008);
   }
 }
 

@@ -15,15 +15,15 @@ struct PercExForm final : navigation::SessionForm {
 
   screen::Control Frame2{*this, screen::Kind::Frame, "Frame2"};
   screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
-  screen::Control SampSizCaptionLbl{*this, screen::Kind::Label, "SampSizCaptionLbl"};
+  screen::Control SampSizLbl0{*this, screen::Kind::Label, "SampSizLbl(0)"};
   screen::Control SampSizLbl{*this, screen::Kind::Label, "SampSizLbl"};
-  screen::Control DegreesCaptionLbl{*this, screen::Kind::Label, "DegreesCaptionLbl"};
+  screen::Control DegreesLbl0{*this, screen::Kind::Label, "DegreesLbl(0)"};
   screen::Control DegreesLbl{*this, screen::Kind::Label, "DegreesLbl"};
+  screen::Control GMLbl0{*this, screen::Kind::Label, "GMLbl0(0)"};
   screen::Control GMLbl{*this, screen::Kind::Label, "GMLbl"};
-  screen::Control GMValueLbl{*this, screen::Kind::Label, "GMValueLbl"};
   screen::Control DimLbl0{*this, screen::Kind::Label, "DimLbl(0)"};
+  screen::Control GSDLbl0{*this, screen::Kind::Label, "GSDLbl0(0)"};
   screen::Control GSDLbl{*this, screen::Kind::Label, "GSDLbl"};
-  screen::Control GSDValueLbl{*this, screen::Kind::Label, "GSDValueLbl"};
   screen::Control DimLbl1{*this, screen::Kind::Label, "DimLbl(1)"};
   screen::Control VkrValLbl0{*this, screen::Kind::Label, "VkrValLbl(0)"};
   screen::Control VkrValLbl1{*this, screen::Kind::Label, "VkrValLbl(1)"};

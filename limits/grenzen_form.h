@@ -9,6 +9,7 @@ struct GrenzenForm final : navigation::SessionForm {
   GrenzenForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control IdentFrame{*this, screen::Kind::Frame, "IdentFrame"};
+  screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
   screen::Control NameTxB{*this, screen::Kind::TextBox, "NameTxB"};
   screen::Control SampSizLbl{*this, screen::Kind::Label, "SampSizLbl"};
   screen::Control SampSizTxB{*this, screen::Kind::TextBox, "SampSizTxB"};

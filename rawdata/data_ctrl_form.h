@@ -20,24 +20,24 @@ struct DataCtrlForm final : navigation::SessionForm {
   screen::Control ReadingLbl{*this, screen::Kind::Label, "ReadingLbl"};
 
   screen::Control SampleFrame{*this, screen::Kind::Frame, "SampleFrame"};
-  screen::Control SampSzCaptionLbl{*this, screen::Kind::Label, "SampSzCaptionLbl"};
+  screen::Control SampSzLbl0{*this, screen::Kind::Label, "SampSzLbl(0)"};
   screen::Control SampSzLbl{*this, screen::Kind::Label, "SampSzLbl"};
   screen::Control UnitLbl{*this, screen::Kind::Label, "UnitLbl"};
   screen::Control DimCbo{*this, screen::Kind::ComboBox, "DimCbo"};
 
   screen::Control RangeFrame{*this, screen::Kind::Frame, "RangeFrame"};
-  screen::Control LowestLbl{*this, screen::Kind::Label, "LowestLbl"};
+  screen::Control C1Lbl0{*this, screen::Kind::Label, "C1Lbl(0)"};
   screen::Control C1Lbl{*this, screen::Kind::Label, "C1Lbl"};
-  screen::Control HighestLbl{*this, screen::Kind::Label, "HighestLbl"};
+  screen::Control CnLbl0{*this, screen::Kind::Label, "CnLbl(0)"};
   screen::Control CnLbl{*this, screen::Kind::Label, "CnLbl"};
 
   screen::Control DetecChB{*this, screen::Kind::CheckBox, "DetecChB"};
   screen::Control FrmDetec{*this, screen::Kind::Frame, "FrmDetec"};
-  screen::Control DetecLLbl{*this, screen::Kind::Label, "DetecLLbl"};
+  screen::Control DetcLbl0{*this, screen::Kind::Label, "DetcLbl(0)"};
   screen::Control DetecLTxb{*this, screen::Kind::TextBox, "DetecLTxb"};
-  screen::Control DetecULbl{*this, screen::Kind::Label, "DetecULbl"};
+  screen::Control DetcLbl1{*this, screen::Kind::Label, "DetcLbl(1)"};
   screen::Control DetecUTxb{*this, screen::Kind::TextBox, "DetecUTxb"};
-  screen::Control InRangeLbl{*this, screen::Kind::Label, "InRangeLbl"};
+  screen::Control DegreesLbl0{*this, screen::Kind::Label, "DegreesLbl(0)"};
   screen::Control DegreesLbl{*this, screen::Kind::Label, "DegreesLbl"};
 
   void Load() override;

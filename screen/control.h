@@ -93,7 +93,8 @@ struct Tab {
 };
 
 struct TabStrip : Control {
-  TabStrip(Form& form, std::string name) : Control(form, Kind::TabStrip, std::move(name)) {}
+  TabStrip(Form& form, std::string stripName)
+      : Control(form, Kind::TabStrip, std::move(stripName)) {}
   std::vector<Tab> tabs;
   std::string selected;                            // key
   std::function<void(const std::string&)> Choose;  // a click on the tab with that key
@@ -106,7 +107,7 @@ struct Grid : Control {
     int widthTwips = 0;
     bool editable = false;
   };
-  Grid(Form& form, std::string name) : Control(form, Kind::Grid, std::move(name)) {}
+  Grid(Form& form, std::string gridName) : Control(form, Kind::Grid, std::move(gridName)) {}
   std::vector<Column> columns;
   int rowCount = 0;
   int currentRow = 0;
