@@ -1,0 +1,170 @@
+#include <QTabBar>
+
+#include <optional>
+#include <string_view>
+
+#include "drive/failure.h"
+#include "drive/grid_hands.h"
+#include "drive/hands.h"
+#include "drive/look.h"
+#include "drive/player.h"
+#include "drive/record_fields.h"
+#include "drive/text.h"
+
+namespace drive {
+namespace {
+
+constexpr std::string_view kRecord = "session.";
+
+// NAME(ROW,COL) of a table; nullopt for any other name.
+struct CellName {
+  Target grid;
+  int row = 0;
+  int column = 0;
+};
+std::optional<CellName> CellOf(Play& play, const std::string& name) {
+  const std::size_t open = name.find('(');
+  const std::size_t comma = name.find(',', open == std::string::npos ? name.size() : open);
+  if (comma == std::string::npos || name.back() != ')') return std::nullopt;
+  CellName cell{play.stage.Find(name.substr(0, open))};
+  cell.row = IntOf(name.substr(open + 1, comma - open - 1));
+  cell.column = IntOf(name.substr(comma + 1, name.size() - comma - 2));
+  return cell;
+}
+
+Look LookByName(Play& play, const std::string& name) {
+  if (const auto cell = CellOf(play, name))
+    return TextLook(CellText(play.stage, cell->grid, cell->row, cell->column));
+  return LookOf(play.stage, play.stage.Find(name));
+}
+
+std::string LineByName(Play& play, const std::string& name) {
+  std::string line = Line(name, LookByName(play, name));
+  if (CellOf(play, name)) return line;
+  const screen::Control& control = *play.stage.Find(name).control;
+  if (control.kind == screen::Kind::Grid)
+    line += " rows(" + IntText(static_cast<const screen::Grid&>(control).rowCount) + ")";
+  return line;
+}
+
+void Get(Play& play, std::string rest) {
+  const std::string name = TakeWord(rest);
+  if (name.starts_with(kRecord)) {
+    const std::string field = name.substr(kRecord.size());
+    play.Say(name + " = " + FieldText(play.stage.Session(), field));
+  } else {
+    play.Say(LineByName(play, name));
+  }
+}
+
+void Expect(Play& play, std::string rest) {
+  const std::string name = TakeWord(rest);
+  if (name.starts_with(kRecord)) {
+    ExpectField(play.stage.Session(), name.substr(kRecord.size()), rest);
+    return;
+  }
+  const std::string shown = LookByName(play, name).text;
+  if (rest.empty() || rest[0] != '"') throw Failure("expect wants a text in quotes");
+  if (shown != TextArgument(rest) && Quoted(shown) != rest)
+    throw Failure(name + " is " + Quoted(shown) + ", expected " + rest);
+}
+
+void ExpectHidden(Play& play, std::string rest) {
+  if (!LookByName(play, rest).hidden) throw Failure(rest + " is visible");
+}
+
+void ExpectVisible(Play& play, std::string rest) {
+  if (LookByName(play, rest).hidden) throw Failure(rest + " is hidden");
+}
+
+// The whole line of `get`, so that every mark of a control can be checked.
+void ExpectLine(Play& play, std::string rest) {
+  std::string name = rest;
+  name = TakeWord(name);
+  const std::string line = LineByName(play, name);
+  if (line != rest) throw Failure(line + ", expected " + rest);
+}
+
+void ExpectForm(Play& play, std::string rest) {
+  const std::string& shown = play.stage.Shown().name;
+  if (shown != rest) throw Failure("the screen is " + shown + ", expected " + rest);
+}
+
+void ExpectEnded(Play& play, std::string) {
+  if (!play.stage.Ended()) throw Failure("the program is still there");
+}
+
+void Focus(Play& play, std::string) {
+  play.Say("focus = " + Focused(play.stage));
+}
+
+void ExpectFocus(Play& play, std::string rest) {
+  const std::string focused = Focused(play.stage);
+  if (focused != rest) throw Failure("the focus is on " + focused + ", expected " + rest);
+}
+
+void Box(Play& play, std::string) {
+  for (const auto& box : play.boxes.Take()) play.Say(Line(box));
+}
+
+// The one box since the last, as `box` prints it behind its first word.
+void ExpectBox(Play& play, std::string rest) {
+  std::string boxes;
+  for (const auto& box : play.boxes.Take()) boxes += (boxes.empty() ? "" : "; ") + Line(box);
+  if (boxes != "box " + rest) throw Failure("met " + boxes + ", expected box " + rest);
+}
+
+void ExpectNoBox(Play& play, std::string) {
+  const auto boxes = play.boxes.Take();
+  if (!boxes.empty()) throw Failure("met " + Line(boxes.front()));
+}
+
+void DumpTabs(Play& play, const screen::TabStrip& strip) {
+  const QTabBar& shown = play.stage.Strip();
+  for (std::size_t i = 0; i < strip.tabs.size(); ++i) {
+    const screen::Tab& tab = strip.tabs[i];
+    std::string line = "tab " + tab.key + " = " + Quoted(tab.caption);
+    if (!shown.isTabEnabled(static_cast<int>(i))) line += " disabled";
+    if (shown.currentIndex() == static_cast<int>(i)) line += " selected";
+    play.Say(line);
+  }
+}
+
+void Dump(Play& play, std::string) {
+  screen::Form& form = play.stage.Shown();
+  for (screen::Control* control : form.controls) {
+    if (control->kind == screen::Kind::CommonDialog) continue;
+    const Look look = LookOf(play.stage, {&form, control});
+    if (look.hidden) continue;
+    if (control->kind == screen::Kind::Menu) {
+      if (!look.disabled) play.Say("menu " + Line(control->name, look));
+    } else if (control == form.strip) {
+      DumpTabs(play, *form.strip);
+    } else {
+      play.Say(LineByName(play, control->name));
+    }
+  }
+}
+
+}  // namespace
+
+const CommandTable& AnswerCommands() {
+  static const CommandTable table = {
+      {"get", Get},
+      {"expect", Expect},
+      {"expect-hidden", ExpectHidden},
+      {"expect-visible", ExpectVisible},
+      {"expect-line", ExpectLine},
+      {"expect-form", ExpectForm},
+      {"expect-ended", ExpectEnded},
+      {"focus", Focus},
+      {"expect-focus", ExpectFocus},
+      {"box", Box},
+      {"expect-box", ExpectBox},
+      {"expect-no-box", ExpectNoBox},
+      {"dump", Dump},
+  };
+  return table;
+}
+
+}  // namespace drive

@@ -1,0 +1,85 @@
+#include "drive/failure.h"
+#include "drive/grid_hands.h"
+#include "drive/hands.h"
+#include "drive/player.h"
+#include "drive/text.h"
+
+namespace drive {
+namespace {
+
+Target TakeTarget(Play& play, std::string& rest) {
+  const std::string name = TakeWord(rest);
+  if (name.empty()) throw Failure("the command wants the name of a control");
+  return play.stage.Find(name);
+}
+
+void ClickOn(Play& play, std::string rest) {
+  Click(play.stage, TakeTarget(play, rest));
+}
+
+void TypeAndLeave(Play& play, std::string rest) {
+  const Target field = TakeTarget(play, rest);
+  TypeInto(play.stage, field, TextArgument(rest));
+  Press(play.stage, "Tab");
+}
+
+void TypeAndEnter(Play& play, std::string rest) {
+  const Target field = TakeTarget(play, rest);
+  TypeInto(play.stage, field, TextArgument(rest));
+  Press(play.stage, "Return");
+}
+
+void PickEntry(Play& play, std::string rest) {
+  const Target list = TakeTarget(play, rest);
+  Pick(play.stage, list, TextArgument(rest));
+}
+
+void Up(Play& play, std::string rest) {
+  Step(play.stage, TakeTarget(play, rest), Arrow::Up);
+}
+void Down(Play& play, std::string rest) {
+  Step(play.stage, TakeTarget(play, rest), Arrow::Down);
+}
+void Key(Play& play, std::string rest) {
+  Press(play.stage, rest);
+}
+
+void Cell(Play& play, std::string rest) {
+  const int row = IntOf(TakeWord(rest));
+  TypeIntoCell(play.stage, row, TextArgument(rest));
+}
+
+void AddARow(Play& play, std::string rest) {
+  AddRow(play.stage, TextArgument(rest));
+}
+void DeleteTheRow(Play& play, std::string rest) {
+  DeleteRow(play.stage, IntOf(rest));
+}
+void Row(Play& play, std::string rest) {
+  GoToRow(play.stage, IntOf(rest));
+}
+void Paste(Play& play, std::string rest) {
+  PasteRows(play.stage, Unescaped(TextArgument(rest)));
+}
+
+}  // namespace
+
+const CommandTable& FieldCommands() {
+  static const CommandTable table = {
+      {"click", ClickOn},
+      {"type", TypeAndLeave},
+      {"enter", TypeAndEnter},
+      {"pick", PickEntry},
+      {"up", Up},
+      {"down", Down},
+      {"key", Key},
+      {"cell", Cell},
+      {"addrow", AddARow},
+      {"delrow", DeleteTheRow},
+      {"row", Row},
+      {"paste", Paste},
+  };
+  return table;
+}
+
+}  // namespace drive

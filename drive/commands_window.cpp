@@ -1,0 +1,65 @@
+#include <QPixmap>
+
+#include "drive/failure.h"
+#include "drive/hands.h"
+#include "drive/player.h"
+#include "drive/text.h"
+
+namespace drive {
+namespace {
+
+void File(Play& play, std::string rest) {
+  const std::string path = TextArgument(rest);
+  if (path.empty()) throw Failure("file wants a path, or - to cancel the dialog");
+  play.files.Queue(path == "-" ? "" : path);
+}
+
+void Answer(Play& play, std::string rest) {
+  play.boxes.Queue(AnswerByName(rest));
+}
+
+void FormName(Play& play, std::string) {
+  play.Say("form = " + play.stage.Shown().name);
+}
+
+void Menu(Play& play, std::string rest) {
+  ChooseMenu(play.stage, play.stage.Find(rest));
+}
+
+void Tab(Play& play, std::string rest) {
+  ClickTab(play.stage, rest);
+}
+
+void Shot(Play& play, std::string rest) {
+  const std::string file = TextArgument(rest);
+  if (!play.stage.Window().grab().save(QString::fromStdString(file), "PNG"))
+    throw Failure("the picture can't be saved as " + file);
+}
+
+void Quit(Play& play, std::string) {
+  play.stage.Close();
+}
+
+void Title(Play& play, std::string) {
+  QString title = play.stage.Window().windowTitle();
+  title.replace("[*]", play.stage.Window().isWindowModified() ? "*" : "");
+  play.Say("title = " + Quoted(title.toStdString()));
+}
+
+void Size(Play& play, std::string rest) {
+  const std::string width = TakeWord(rest);
+  play.stage.Window().resize(IntOf(width), IntOf(rest));
+  play.stage.Settle();
+}
+
+}  // namespace
+
+const CommandTable& WindowCommands() {
+  static const CommandTable table = {
+      {"file", File}, {"answer", Answer}, {"form", FormName}, {"menu", Menu}, {"tab", Tab},
+      {"shot", Shot}, {"quit", Quit},     {"title", Title},   {"size", Size},
+  };
+  return table;
+}
+
+}  // namespace drive

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "drive/stage.h"
+
+namespace drive {
+
+// The hands on the table of the shown screen. Rows are 1-based, columns 0-based.
+
+// Types into the concentration cell of the row and commits it by Enter.
+void TypeIntoCell(Stage& stage, int row, const std::string& text);
+// Types into the empty row at the end.
+void AddRow(Stage& stage, const std::string& text);
+void DeleteRow(Stage& stage, int row);
+// Makes the row the current one by a click on its concentration cell.
+void GoToRow(Stage& stage, int row);
+// Puts `text` on the clipboard and pastes it from the current row on.
+void PasteRows(Stage& stage, const std::string& text);
+// What the table shows there. Failure when it differs from what the screen's rules say.
+std::string CellText(Stage& stage, const Target& grid, int row, int column);
+
+}  // namespace drive

@@ -1,0 +1,48 @@
+#include "drive/player.h"
+
+#include <exception>
+
+#include "drive/failure.h"
+#include "drive/text.h"
+
+namespace drive {
+namespace {
+
+const Action* Known(const std::string& name) {
+  for (const CommandTable* table :
+       {&WindowCommands(), &FieldCommands(), &AnswerCommands(), &RecordCommands()}) {
+    const auto found = table->find(name);
+    if (found != table->end()) return &found->second;
+  }
+  return nullptr;
+}
+
+// The commands that ask nothing of the window.
+bool NeedsNoWindow(const std::string& name) {
+  return name == "box" || name == "expect-ended";
+}
+
+void Run(Play& play, const Command& command) {
+  const Action* action = Known(command.name);
+  if (!action) throw Failure("unknown command " + command.name);
+  if (play.stage.Ended() && !NeedsNoWindow(command.name)) throw Failure("the program has ended");
+  (*action)(play, command.rest);
+  const std::string trouble = play.boxes.TakeTrouble();
+  if (!trouble.empty()) throw Failure(trouble);
+}
+
+}  // namespace
+
+int PlayScript(Play& play, Script& script) {
+  while (const auto command = script.Next()) {
+    try {
+      Run(play, *command);
+    } catch (const std::exception& failure) {
+      play.Say("FAIL line " + IntText(command->line) + ": " + failure.what());
+      return 1;
+    }
+  }
+  return 0;
+}
+
+}  // namespace drive

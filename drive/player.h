@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <ostream>
+#include <string>
+
+#include "drive/script.h"
+#include "drive/scripted_ports.h"
+#include "drive/stage.h"
+
+namespace drive {
+
+// What the commands of a script act on.
+struct Play {
+  Stage& stage;
+  ScriptedMessageBox& boxes;
+  ScriptedFileDialog& files;
+  std::ostream& out;
+
+  void Say(const std::string& line) { out << line << std::endl; }
+};
+
+// What a command does with the words behind its name.
+using Action = void (*)(Play&, std::string rest);
+using CommandTable = std::map<std::string, Action>;
+
+const CommandTable& WindowCommands();  // queued answers, menus, tabs, the window itself
+const CommandTable& FieldCommands();   // buttons, fields, the table
+const CommandTable& AnswerCommands();  // get, expect, dump, box
+const CommandTable& RecordCommands();  // set, eval, mask
+
+// Plays the whole script. Tells the first failure and returns the exit code.
+int PlayScript(Play& play, Script& script);
+
+}  // namespace drive

@@ -1,0 +1,199 @@
+#include "drive/routines.h"
+
+#include <deque>
+#include <optional>
+#include <string_view>
+
+#include "analysis/limit_checks.h"
+#include "base/fault.h"
+#include "drive/failure.h"
+#include "drive/record_fields.h"
+#include "drive/text.h"
+#include "rawdata/raw_file.h"
+#include "session/global_bas.h"
+#include "stats/coefficients.h"
+#include "stats/estimators.h"
+#include "stats/normal.h"
+
+namespace drive {
+namespace {
+
+constexpr std::string_view kRecord = "session.";
+
+// One call: where the arguments come from, and what is told after it.
+class Call {
+ public:
+  Call(ExposureSession& record, screen::MessageBox& messageBox, std::vector<std::string> words)
+      : s(record), messageBox_(messageBox), words_(std::move(words)) {}
+
+  ExposureSession& s;
+
+  const std::string& Text(std::size_t i) const { return words_[i]; }
+  double Number(std::size_t i) { return Ref(i); }
+  int Int(std::size_t i) const { return IntOf(words_[i]); }
+  // An argument by reference: a number of its own, or the record's field.
+  double& Ref(std::size_t i) {
+    if (words_[i].starts_with(kRecord)) {
+      double* field = DoubleField(s, words_[i].substr(kRecord.size()));
+      if (!field) throw Failure(words_[i] + " is no number of the record");
+      return *field;
+    }
+    return numbers_.emplace_back(NumberOf(words_[i]));
+  }
+  std::optional<double> Optional(std::size_t i) {
+    return words_[i] == "empty" ? std::nullopt : std::optional(Number(i));
+  }
+  GlobalBAS::Notify Notify() {
+    return [this](const std::string& text, const std::string& title) {
+      messageBox_.Show({text, title, screen::Icon::Exclamation});
+    };
+  }
+
+  void Tell(double value) { Word(NumberText(value)); }
+  void Tell(const std::optional<double>& value) { Word(value ? NumberText(*value) : "empty"); }
+  void Tell(const std::string& text) { Word(Quoted(text)); }
+  std::string Told() const { return told_.empty() ? "done" : told_; }
+
+ private:
+  void Word(const std::string& word) { told_ += (told_.empty() ? "" : " ") + word; }
+
+  screen::MessageBox& messageBox_;
+  std::vector<std::string> words_;
+  std::deque<double> numbers_;  // a deque, so that references stay good
+  std::string told_;
+};
+
+struct Routine {
+  std::string_view name;
+  std::size_t arguments;
+  void (*run)(Call&);
+};
+
+template <double (*F)(double&)>
+void OneByReference(Call& c) {
+  double& x = c.Ref(0);
+  c.Tell(F(x));
+  c.Tell(x);
+}
+
+template <double (*F)(double&, double&, double&)>
+void ThreeByReference(Call& c) {
+  double& df = c.Ref(0);
+  double& gm = c.Ref(1);
+  double& gsd = c.Ref(2);
+  c.Tell(F(df, gm, gsd));
+  for (const double argument : {df, gm, gsd}) c.Tell(argument);
+}
+
+template <void (*F)(ExposureSession&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&)>
+void Validator(Call& c) {
+  double& value = c.Ref(1);
+  F(c.s, {c.Text(0)}, value, c.Notify());
+  c.Tell(value);
+}
+
+template <void (*F)(ExposureSession&)>
+void OnTheRecord(Call& c) {
+  F(c.s);
+}
+
+template <void (*F)(ExposureSession&, double)>
+void LimitCheck(Call& c) {
+  F(c.s, c.Number(0));
+}
+
+void GMUnbiasedCall(Call& c) {
+  double& gm = c.Ref(0);
+  double& gsd = c.Ref(1);
+  c.Tell(StatFWinBAS::GMUnbiased(c.s, gm, gsd));
+  c.Tell(gm);
+  c.Tell(gsd);
+}
+
+void LogMomentsCall(Call& c) {
+  double& gm = c.Ref(0);
+  double& gsd = c.Ref(1);
+  LogMoments(c.s, gm, gsd);
+  c.Tell(gm);
+  c.Tell(gsd);
+}
+
+void CheckOELVCall(Call& c) {
+  std::optional<double> value = c.Optional(1);
+  GlobalBAS::CheckOELV(c.s, {c.Text(0)}, value, c.Notify());
+  c.Tell(value);
+}
+
+void CheckNameCall(Call& c) {
+  std::string name = c.Text(1);
+  GlobalBAS::CheckName(c.s, c.Text(0), name, c.Notify());
+  c.Tell(name);
+}
+
+const Routine kRoutines[] = {
+    {"NormalUpper", 1, OneByReference<StatFWinBAS::NormalUpper>},
+    {"NormalUpperHill", 1, OneByReference<StatFWinBAS::NormalUpperHill>},
+    {"NormalUpperInverse", 1, OneByReference<StatFWinBAS::NormalUpperInverse>},
+    {"RoystonPoly", 3,
+     [](Call& c) { c.Tell(StatFWinBAS::RoystonPoly(c.Number(0), c.Int(1), c.Int(2))); }},
+    {"FinneyMeanMVU", 3, ThreeByReference<StatFWinBAS::FinneyMeanMVU>},
+    {"FinneyMeanMMSE", 3, ThreeByReference<StatFWinBAS::FinneyMeanMMSE>},
+    {"FinneyVarianceMVU", 3, ThreeByReference<StatFWinBAS::FinneyVarianceMVU>},
+    {"GMUnbiased", 2, GMUnbiasedCall},
+    {"LinearMoments", 0, OnTheRecord<StatFWinBAS::LinearMoments>},
+    {"LogMoments", 2, LogMomentsCall},
+    {"DegreesOfFreedom", 0, OnTheRecord<DegreesOfFreedom>},
+    {"StoreMedian", 0, OnTheRecord<StoreMedian>},
+    {"StatusFlags", 0, OnTheRecord<GlobalBAS::StatusFlags>},
+    {"ControleOndergrens", 1, LimitCheck<analysis::ControleOndergrens>},
+    {"ControleBovengrens", 1, LimitCheck<analysis::ControleBovengrens>},
+    {"ControleDetectieBereik", 1, LimitCheck<analysis::ControleDetectieBereik>},
+    {"SortValues", 0, [](Call& c) { rawdata::SortValues(SampleCount(c.s), c.s.C, c.s.SortOrder); }},
+    {"Val", 1, [](Call& c) { c.Tell(GlobalBAS::Val(c.Text(0))); }},
+    {"NormalizeDecimal", 1, [](Call& c) { c.Tell(GlobalBAS::NormalizeDecimal(c.Text(0))); }},
+    {"GeneralText", 1, [](Call& c) { c.Tell(GlobalBAS::GeneralText(c.Number(0))); }},
+    {"FileText", 1, [](Call& c) { c.Tell(GlobalBAS::FileText(c.Number(0))); }},
+    {"Str", 1, [](Call& c) { c.Tell(GlobalBAS::Str(c.Number(0))); }},
+    {"CheckU", 2, Validator<GlobalBAS::CheckU>},
+    {"CheckD", 2, Validator<GlobalBAS::CheckD>},
+    {"CheckOELV", 2, CheckOELVCall},
+    {"CheckGM", 2, Validator<GlobalBAS::CheckGM>},
+    {"CheckGSD", 2, Validator<GlobalBAS::CheckGSD>},
+    {"CheckM", 2, Validator<GlobalBAS::CheckM>},
+    {"CheckMRef", 2, Validator<GlobalBAS::CheckMRef>},
+    {"CheckName", 2, CheckNameCall},
+};
+
+const Routine& RoutineOf(const std::string& name) {
+  for (const Routine& routine : kRoutines)
+    if (routine.name == name) return routine;
+  throw Failure("no routine " + name);
+}
+
+}  // namespace
+
+std::string Evaluate(ExposureSession& s, screen::MessageBox& messageBox, const std::string& name,
+                     const std::vector<std::string>& words) {
+  const Routine& routine = RoutineOf(name);
+  if (words.size() != routine.arguments) {
+    throw Failure(name + " takes " + IntText(static_cast<int>(routine.arguments)) +
+                  " arguments, not " + IntText(static_cast<int>(words.size())));
+  }
+  Call call(s, messageBox, words);
+  try {
+    routine.run(call);
+  } catch (const RunTimeError& fault) {
+    return std::string("fault: ") + fault.what();
+  }
+  return call.Told();
+}
+
+std::string MaskLine(const std::string& value, const std::string& sigDigits) {
+  std::optional<double> number;
+  if (value != "empty") number = NumberOf(value);
+  const std::string mask = GlobalBAS::FormatMask(number, IntOf(sigDigits));
+  const std::string shown = number ? GlobalBAS::FormatNumber(*number, mask) : "";
+  return Quoted(mask) + " " + Quoted(shown);
+}
+
+}  // namespace drive

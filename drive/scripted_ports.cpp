@@ -1,0 +1,113 @@
+#include "drive/scripted_ports.h"
+
+#include <utility>
+
+#include "drive/failure.h"
+#include "drive/text.h"
+
+namespace drive {
+namespace {
+
+using screen::Answer;
+using screen::Buttons;
+using screen::Icon;
+
+const char* Name(Answer answer) {
+  switch (answer) {
+    case Answer::Ok:
+      return "ok";
+    case Answer::Cancel:
+      return "cancel";
+    case Answer::Yes:
+      return "yes";
+    case Answer::No:
+      return "no";
+  }
+  return "?";
+}
+
+const char* Name(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::Ok:
+      return "ok";
+    case Buttons::OkCancel:
+      return "ok-cancel";
+    case Buttons::YesNo:
+      return "yes-no";
+  }
+  return "?";
+}
+
+const char* Name(Icon icon) {
+  switch (icon) {
+    case Icon::None:
+      return "none";
+    case Icon::Exclamation:
+      return "exclamation";
+    case Icon::Question:
+      return "question";
+    case Icon::Information:
+      return "information";
+  }
+  return "?";
+}
+
+bool Offers(Buttons buttons, Answer answer) {
+  switch (answer) {
+    case Answer::Ok:
+      return buttons != Buttons::YesNo;
+    case Answer::Cancel:
+      return buttons == Buttons::OkCancel;
+    case Answer::Yes:
+    case Answer::No:
+      return buttons == Buttons::YesNo;
+  }
+  return false;
+}
+
+}  // namespace
+
+Answer ScriptedMessageBox::Show(const screen::Message& message) {
+  Answer answer = message.defaultAnswer;
+  if (!queue_.empty()) {
+    const Answer queued = queue_.front();
+    queue_.pop_front();
+    if (Offers(message.buttons, queued)) {
+      answer = queued;
+    } else {
+      trouble_ = std::string("the answer ") + Name(queued) + " does not fit the box " +
+                 Quoted(message.text) + ", which has the buttons " + Name(message.buttons);
+    }
+  }
+  shown_.push_back({message, answer});
+  return answer;
+}
+
+std::vector<ScriptedMessageBox::Shown> ScriptedMessageBox::Take() {
+  return std::exchange(shown_, {});
+}
+
+std::string ScriptedMessageBox::TakeTrouble() {
+  return std::exchange(trouble_, {});
+}
+
+std::string ScriptedFileDialog::Ask(const Request&) {
+  if (queue_.empty()) return {};
+  std::string path = std::move(queue_.front());
+  queue_.pop_front();
+  return path;
+}
+
+Answer AnswerByName(const std::string& name) {
+  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
+    if (name == Name(answer)) return answer;
+  throw Failure("no such answer: " + Quoted(name));
+}
+
+std::string Line(const ScriptedMessageBox::Shown& box) {
+  const screen::Message& message = box.message;
+  return "box " + Quoted(message.title) + " " + Quoted(message.text) + " " + Name(message.icon) +
+         " " + Name(message.buttons) + " -> " + Name(box.answer);
+}
+
+}  // namespace drive

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "screen/ports.h"
+
+namespace drive {
+
+// Answers message boxes as the script has queued, or with their default button, and keeps them.
+class ScriptedMessageBox final : public screen::MessageBox {
+ public:
+  struct Shown {
+    screen::Message message;
+    screen::Answer answer = screen::Answer::Ok;
+  };
+
+  void Queue(screen::Answer answer) { queue_.push_back(answer); }
+  screen::Answer Show(const screen::Message& message) override;
+
+  // The boxes since the last call.
+  std::vector<Shown> Take();
+  // Why a queued answer could not be given since the last call; empty when all could.
+  std::string TakeTrouble();
+
+ private:
+  std::deque<screen::Answer> queue_;
+  std::vector<Shown> shown_;
+  std::string trouble_;
+};
+
+// Answers file dialogs as the script has queued; an unqueued one is cancelled.
+class ScriptedFileDialog final : public screen::FileDialog {
+ public:
+  void Queue(std::string path) { queue_.push_back(std::move(path)); }
+  std::string Ask(const Request& request) override;
+
+ private:
+  std::deque<std::string> queue_;
+};
+
+// The answer with that name, or Failure.
+screen::Answer AnswerByName(const std::string& name);
+// The line by which a box is told.
+std::string Line(const ScriptedMessageBox::Shown& box);
+
+}  // namespace drive
