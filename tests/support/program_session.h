@@ -1,0 +1,82 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "screen/ports.h"
+#include "start/program.h"
+
+namespace support {
+
+// A message box that answers from a queue, with the default button when that is empty, and keeps
+// what it showed.
+class RecordingBox final : public screen::MessageBox {
+ public:
+  screen::Answer Show(const screen::Message& message) override;
+  std::deque<screen::Answer> answers;
+  std::vector<screen::Message> shown;
+};
+
+// A file dialog that answers from a queue; empty means cancelled.
+class RecordingDialog final : public screen::FileDialog {
+ public:
+  std::string Ask(const Request& request) override;
+  std::deque<std::string> answers;
+  std::vector<Request> asked;
+};
+
+// A surface that counts its repaints.
+class CountingSurface final : public screen::Surface {
+ public:
+  void Repaint(screen::Form&) override { ++repaints; }
+  int repaints = 0;
+};
+
+// The whole program without a window, and the user's hands: what a binder does with the events of
+// a toolkit, done by name.
+class ProgramSession {
+ public:
+  // Starts with the delivered coefficient files.
+  ProgramSession();
+
+  screen::Form& Shown() { return program.Shown(); }
+  // The control of that name on the shown screen, or "Form.Name"; throws when there is none.
+  screen::Control& At(const std::string& name);
+  const std::string& Text(const std::string& name) { return At(name).text; }
+  ExposureSession& Record() { return program.Session(); }
+
+  // Focuses the field, replaces its text, and leaves it.
+  void Type(const std::string& name, const std::string& text);
+  // The same, ended by the Enter key inside the field.
+  void Enter(const std::string& name, const std::string& text);
+  // Focuses the field and leaves it untouched.
+  void Visit(const std::string& name);
+  void Click(const std::string& name);
+  void Pick(const std::string& name, const std::string& text);
+  void Up(const std::string& name);
+  void Down(const std::string& name);
+  // A click on the tab with that key; false when the strip does not show it or it is disabled.
+  bool Tab(const std::string& key);
+  // Answers the file dialog with `path` and opens it from the start screen.
+  void OpenFile(const std::string& path);
+  // A series opened from a file with these outcomes.
+  void OpenSeries(const std::vector<double>& outcomes);
+  // Name, M, GM and GSD typed in mode "D".
+  void EnterStatistics(const std::string& name, const std::string& m, const std::string& gm,
+                       const std::string& gsd);
+  std::vector<std::string> TabKeys();
+  // Title and text of the last message box; throws when none was shown.
+  const screen::Message& LastBox() const;
+
+  RecordingBox box;
+  RecordingDialog dialog;
+  CountingSurface surface;
+  screen::Ports ports{box, dialog, surface};
+  start::Program program;
+};
+
+// A file in the test's temporary folder with these bytes; its path.
+std::string WriteTemporary(const std::string& name, const std::string& bytes);
+
+}  // namespace support
