@@ -7,6 +7,8 @@
 // The constants of the published algorithms, read at start from two text files.
 namespace StatFWinBAS {
 
+// Element 0 of every array but ExactRankits is never filled; the indices of the others are those
+// of the tables in normal.h and of the routines that read them.
 struct Coefficients {
   std::array<double, 196> ExactRankits{};
   std::array<double, 25> RankitCoefficients{};
@@ -22,10 +24,21 @@ struct Coefficients {
 // The process's coefficients: all zero until loaded, read-only after.
 const Coefficients& Coefs();
 
-// Loads both files. A file is looked for by its bare name in the current directory, then in each
-// of `folders`. What cannot be read stays 0; nothing is reported.
+// Loads VALKORIN.COF and asr94COF.txt. A file is looked for by its bare name in the current
+// directory, then in each of `folders`. What cannot be read stays 0; nothing is reported.
+//
+// A file is a list of numbers with a point as decimal sign; an item ends at a comma or a line end.
+// An item that is no number is consumed and leaves 0. Items behind the last wanted one have no
+// effect.
 void LoadCoefficients(const std::vector<std::string>& folders);
 
+// The polynomial of the given degree in x with the coefficients of RoystonTable(column, 0..degree),
+// summed from the low power upward; x to the power 0 is 1, also for x = 0.
+// Domain: column 0 to 10 and degree up to 6, otherwise a subscript fault; a sum beyond a double is
+// an overflow. A negative degree gives the empty sum 0.
+// Source: P. Royston (1995), algorithm AS R94, function poly, here with all powers written out.
+// Accuracy: each term and each addition is rounded once; 2 units in the last place of the largest
+// term against arbitrary precision.
 double RoystonPoly(double x, int degree, int column);
 
 }  // namespace StatFWinBAS

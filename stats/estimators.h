@@ -1,0 +1,73 @@
+#pragma once
+
+#include "session/exposure_session.h"
+
+// Estimators of a lognormal population from a sample's degrees of freedom df, geometric mean GM
+// and geometric standard deviation GSD, and the linear moments of the record.
+//
+// Units: GM and every mean in the unit of the outcomes, a variance in its square; GSD has none.
+// Common faults: GSD not above 0 is an invalid operation; a df that makes a divisor 0 is a
+// division by zero; a term beyond a double is an overflow.
+namespace StatFWinBAS {
+
+// Minimum variance unbiased estimate of the arithmetic mean.
+// Domain: df > 0, GSD > 0. Changes nothing.
+// Source: D.J. Finney (1941), Suppl. J. R. Statist. Soc. 7, 155-161: GM g(L squared / 2) with
+// L = ln GSD, where g(t) is the series with n = df degrees of freedom.
+// Accuracy against arbitrary precision: @MVU@
+double FinneyMeanMVU(double& df, double& GM, double& GSD);
+
+// Estimate of the arithmetic mean with the smallest mean square error.
+// Domain: df > 3, which the caller holds, GSD > 0. For df < 3 the series alternates and the result
+// means nothing. Changes nothing.
+// Source: X.H. Zhou (1998), Statistics in Medicine 17, 2251-2264: GM g((df - 3) L squared / (2 df))
+// with Finney's g.
+// Accuracy against arbitrary precision: @MMSE@
+double FinneyMeanMMSE(double& df, double& GM, double& GSD);
+
+// Unbiased estimate of the variance of the population (not of its standard deviation).
+// Domain: df > 0, GSD > 0 but not 1, where the sum is 0 and its relative test a division by zero.
+// Changes nothing.
+// Source: D.J. Finney (1941), as above: GM squared (g(2 L squared) - g((df - 1) L squared / df)),
+// the two series summed together so that their common first term cancels.
+// Accuracy against arbitrary precision: @VAR@
+double FinneyVarianceMVU(double& df, double& GM, double& GSD);
+
+// Unbiased estimate of the geometric mean, by the record's df.
+// Domain: GSD / (df + 1) squared at most 6; beyond, the result is 0 and InputState becomes 1.
+// Changes: InputState (0 when accepted).
+// Source: D.J. Finney (1941), as above, the same kind of series for a negative argument:
+// GM 0F1(df / 2 + 1; -L squared / 4).
+// Accuracy against arbitrary precision: @GMU@
+double GMUnbiased(ExposureSession& s, double& GM, double& GSD);
+
+// Arithmetic mean XM and standard deviation SDlin.
+// In mode "R" without a detection range they are those of the outcomes C(1) to C(M); otherwise
+// they follow from GM and GSD: XM = GM e, SDlin = sqrt(GM squared e (e - 1) M / (M - 1)) with
+// e = exp(L squared / 2), L = ln GSD. That factor is how this value is defined here; it is not the
+// exp(L squared) (exp(L squared) - 1) of the lognormal variance.
+// Domain: M >= 2; M = 1 is a division by zero.
+// Changes: XM; SDlin; InputState 4 when the outcomes have no spread (sum of squares at most 1E-10;
+// SDlin then keeps its value), 5 when SDlin is 10000 or more (it is stored all the same).
+// Source: the textbook sum of squares, S2 - S1 squared / M.
+// Accuracy: the subtraction loses as many digits as the outcomes have in common.
+void LinearMoments(ExposureSession& s);
+
+inline double FinneyMeanMVU(const double& df, const double& GM, const double& GSD) {
+  double n = df, gm = GM, gsd = GSD;
+  return FinneyMeanMVU(n, gm, gsd);
+}
+inline double FinneyMeanMMSE(const double& df, const double& GM, const double& GSD) {
+  double n = df, gm = GM, gsd = GSD;
+  return FinneyMeanMMSE(n, gm, gsd);
+}
+inline double FinneyVarianceMVU(const double& df, const double& GM, const double& GSD) {
+  double n = df, gm = GM, gsd = GSD;
+  return FinneyVarianceMVU(n, gm, gsd);
+}
+inline double GMUnbiased(ExposureSession& s, const double& GM, const double& GSD) {
+  double gm = GM, gsd = GSD;
+  return GMUnbiased(s, gm, gsd);
+}
+
+}  // namespace StatFWinBAS

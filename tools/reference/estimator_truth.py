@@ -1,0 +1,69 @@
+#!/usr/bin/env python3
+"""Writes tests/data/estimator_truth.csv: the lognormal estimators in arbitrary precision.
+
+Reason: shows what the summation of Finney's series in doubles, and its stop, cost. Method: the
+series are confluent hypergeometric limit functions, g(A) = 0F1(n / 2; A / 2); they are evaluated
+with 60 digits (mpmath), the linear sums not at all. Needs mpmath (python3-mpmath).
+"""
+
+import csv
+from pathlib import Path
+
+import mpmath as mp
+
+mp.mp.dps = 60
+TABLE = Path(__file__).resolve().parents[2] / "tests" / "data" / "estimator_truth.csv"
+DFS = [1, 2, 3, 4, 5, 7, 9, 14, 19, 29, 39, 99, 499, 1999]
+GMS = [1.0, 0.037, 812.5]
+GSDS = [1.001, 1.05, 1.5, 2.0, 2.7, 4.0, 8.0, 15.0, 24.0, 50.0, 200.0, 1000.0]
+
+
+def g(n, A):
+    return mp.hyp0f1(n / 2, A / 2)
+
+
+def mean_mvu(n, gm, L):
+    return gm * g(n, (n * L) ** 2 / 2 / (n + 1))
+
+
+def mean_mmse(n, gm, L):
+    return gm * g(n, (n - 3) * n * L ** 2 / (2 * (n + 1)))
+
+
+def variance_mvu(n, gm, L):
+    A = 2 * (n * L) ** 2 / (n + 1)
+    B = (n - 1) * n * L ** 2 / (n + 1)
+    return gm ** 2 * (g(n, A) - g(n, B))
+
+
+def gm_unbiased(n, gm, L):
+    return gm * mp.hyp0f1(n / 2 + 1, -L ** 2 / 4)
+
+
+ESTIMATORS = {"FinneyMeanMVU": mean_mvu, "FinneyMeanMMSE": mean_mmse,
+              "FinneyVarianceMVU": variance_mvu, "GMUnbiased": gm_unbiased}
+
+
+def in_domain(name, df, gsd):
+    if name == "FinneyMeanMMSE":
+        return df > 3
+    if name == "GMUnbiased":
+        return gsd / (df + 1) ** 2 <= 6
+    return True
+
+
+def main():
+    with open(TABLE, "w", encoding="ascii", newline="") as table:
+        out = csv.writer(table, lineterminator="\n")
+        out.writerow(["function", "df", "GM", "GSD", "true"])
+        for name, estimator in ESTIMATORS.items():
+            for df in DFS:
+                for k, gsd in enumerate(GSDS):
+                    gm = GMS[(df + k) % len(GMS)]
+                    if in_domain(name, df, gsd):
+                        true = estimator(mp.mpf(df), mp.mpf(gm), mp.log(mp.mpf(gsd)))
+                        out.writerow([name, df, repr(gm), repr(gsd), mp.nstr(true, 20)])
+
+
+if __name__ == "__main__":
+    main()
