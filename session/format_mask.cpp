@@ -14,15 +14,9 @@ namespace {
 std::string Repeat(char c, int count) {
   return std::string(static_cast<std::size_t>(std::max(count, 0)), c);
 }
-std::string Spaces(int count) {
-  return Repeat(' ', count);
-}
-std::string Zeros(int count) {
-  return Repeat('0', count);
-}
-std::string Hashes(int count) {
-  return Repeat('#', count);
-}
+std::string Spaces(int count) { return Repeat(' ', count); }
+std::string Zeros(int count) { return Repeat('0', count); }
+std::string Hashes(int count) { return Repeat('#', count); }
 
 // What the rows of the table ask of a value.
 struct Facts {
@@ -46,12 +40,8 @@ Facts FactsOf(double value, int sigDigits) {
   return f;
 }
 
-bool Whole(const Facts& f) {
-  return f.p == 0 && f.x <= 99999;
-}
-bool Plain(const Facts& f) {
-  return f.x >= 0.1 && f.x <= 99999.99999;
-}
+bool Whole(const Facts& f) { return f.p == 0 && f.x <= 99999; }
+bool Plain(const Facts& f) { return f.x >= 0.1 && f.x <= 99999.99999; }
 
 struct MaskRow {
   bool (*fits)(const Facts& f);

@@ -21,9 +21,7 @@ struct MaskParts {
   std::string behind;
 };
 
-bool IsPlace(char c) {
-  return c == '0' || c == '#';
-}
+bool IsPlace(char c) { return c == '0' || c == '#'; }
 
 MaskParts Parse(std::string_view mask) {
   MaskParts parts;

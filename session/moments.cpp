@@ -38,8 +38,10 @@ void DegreesOfFreedom(ExposureSession& s) {
 // Domain: M from 2 on and outcomes above 0; below 2 nothing happens, and an outcome of 0 or less
 // is an invalid operation. df = 0 is a division by zero.
 // Changes: gm (already when there is no spread or a fault ends the rest), gsd, InputState.
-// Accuracy: 4.1E-16 of gm and 4.4E-14 of gsd against arbitrary precision; a spread near the
-// least that counts loses more, since the sum of squares cancels (see the test of the worst row).
+// Accuracy: relative error at most 1.4E-15 of gm (1999 outcomes of GM 2.93) and 1.6E-15 of gsd (15
+// outcomes of GM 0.0295), measured on 32 series against 60 digits. SS is a difference of sums, so
+// gsd loses digits as the spread comes near to none.
+// Source: the definitions, in the one-pass form of the sum of squares.
 void LogMoments(ExposureSession& s, double& gm, double& gsd) {
   if (s.M < 2) return;
   double S1 = 0;

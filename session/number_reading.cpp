@@ -21,15 +21,9 @@ void RemoveLeft(std::string& text, std::size_t& i, char separator) {
   }
 }
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-bool IsSign(char c) {
-  return c == '+' || c == '-';
-}
-bool IsExponentLetter(char c) {
-  return c == 'E' || c == 'e' || c == 'D' || c == 'd';
-}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsSign(char c) { return c == '+' || c == '-'; }
+bool IsExponentLetter(char c) { return c == 'E' || c == 'e' || c == 'D' || c == 'd'; }
 
 // A numeric prefix in the form that from_chars takes, with the place of its first digit that is
 // not zero: 10 to the `power`, exponent included.
@@ -138,8 +132,6 @@ double Val(std::string_view text) {
   return digits.front() == '-' ? -infinity : infinity;
 }
 
-double ReadNumber(std::string_view text) {
-  return Val(Trim(NormalizeDecimal(std::string(text))));
-}
+double ReadNumber(std::string_view text) { return Val(Trim(NormalizeDecimal(std::string(text)))); }
 
 }  // namespace GlobalBAS

@@ -44,13 +44,9 @@ std::string Lay(double value, const char* beforePoint) {
 
 }  // namespace
 
-std::string GeneralText(double value) {
-  return Lay(value, "");
-}
+std::string GeneralText(double value) { return Lay(value, ""); }
 
-std::string FileText(double value) {
-  return Lay(value, "0");
-}
+std::string FileText(double value) { return Lay(value, "0"); }
 
 std::string Str(double value) {
   std::string text(value < 0 ? 0 : 1, ' ');

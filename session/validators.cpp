@@ -93,9 +93,7 @@ void Check(ExposureSession& s, const Limits& limits, const Entry& entry, double&
   Complain(s, notify);
 }
 
-Entry Trimmed(const Entry& entry) {
-  return {Trim(entry.text), entry.touched};
-}
+Entry Trimmed(const Entry& entry) { return {Trim(entry.text), entry.touched}; }
 
 bool Within(double value, const Limits& limits) {
   return value >= limits.lower && value <= limits.upper;
@@ -164,20 +162,10 @@ void CheckName(ExposureSession& s, const std::string& text, std::string& name,
   Complain(s, notify);
 }
 
-bool InRangeOELV(const std::optional<double>& value) {
-  return value && Within(*value, kOELV);
-}
-bool InRangeU(double value) {
-  return Within(value, kU);
-}
-bool InRangeD(double value) {
-  return Within(value, kD);
-}
-bool InRangeGM(double value) {
-  return Within(value, kGM);
-}
-bool InRangeGSD(double value) {
-  return Within(value, kGSD);
-}
+bool InRangeOELV(const std::optional<double>& value) { return value && Within(*value, kOELV); }
+bool InRangeU(double value) { return Within(value, kU); }
+bool InRangeD(double value) { return Within(value, kD); }
+bool InRangeGM(double value) { return Within(value, kGM); }
+bool InRangeGSD(double value) { return Within(value, kGSD); }
 
 }  // namespace GlobalBAS

@@ -21,53 +21,25 @@ constexpr std::array<TabText, 8> kTabs = {{
     {TwoSamp, "Compare", 2850, 2800},
 }};
 
-std::size_t Index(ScreenId screen) {
-  return static_cast<std::size_t>(screen);
-}
+std::size_t Index(ScreenId screen) { return static_cast<std::size_t>(screen); }
 
 // Conditions on the record.
-bool Always(const ExposureSession&) {
-  return true;
-}
-bool Never(const ExposureSession&) {
-  return false;
-}
-bool Raw(const ExposureSession& s) {
-  return s.Mode == "R";
-}
-bool ModeChosen(const ExposureSession& s) {
-  return !s.Mode.empty();
-}
+bool Always(const ExposureSession&) { return true; }
+bool Never(const ExposureSession&) { return false; }
+bool Raw(const ExposureSession& s) { return s.Mode == "R"; }
+bool ModeChosen(const ExposureSession& s) { return !s.Mode.empty(); }
 // A regression needs three points.
-bool Plottable(const ExposureSession& s) {
-  return Raw(s) && s.M > 2;
-}
-bool DescOk(const ExposureSession& s) {
-  return s.DescOk;
-}
-bool LimitsOk(const ExposureSession& s) {
-  return s.LimitsOk;
-}
-bool DescAndLimits(const ExposureSession& s) {
-  return s.DescOk && s.LimitsOk;
-}
+bool Plottable(const ExposureSession& s) { return Raw(s) && s.M > 2; }
+bool DescOk(const ExposureSession& s) { return s.DescOk; }
+bool LimitsOk(const ExposureSession& s) { return s.LimitsOk; }
+bool DescAndLimits(const ExposureSession& s) { return s.DescOk && s.LimitsOk; }
 // The start and data control screens hold the later tabs back while a new series is being typed.
-bool Complete(const ExposureSession& s) {
-  return s.LimitsOk || !Raw(s) || !s.RawIncomplete;
-}
-bool CompleteOrDesc(const ExposureSession& s) {
-  return Complete(s) || s.DescOk;
-}
-bool CompletePlot(const ExposureSession& s) {
-  return Complete(s) && Plottable(s);
-}
+bool Complete(const ExposureSession& s) { return s.LimitsOk || !Raw(s) || !s.RawIncomplete; }
+bool CompleteOrDesc(const ExposureSession& s) { return Complete(s) || s.DescOk; }
+bool CompletePlot(const ExposureSession& s) { return Complete(s) && Plottable(s); }
 // While other values are tried on top of the sample, the sample itself is out of reach.
-bool RawOpen(const ExposureSession& s) {
-  return Raw(s) && !s.ModifyMode;
-}
-bool NotModified(const ExposureSession& s) {
-  return !s.ModifyMode;
-}
+bool RawOpen(const ExposureSession& s) { return Raw(s) && !s.ModifyMode; }
+bool NotModified(const ExposureSession& s) { return !s.ModifyMode; }
 bool PlotOpen(const ExposureSession& s) {
   return Plottable(s) && !s.ModifyMode && !s.RawIncomplete;
 }
@@ -84,9 +56,7 @@ constexpr std::array<Condition, 8> kWithLimits = {Always,    Raw,      Always,  
 constexpr std::array<Condition, 8> kWithTests = {Always,    Raw,    Always, Always,
                                                  Plottable, Always, Always, Always};
 
-bool BasisStrip(const ExposureSession& s) {
-  return ModeChosen(s) && StripVisible(s);
-}
+bool BasisStrip(const ExposureSession& s) { return ModeChosen(s) && StripVisible(s); }
 
 // In the order of ScreenId. The tests and the mean are reached with valid limits only, so their
 // own strips always hold both.
@@ -135,9 +105,7 @@ constexpr std::array<std::array<bool, 8>, 8> kEmptiesTestTag = {{
 
 }  // namespace
 
-const TabText& TabOf(ScreenId screen) {
-  return kTabs[Index(screen)];
-}
+const TabText& TabOf(ScreenId screen) { return kTabs[Index(screen)]; }
 
 const TabText* TabByKey(const std::string& key) {
   const auto found =
@@ -154,9 +122,7 @@ std::vector<ScreenId> TabSet(const ExposureSession& s, ScreenId shown) {
   return tabs;
 }
 
-bool StripVisible(const ExposureSession& s) {
-  return s.DescOk || (s.IdentOk && s.RawIncomplete);
-}
+bool StripVisible(const ExposureSession& s) { return s.DescOk || (s.IdentOk && s.RawIncomplete); }
 
 bool PlotMenuVisible(const ExposureSession& s, ScreenId shown) {
   const std::vector<ScreenId> tabs = TabSet(s, shown);
