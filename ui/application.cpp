@@ -1,0 +1,90 @@
+#include "ui/application.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <clocale>
+
+#include "ui/splash.h"
+#include "ui/text.h"
+
+namespace ui {
+namespace {
+
+// What the handler has changed so far stands on the screen behind the box.
+class BoxOverWindow final : public screen::MessageBox {
+ public:
+  explicit BoxOverWindow(screen::MessageBox& box) : box_(box) {}
+  void SetWindow(MainWindow* window) { window_ = window; }
+  screen::Answer Show(const screen::Message& message) override {
+    if (window_) window_->ShowState();
+    return box_.Show(message);
+  }
+
+ private:
+  screen::MessageBox& box_;
+  MainWindow* window_ = nullptr;
+};
+
+class WindowSurface final : public screen::Surface {
+ public:
+  void SetWindow(MainWindow* window) { window_ = window; }
+  void Repaint(screen::Form& form) override {
+    if (window_) window_->Repaint(form);
+  }
+
+ private:
+  MainWindow* window_ = nullptr;
+};
+
+// The data folder of a build, of an installation, and the program's own folder.
+std::vector<std::string> DataFolders() {
+  const QString own = QCoreApplication::applicationDirPath();
+  std::vector<std::string> folders;
+  for (const char* below : {"", "/../data", "/../share/valkorin"})
+    folders.push_back(Typed(own + QLatin1String(below)));
+  return folders;
+}
+
+}  // namespace
+
+struct Application::Parts {
+  Parts(screen::MessageBox& messageBox, screen::FileDialog& fileDialog)
+      : box(messageBox), ports{box, fileDialog, surface}, program(ports, DataFolders()) {
+    window = std::make_unique<MainWindow>(program, ports);
+    surface.SetWindow(window.get());
+    box.SetWindow(window.get());
+  }
+
+  BoxOverWindow box;
+  WindowSurface surface;
+  screen::Ports ports;
+  start::Program program;
+  std::unique_ptr<MainWindow> window;
+};
+
+Application::Application(screen::MessageBox& messageBox, screen::FileDialog& fileDialog)
+    : parts_(std::make_unique<Parts>(messageBox, fileDialog)) {}
+
+Application::~Application() = default;
+
+start::Program& Application::Program() { return parts_->program; }
+
+MainWindow& Application::Window() { return *parts_->window; }
+
+void Application::Start() {
+  Splash splash;
+  splash.Present();
+  parts_->program.Start();
+  parts_->window->ShowState();
+  parts_->window->show();
+  parts_->window->activateWindow();
+}
+
+void PrepareToolkit() {
+  // The toolkit has taken the user's locale over; numbers are the program's own.
+  std::setlocale(LC_NUMERIC, "C");
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+}  // namespace ui

@@ -1,0 +1,167 @@
+#include "ui/control_view.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QVariant>
+
+#include "ui/text.h"
+#include "ui/vkr_grid_view.h"
+
+namespace ui {
+namespace {
+
+QString DesignText(const QWidget* widget) {
+  if (auto* label = qobject_cast<const QLabel*>(widget)) return label->text();
+  if (auto* edit = qobject_cast<const QLineEdit*>(widget)) return edit->text();
+  if (auto* box = qobject_cast<const QComboBox*>(widget)) return box->currentText();
+  if (auto* button = qobject_cast<const QAbstractButton*>(widget)) return button->text();
+  if (auto* frame = qobject_cast<const QGroupBox*>(widget)) return frame->title();
+  return {};
+}
+
+std::string Property(const QObject& object, const char* name) {
+  return Typed(object.property(name).toString());
+}
+
+}  // namespace
+
+void ControlView::ReadDesign() {
+  if (widget_) {
+    control_.tag = Property(*widget_, "Tag");
+    control_.toolTipText = Property(*widget_, "ToolTipText");
+    control_.text = ui::Typed(DesignText(widget_));
+    return;
+  }
+  const QMenu* submenu = action_->menu();
+  const QObject& design = submenu ? static_cast<const QObject&>(*submenu) : *action_;
+  control_.tag = Property(design, "Caption");
+  control_.text = ui::Typed(action_->text());
+}
+
+void ControlView::Typed(const QString& text) {
+  control_.text = ui::Typed(text);
+  control_.touched = true;
+  if (shown_) shown_->text = control_.text;
+}
+
+void ControlView::Ticked(bool on) {
+  control_.ticked = on;
+  auto* button = qobject_cast<QAbstractButton*>(widget_);
+  if (shown_ && button) shown_->ticked = button->isChecked();
+}
+
+void ControlView::Push(bool onPage) {
+  if (action_) {
+    PushAction(control_.visible && onPage);
+    return;
+  }
+  if (auto* view = qobject_cast<VkrGridView*>(widget_)) {
+    auto& grid = static_cast<screen::Grid&>(control_);
+    if (grid.revision != gridRevision_) view->Refresh();
+    gridRevision_ = grid.revision;
+  }
+  if (!shown_ || !(*shown_ == control_)) {
+    const screen::ControlState old = shown_.value_or(screen::ControlState{});
+    const bool first = !shown_;
+    shown_ = control_;
+    PushWidget(old, first);
+  }
+  if (control_.selectAll) SelectAll();
+}
+
+void ControlView::PushWidget(const screen::ControlState& old, bool first) {
+  const screen::ControlState& now = *shown_;
+  if (first || now.items != old.items) PushItems();
+  if (first || now.text != old.text || now.items != old.items) PushText();
+  if (first || now.tip != old.tip) widget_->setToolTip(TipText(now.tip));
+  if (first || now.ticked != old.ticked) PushTicked();
+  if (first || now.enabled != old.enabled) widget_->setEnabled(now.enabled);
+  if (first || now.visible != old.visible) widget_->setVisible(now.visible);
+  if (first || now.colour != old.colour || now.locked != old.locked) PushLook();
+  if (first || now.text != old.text || now.tip != old.tip) NameForReaders();
+}
+
+void ControlView::PushText() {
+  const QString text = Shown(shown_->text);
+  if (auto* label = qobject_cast<QLabel*>(widget_)) {
+    const QVariant useMnemonic = label->property("UseMnemonic");
+    label->setText(LabelText(shown_->text, !useMnemonic.isValid() || useMnemonic.toBool()));
+  } else if (auto* edit = qobject_cast<QLineEdit*>(widget_)) {
+    if (edit->text() != text) edit->setText(text);
+  } else if (auto* box = qobject_cast<QComboBox*>(widget_)) {
+    if (box->currentText() != text) box->setEditText(text);
+  } else if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
+    button->setText(text);
+  } else if (auto* frame = qobject_cast<QGroupBox*>(widget_)) {
+    frame->setTitle(text);
+  } else if (auto* grid = qobject_cast<VkrGridView*>(widget_)) {
+    grid->SetCaption(text);
+  }
+}
+
+void ControlView::PushItems() {
+  auto* box = qobject_cast<QComboBox*>(widget_);
+  if (!box) return;
+  box->clear();
+  for (const std::string& item : shown_->items) box->addItem(Shown(item));
+}
+
+// A group of option buttons keeps one of them ticked against any change by program, unless its
+// exclusiveness is lifted for the moment.
+void ControlView::PushTicked() {
+  auto* button = qobject_cast<QAbstractButton*>(widget_);
+  if (!button || !button->isCheckable()) return;
+  const bool exclusive = button->autoExclusive();
+  button->setAutoExclusive(false);
+  button->setChecked(shown_->ticked);
+  button->setAutoExclusive(exclusive);
+}
+
+void ControlView::PushLook() {
+  QPalette palette;
+  if (shown_->colour) {
+    const screen::Colour& c = *shown_->colour;
+    palette.setColor(QPalette::WindowText, QColor(c.red, c.green, c.blue));
+  }
+  if (auto* edit = qobject_cast<QLineEdit*>(widget_)) {
+    edit->setReadOnly(shown_->locked);
+    if (shown_->locked) palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  }
+  if (widget_->property("Quiet").toBool())
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
+  widget_->setPalette(palette);
+}
+
+void ControlView::PushAction(bool visible) {
+  screen::ControlState now = control_;
+  now.visible = visible;
+  if (shown_ && *shown_ == now) return;
+  shown_ = std::move(now);
+  action_->setText(Shown(shown_->text));
+  action_->setEnabled(shown_->enabled);
+  action_->setVisible(shown_->visible);
+}
+
+void ControlView::SelectAll() {
+  control_.selectAll = false;
+  if (auto* edit = qobject_cast<QLineEdit*>(widget_)) edit->selectAll();
+  if (auto* box = qobject_cast<QComboBox*>(widget_)) box->lineEdit()->selectAll();
+}
+
+// A screen reader calls a field by its label; a field that has none, by its tip.
+void ControlView::NameForReaders() {
+  if (auto* label = qobject_cast<QLabel*>(widget_)) {
+    if (label->buddy()) label->buddy()->setAccessibleName(label->text().trimmed());
+    return;
+  }
+  const QString tip = Lines(shown_->tip).trimmed();
+  if (widget_->accessibleName().isEmpty() && DesignText(widget_).isNull())
+    widget_->setAccessibleName(tip);
+  widget_->setAccessibleDescription(tip);
+}
+
+}  // namespace ui

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QAction>
+#include <QWidget>
+
+#include <optional>
+
+#include "screen/control.h"
+
+namespace ui {
+
+// The widget or action of one control, and the state that it shows.
+class ControlView {
+ public:
+  ControlView(screen::Control& control, QWidget* widget, QAction* action)
+      : control_(control), widget_(widget), action_(action) {}
+
+  screen::Control& Control() const { return control_; }
+  QWidget* Widget() const { return widget_; }
+  QAction* Action() const { return action_; }
+
+  // Gives the control its design-time ids and its design text.
+  void ReadDesign();
+  // Brings the widget up to date. `onPage`: whether the control's screen is the shown one, which
+  // the menus of the shared menu bar follow.
+  void Push(bool onPage);
+  // The user typed: the widget shows this text already.
+  void Typed(const QString& text);
+  // The user ticked or unticked the button, or another one of its group.
+  void Ticked(bool on);
+
+ private:
+  void PushWidget(const screen::ControlState& old, bool first);
+  void PushText();
+  void PushItems();
+  void PushTicked();
+  void PushLook();
+  void PushAction(bool visible);
+  void SelectAll();
+  void NameForReaders();
+
+  screen::Control& control_;
+  QWidget* widget_;
+  QAction* action_;
+  std::optional<screen::ControlState> shown_;
+  int gridRevision_ = -1;
+};
+
+}  // namespace ui

@@ -1,0 +1,42 @@
+#include "ui/file_dialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "ui/text.h"
+
+namespace ui {
+namespace {
+
+// "Text|*.vkr|Text|*.*" in the words of the toolkit: "Text (*.vkr)", one entry a pair.
+QStringList Filters(const QString& filter) {
+  const QStringList parts = filter.split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString text = parts[i];
+    if (const qsizetype brace = text.indexOf(QLatin1Char('(')); brace >= 0) text.truncate(brace);
+    QString patterns = parts[i + 1];
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+    filters += text.trimmed() + QLatin1String(" (") + patterns + QLatin1Char(')');
+  }
+  return filters;
+}
+
+}  // namespace
+
+std::string FileDialog::Ask(const Request& request) {
+  QFileDialog dialog(QApplication::activeWindow(), Shown(request.title).simplified());
+  dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setNameFilters(Filters(Shown(request.filter)));
+  dialog.setDefaultSuffix(QStringLiteral("vkr"));
+  if (const QFileInfo file(Shown(request.fileName)); !request.fileName.empty()) {
+    if (file.isAbsolute()) dialog.setDirectory(file.absolutePath());
+    dialog.selectFile(file.fileName());
+  }
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return Typed(dialog.selectedFiles().constFirst());
+}
+
+}  // namespace ui

@@ -1,0 +1,235 @@
+#include "ui/form_binder.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVariant>
+
+#include <stdexcept>
+
+#include "ui/text.h"
+#include "ui/up_down_pair.h"
+#include "ui/vkr_grid_view.h"
+
+namespace ui {
+
+using screen::Control;
+using screen::Kind;
+
+FormBinder::FormBinder(screen::Form& form, QMenuBar& menuBar, EventGate& gate)
+    : form_(form), page_(LoadPage(form.name, menuBar)), gate_(gate) {
+  form_.captionTag = page_.captionTag;
+  for (Control* control : form_.controls)
+    if (control->kind != Kind::TabStrip && control->kind != Kind::CommonDialog) Add(*control);
+}
+
+void FormBinder::Add(Control& control) {
+  const QString name = DesignName(control.name);
+  const bool isMenu = control.kind == Kind::Menu;
+  QWidget* widget = isMenu ? nullptr : page_.FindWidget(name);
+  QAction* action = isMenu ? page_.FindAction(name) : nullptr;
+  if (!widget && !action)
+    throw std::logic_error(form_.name + " lays out no control " + control.name);
+  ControlView& view = views_.emplace_back(control, widget, action);
+  if (widget) byWidget_[widget] = &view;
+  view.ReadDesign();
+}
+
+void FormBinder::Connect(FocusWatch& focus) {
+  focus_ = &focus;
+  for (ControlView& view : views_) Connect(view);
+}
+
+void FormBinder::Connect(ControlView& view) {
+  if (view.Widget()) view.Widget()->installEventFilter(this);
+  switch (view.Control().kind) {
+    case Kind::Menu:
+      return ConnectAction(view);
+    case Kind::TextBox:
+      return ConnectText(view);
+    case Kind::ComboBox:
+      return ConnectList(view);
+    case Kind::CommandButton:
+    case Kind::OptionButton:
+    case Kind::CheckBox:
+      return ConnectButton(view);
+    case Kind::UpDown:
+      return ConnectSteps(view);
+    case Kind::Grid:
+      return ConnectGrid(view);
+    default:
+      return;
+  }
+}
+
+void FormBinder::ConnectAction(ControlView& view) {
+  QAction* action = view.Action();
+  if (action->menu()) return;
+  connect(action, &QAction::triggered, this, [this, &view] { TriggerMenu(view.Control()); });
+}
+
+void FormBinder::ConnectText(ControlView& view) {
+  auto* edit = qobject_cast<QLineEdit*>(view.Widget());
+  connect(edit, &QLineEdit::textEdited, this, [&view](const QString& t) { view.Typed(t); });
+  connect(edit, &QLineEdit::returnPressed, this, [this, &view] { Enter(view); });
+}
+
+// Free text: nothing is completed or added to the list behind the user's back.
+void FormBinder::ConnectList(ControlView& view) {
+  auto* box = qobject_cast<QComboBox*>(view.Widget());
+  box->setCompleter(nullptr);
+  box->setFocusPolicy(Qt::StrongFocus);
+  connect(box->lineEdit(), &QLineEdit::textEdited, this,
+          [&view](const QString& t) { view.Typed(t); });
+  connect(box->lineEdit(), &QLineEdit::returnPressed, this, [this, &view] { Enter(view); });
+  connect(box, &QComboBox::activated, this, [this, &view, box](int row) {
+    view.Typed(box->itemText(row));
+    Act(view.Control().Click);
+  });
+}
+
+void FormBinder::ConnectButton(ControlView& view) {
+  auto* button = qobject_cast<QAbstractButton*>(view.Widget());
+  connect(button, &QAbstractButton::clicked, this, [this, &view, button] {
+    gate_.RunLate();
+    focus_->Follow();
+    if (button->isCheckable()) Tick(view.Control(), button->isChecked());
+    gate_.Run(view.Control().Click);
+  });
+}
+
+void FormBinder::ConnectSteps(ControlView& view) {
+  auto* pair = qobject_cast<UpDownPair*>(view.Widget());
+  Control& control = view.Control();
+  connect(pair, &UpDownPair::SteppedUp, this, [this, &control] { Step(control.StepUp); });
+  connect(pair, &UpDownPair::SteppedDown, this, [this, &control] { Step(control.StepDown); });
+}
+
+// The items with a shortcut of their own for the table act on the table only.
+void FormBinder::ConnectGrid(ControlView& view) {
+  auto* table = qobject_cast<VkrGridView*>(view.Widget());
+  const QString caption = table->objectName() + QLatin1String("_Caption");
+  table->Attach(static_cast<screen::Grid&>(view.Control()), gate_,
+                page_.content->findChild<QLabel*>(caption));
+  for (const ControlView& other : views_) {
+    QAction* action = other.Action();
+    if (action && action->shortcutContext() == Qt::WidgetShortcut) {
+      table->addAction(action);
+      connect(action, &QAction::triggered, table, [table] { table->setFocus(); });
+    }
+  }
+  if (QAction* paste = page_.FindAction(QStringLiteral("MenuPaste")))
+    connect(paste, &QAction::triggered, table, &VkrGridView::PasteClipboard);
+}
+
+void FormBinder::Act(const screen::Handler& handler) {
+  gate_.RunLate();
+  focus_->Follow();
+  gate_.Run(handler);
+}
+
+// A field that gives the Enter key no meaning of its own takes its text as when it is left.
+void FormBinder::Enter(ControlView& view) {
+  Control& control = view.Control();
+  Act([&control] {
+    const screen::Handler& handler = control.EnterKey ? control.EnterKey : control.LostFocus;
+    if (handler) handler();
+    control.touched = false;
+  });
+}
+
+void FormBinder::Tick(const Control& ticked, bool on) {
+  const QWidget* group = WidgetOf(ticked)->parentWidget();
+  for (ControlView& view : views_) {
+    const bool other = ticked.kind == Kind::OptionButton && view.Widget() &&
+                       view.Control().kind == Kind::OptionButton &&
+                       view.Widget()->parentWidget() == group;
+    if (&view.Control() == &ticked)
+      view.Ticked(on);
+    else if (other)
+      view.Ticked(false);
+  }
+}
+
+void FormBinder::Step(const screen::Handler& handler) {
+  gate_.RunLate();
+  focus_->Follow();
+  focus_->Commit();
+  gate_.Run(handler);
+}
+
+void FormBinder::TriggerMenu(const Control& menu) {
+  for (ControlView& view : views_)
+    if (auto* table = qobject_cast<VkrGridView*>(view.Widget())) table->CommitEditor();
+  Step(menu.Click);
+}
+
+// The arrow keys in a field press the up-down pair that names the field as its own.
+bool FormBinder::StepKey(const Control& field, int key) {
+  if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
+  const QString name = DesignName(field.name);
+  for (ControlView& view : views_) {
+    const bool owns =
+        view.Control().kind == Kind::UpDown && view.Widget()->property("Field").toString() == name;
+    if (!owns || !view.Widget()->isEnabled() || !view.Widget()->isVisible()) continue;
+    Step(key == Qt::Key_Up ? view.Control().StepUp : view.Control().StepDown);
+    return true;
+  }
+  return false;
+}
+
+bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
+  auto* widget = qobject_cast<QWidget*>(watched);
+  // The wheel turns the page, not the list that happens to lie under the pointer.
+  if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(widget)) {
+    event->ignore();
+    return true;
+  }
+  if (event->type() != QEvent::KeyPress) return false;
+  gate_.RunLate();
+  focus_->Follow();
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (auto* button = qobject_cast<QPushButton*>(widget);
+      button && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+    button->click();
+    return true;
+  }
+  const auto view = byWidget_.find(widget);
+  return view != byWidget_.end() && view->second->Control().kind == Kind::TextBox &&
+         StepKey(view->second->Control(), key);
+}
+
+const ControlView* FormBinder::ViewOf(const Control& control) const {
+  for (const ControlView& view : views_)
+    if (&view.Control() == &control) return &view;
+  return nullptr;
+}
+
+QWidget* FormBinder::WidgetOf(const Control& control) const {
+  const ControlView* view = ViewOf(control);
+  return view ? view->Widget() : nullptr;
+}
+
+QAction* FormBinder::ActionOf(const Control& control) const {
+  const ControlView* view = ViewOf(control);
+  return view ? view->Action() : nullptr;
+}
+
+Control* FormBinder::ControlOf(const QWidget* widget) const {
+  for (; widget; widget = widget->parentWidget()) {
+    const auto found = byWidget_.find(widget);
+    // A frame around a widget is not the widget.
+    if (found != byWidget_.end() && found->second->Control().kind != Kind::Frame)
+      return &found->second->Control();
+  }
+  return nullptr;
+}
+
+void FormBinder::Push(bool onPage) {
+  for (ControlView& view : views_) view.Push(onPage);
+}
+
+}  // namespace ui

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QMenuBar>
+#include <QObject>
+
+#include <deque>
+#include <unordered_map>
+
+#include "screen/form.h"
+#include "ui/control_view.h"
+#include "ui/event_gate.h"
+#include "ui/focus_watch.h"
+#include "ui/page.h"
+
+namespace ui {
+
+// Ties a screen to the widgets of its page by name: what the user does calls the handlers, and
+// what the handlers change goes back to the widgets.
+class FormBinder : public QObject {
+  Q_OBJECT
+
+ public:
+  // Gives the form's controls their design-time ids. Throws std::logic_error when a control has
+  // no widget or action of its name.
+  FormBinder(screen::Form& form, QMenuBar& menuBar, EventGate& gate);
+
+  // `focus` must know the widgets of all forms by then.
+  void Connect(FocusWatch& focus);
+
+  screen::Form& Form() const { return form_; }
+  QScrollArea* Area() const { return page_.area; }
+  QWidget* WidgetOf(const screen::Control& control) const;
+  QAction* ActionOf(const screen::Control& control) const;
+  // The control that `widget` is, or is a part of.
+  screen::Control* ControlOf(const QWidget* widget) const;
+
+  void Push(bool onPage);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Add(screen::Control& control);
+  const ControlView* ViewOf(const screen::Control& control) const;
+  void Connect(ControlView& view);
+  void ConnectAction(ControlView& view);
+  void ConnectText(ControlView& view);
+  void ConnectList(ControlView& view);
+  void ConnectButton(ControlView& view);
+  void ConnectSteps(ControlView& view);
+  void ConnectGrid(ControlView& view);
+  void Enter(ControlView& view);
+  void Tick(const screen::Control& ticked, bool on);
+  void Step(const screen::Handler& handler);
+  void TriggerMenu(const screen::Control& menu);
+  bool StepKey(const screen::Control& control, int key);
+  // Runs `handler` after everything that the user did before.
+  void Act(const screen::Handler& handler);
+
+  screen::Form& form_;
+  Page page_;
+  EventGate& gate_;
+  FocusWatch* focus_ = nullptr;
+  std::deque<ControlView> views_;  // views keep their place
+  std::unordered_map<const QWidget*, ControlView*> byWidget_;
+};
+
+}  // namespace ui

@@ -1,0 +1,173 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <vector>
+
+#include "ui/event_gate.h"
+#include "ui/focus_watch.h"
+#include "ui/form_binder.h"
+#include "ui/strip_view.h"
+#include "ui/text.h"
+
+namespace ui {
+namespace {
+
+// 12000 by 9200 twips of 15 to the pixel.
+constexpr QSize kSize(800, 613);
+
+}  // namespace
+
+class MainWindow::Private {
+ public:
+  Private(MainWindow& window, start::Program& program, screen::Ports& ports);
+
+  FormBinder* BinderOf(const screen::Form& form) const;
+  screen::Control* ControlOf(QWidget* widget) const;
+  void Push();
+  void Settle();
+  void Choose(const QString& key);
+  void PlaceFocus();
+  void PushPointer(bool busy);
+
+  MainWindow& window_;
+  start::Program& program_;
+  EventGate gate_;
+  FocusWatch focus_;
+  StripView* strip_;
+  QStackedWidget* pages_;
+  std::vector<std::unique_ptr<FormBinder>> binders_;
+  bool pointerBusy_ = false;
+  bool ending_ = false;
+};
+
+MainWindow::Private::Private(MainWindow& window, start::Program& program, screen::Ports& ports)
+    : window_(window),
+      program_(program),
+      gate_(ports, [this] { Settle(); }),
+      focus_(window, gate_, [this](QWidget* widget) { return ControlOf(widget); }),
+      strip_(new StripView),
+      pages_(new QStackedWidget) {
+  auto* middle = new QWidget;
+  auto* column = new QVBoxLayout(middle);
+  column->setContentsMargins(0, 6, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(strip_);
+  column->addWidget(pages_);
+  window.setCentralWidget(middle);
+  for (screen::Form* form : program.Forms()) {
+    binders_.push_back(std::make_unique<FormBinder>(*form, *window.menuBar(), gate_));
+    pages_->addWidget(binders_.back()->Area());
+  }
+  for (auto& binder : binders_) binder->Connect(focus_);
+  connect(strip_, &StripView::Chosen, &window, [this](const QString& key) { Choose(key); });
+}
+
+FormBinder* MainWindow::Private::BinderOf(const screen::Form& form) const {
+  for (const auto& binder : binders_)
+    if (&binder->Form() == &form) return binder.get();
+  return nullptr;
+}
+
+screen::Control* MainWindow::Private::ControlOf(QWidget* widget) const {
+  for (const auto& binder : binders_)
+    if (screen::Control* control = binder->ControlOf(widget)) return control;
+  return nullptr;
+}
+
+// Showing and hiding may move the focus; that is no event for the controls.
+void MainWindow::Private::Push() {
+  QWidget* before = window_.focusWidget();
+  const screen::Form& shown = program_.Shown();
+  for (auto& binder : binders_) binder->Push(&binder->Form() == &shown);
+  strip_->Push(shown.strip);
+  const QWidget* oldPage = pages_->currentWidget();
+  if (const FormBinder* binder = BinderOf(shown)) pages_->setCurrentWidget(binder->Area());
+  if (oldPage != pages_->currentWidget() && strip_->isVisible()) strip_->setFocus();
+  window_.setWindowTitle(Shown(program_.Title()) + QLatin1String("[*]"));
+  window_.setWindowModified(program_.Unsaved());
+  PushPointer(shown.busyPointer);
+  if (window_.focusWidget() != before) focus_.Adopt();
+}
+
+void MainWindow::Private::PushPointer(bool busy) {
+  if (busy == pointerBusy_) return;
+  pointerBusy_ = busy;
+  if (busy)
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void MainWindow::Private::Settle() {
+  Push();
+  PlaceFocus();
+  focus_.Follow();
+  if (!program_.EndRequested() || ending_) return;
+  ending_ = true;
+  window_.close();
+  QCoreApplication::quit();
+}
+
+void MainWindow::Private::PlaceFocus() {
+  screen::Form& shown = program_.Shown();
+  for (const auto& binder : binders_) {
+    screen::Control* wanted = std::exchange(binder->Form().focusWanted, nullptr);
+    if (!wanted || &binder->Form() != &shown) continue;
+    QWidget* widget = binder->WidgetOf(*wanted);
+    if (widget && widget->isVisible() && widget->isEnabled()) widget->setFocus();
+  }
+}
+
+void MainWindow::Private::Choose(const QString& key) {
+  gate_.RunLate();
+  focus_.Follow();
+  const screen::TabStrip* strip = program_.Shown().strip;
+  if (strip && strip->Choose) gate_.Run([strip, &key] { strip->Choose(Typed(key)); });
+}
+
+MainWindow::MainWindow(start::Program& program, screen::Ports& ports)
+    : private_(std::make_unique<Private>(*this, program, ports)) {
+  QRect place(QPoint(), kSize);
+  if (const QScreen* where = QGuiApplication::primaryScreen()) {
+    const QRect screen = where->availableGeometry();
+    place.setSize(kSize.boundedTo(screen.size()));
+    place.moveCenter(screen.center());
+  }
+  setGeometry(place);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::ShowState() { private_->Push(); }
+
+void MainWindow::Repaint(screen::Form&) {
+  private_->Push();
+  repaint();
+}
+
+QWidget* MainWindow::WidgetOf(const screen::Form& form, const screen::Control& control) const {
+  const FormBinder* binder = private_->BinderOf(form);
+  return binder ? binder->WidgetOf(control) : nullptr;
+}
+
+QAction* MainWindow::ActionOf(const screen::Form& form, const screen::Control& control) const {
+  const FormBinder* binder = private_->BinderOf(form);
+  return binder ? binder->ActionOf(control) : nullptr;
+}
+
+QTabBar* MainWindow::Strip() const { return private_->strip_; }
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  start::Program& program = private_->program_;
+  bool mayClose = program.EndRequested();
+  if (!mayClose) private_->gate_.Run([&] { mayClose = program.MayUnload(); });
+  event->setAccepted(mayClose);
+}
+
+}  // namespace ui

@@ -1,0 +1,80 @@
+#include "ui/page.h"
+
+#include <QMainWindow>
+#include <QVariant>
+
+#include <map>
+#include <memory>
+#include <stdexcept>
+
+#include "ui/text.h"
+#include "ui_basis_form.h"
+#include "ui_data_ctrl_form.h"
+#include "ui_descript_form.h"
+#include "ui_grenzen_form.h"
+#include "ui_perc_ex_form.h"
+
+namespace ui {
+namespace {
+
+using Shell = std::unique_ptr<QMainWindow>;
+
+template <class Design>
+Shell Lay() {
+  auto shell = std::make_unique<QMainWindow>();
+  Design().setupUi(shell.get());
+  return shell;
+}
+
+const std::map<std::string, Shell (*)()>& Designs() {
+  static const std::map<std::string, Shell (*)()> designs = {
+      {"BasisForm", &Lay<Ui::BasisForm>},     {"DataCtrlForm", &Lay<Ui::DataCtrlForm>},
+      {"GrenzenForm", &Lay<Ui::GrenzenForm>}, {"DescriptForm", &Lay<Ui::DescriptForm>},
+      {"PercExForm", &Lay<Ui::PercExForm>},
+  };
+  return designs;
+}
+
+// The designer's form is a window of its own. Its menus and actions move into the shared window.
+void TakeMenus(QMainWindow& shell, QMenuBar& menuBar, Page& page) {
+  for (QAction* item : shell.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly))
+    item->setParent(page.content);
+  const QList<QAction*> tops = shell.menuBar()->actions();
+  for (QAction* top : tops) {
+    QMenu* menu = top->menu();
+    menu->setParent(&menuBar, menu->windowFlags());
+    menuBar.addAction(menu->menuAction());
+    page.menus.push_back(menu);
+  }
+}
+
+}  // namespace
+
+QWidget* Page::FindWidget(const QString& name) const { return content->findChild<QWidget*>(name); }
+
+QAction* Page::FindAction(const QString& name) const {
+  if (auto* item = content->findChild<QAction*>(name)) return item;
+  for (QMenu* menu : menus) {
+    if (menu->objectName() == name) return menu->menuAction();
+    if (auto* submenu = menu->findChild<QMenu*>(name)) return submenu->menuAction();
+  }
+  return nullptr;
+}
+
+Page LoadPage(const std::string& formName, QMenuBar& menuBar) {
+  const auto design = Designs().find(formName);
+  if (design == Designs().end()) throw std::invalid_argument("no layout for " + formName);
+  const Shell shell = design->second();
+  Page page;
+  page.captionTag = Typed(shell->property("Tag").toString());
+  page.content = shell->takeCentralWidget();
+  page.area = new QScrollArea;
+  page.area->setFrameShape(QFrame::NoFrame);
+  page.area->setFocusPolicy(Qt::NoFocus);
+  page.area->setWidgetResizable(true);
+  page.area->setWidget(page.content);
+  TakeMenus(*shell, menuBar, page);
+  return page;
+}
+
+}  // namespace ui

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollArea>
+
+#include <string>
+#include <vector>
+
+namespace ui {
+
+// One screen as its designer file lays it out: the page for the window's stack, and its menus.
+struct Page {
+  QScrollArea* area = nullptr;  // so that nothing is out of reach in a small window
+  QWidget* content = nullptr;
+  std::string captionTag;
+  std::vector<QMenu*> menus;  // of the menu bar
+
+  QWidget* FindWidget(const QString& name) const;
+  // The item of that name, or the action that stands for the submenu of that name.
+  QAction* FindAction(const QString& name) const;
+};
+
+// Lays out the screen `formName`; its menus go into `menuBar`. Throws std::invalid_argument for
+// a form without a designer file.
+Page LoadPage(const std::string& formName, QMenuBar& menuBar);
+
+}  // namespace ui

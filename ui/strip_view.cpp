@@ -1,0 +1,91 @@
+#include "ui/strip_view.h"
+
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionTab>
+
+#include <algorithm>
+
+#include "ui/text.h"
+
+namespace ui {
+
+StripView::StripView(QWidget* parent) : QTabBar(parent) {
+  setObjectName(QStringLiteral("TabStrip"));
+  setAccessibleName(tr("Screens"));
+  setExpanding(false);
+  setDrawBase(true);
+  setElideMode(Qt::ElideNone);
+  setUsesScrollButtons(true);
+  // A click takes the focus, so that the field that had it is left before the tab is looked at.
+  setFocusPolicy(Qt::StrongFocus);
+  connect(this, &QTabBar::currentChanged, this,
+          [this](int index) { emit Chosen(tabData(index).toString()); });
+}
+
+void StripView::Push(const screen::TabStrip* strip) {
+  const QSignalBlocker quiet(this);
+  if (!strip) {
+    hide();
+    return;
+  }
+  if (strip->tabs != shown_) Fill(*strip);
+  for (int i = 0; i < count(); ++i)
+    if (tabData(i).toString() == Shown(strip->selected) && i != currentIndex()) setCurrentIndex(i);
+  setEnabled(strip->enabled);
+  setVisible(strip->visible && count() > 0);
+}
+
+void StripView::Fill(const screen::TabStrip& strip) {
+  const int wanted = static_cast<int>(strip.tabs.size());
+  while (count() > wanted) removeTab(count() - 1);
+  while (count() < wanted) addTab(QString());
+  for (int i = 0; i < wanted; ++i) {
+    const screen::Tab& tab = strip.tabs[static_cast<std::size_t>(i)];
+    setTabText(i, Shown(tab.caption));
+    setTabToolTip(i, TipText(tab.tip));
+    setTabData(i, Shown(tab.key));
+    setTabEnabled(i, tab.enabled);
+  }
+  shown_ = strip.tabs;
+}
+
+// The caption on two lines, broken where the longer line is shortest.
+QString StripView::Folded(const QString& caption) const {
+  constexpr int kFewWords = 12;  // characters that need no second line
+  if (caption.size() <= kFewWords) return caption;
+  QString best = caption;
+  int width = fontMetrics().horizontalAdvance(caption);
+  for (qsizetype i = caption.indexOf(QLatin1Char(' ')); i > 0;
+       i = caption.indexOf(QLatin1Char(' '), i + 1)) {
+    const QString first = caption.left(i);
+    const QString second = caption.mid(i + 1);
+    const int longer =
+        std::max(fontMetrics().horizontalAdvance(first), fontMetrics().horizontalAdvance(second));
+    if (longer >= width) continue;
+    width = longer;
+    best = first + QLatin1Char('\n') + second;
+  }
+  return best;
+}
+
+QSize StripView::tabSizeHint(int index) const {
+  QStyleOptionTab option;
+  QTabBar::initStyleOption(&option, index);
+  const QSize text =
+      fontMetrics().size(Qt::TextShowMnemonic, Folded(tabText(index)) + QLatin1Char('\n'));
+  const QSize space(style()->pixelMetric(QStyle::PM_TabBarTabHSpace, &option, this),
+                    style()->pixelMetric(QStyle::PM_TabBarTabVSpace, &option, this));
+  const int twoLines = 2 * fontMetrics().lineSpacing();
+  return style()->sizeFromContents(QStyle::CT_TabBarTab, &option,
+                                   QSize(text.width(), twoLines) + space, this);
+}
+
+QSize StripView::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
+
+void StripView::initStyleOption(QStyleOptionTab* option, int index) const {
+  QTabBar::initStyleOption(option, index);
+  option->text = Folded(tabText(index));
+}
+
+}  // namespace ui

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTabBar>
+
+#include "screen/control.h"
+
+namespace ui {
+
+// The tab strip. Long captions take two lines, so that all tabs fit the window.
+class StripView : public QTabBar {
+  Q_OBJECT
+
+ public:
+  explicit StripView(QWidget* parent = nullptr);
+
+  // Shows the strip of the shown screen; null for a screen without one.
+  void Push(const screen::TabStrip* strip);
+
+ signals:
+  void Chosen(const QString& key);
+
+ protected:
+  QSize tabSizeHint(int index) const override;
+  QSize minimumTabSizeHint(int index) const override;
+  void initStyleOption(QStyleOptionTab* option, int index) const override;
+
+ private:
+  void Fill(const screen::TabStrip& strip);
+  QString Folded(const QString& caption) const;
+
+  std::vector<screen::Tab> shown_;
+};
+
+}  // namespace ui

@@ -1,0 +1,136 @@
+#include "ui/vkr_grid_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+#include "ui/text.h"
+#include "ui/vkr_grid_model.h"
+
+namespace ui {
+
+VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  horizontalHeader()->setStretchLastSection(true);
+  horizontalHeader()->setHighlightSections(false);
+  setAlternatingRowColors(true);
+  setTabKeyNavigation(false);
+  setSelectionMode(QAbstractItemView::ContiguousSelection);
+  setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
+                  QAbstractItemView::EditKeyPressed);
+  setAccessibleName(tr("Outcomes"));
+}
+
+void VkrGridView::Attach(screen::Grid& grid, EventGate& gate, QLabel* caption) {
+  grid_ = &grid;
+  gate_ = &gate;
+  caption_ = caption;
+  model_ = new VkrGridModel(grid, gate, this);
+  setModel(model_);
+}
+
+void VkrGridView::SetCaption(const QString& caption) {
+  if (!caption_) return;
+  caption_->setText(caption);
+  caption_->setToolTip(TipText(Typed(caption)));
+}
+
+void VkrGridView::Refresh() {
+  const int columns = model_->columnCount();
+  model_->Refresh();
+  if (model_->columnCount() != columns) SpreadColumns();
+  if (currentIndex().row() != grid_->currentRow) GoTo(grid_->currentRow);
+}
+
+void VkrGridView::GoTo(int row) {
+  const int last = model_->rowCount() - 1;
+  if (last >= 0) setCurrentIndex(model_->index(std::clamp(row, 0, last), model_->EditableColumn()));
+}
+
+void VkrGridView::CommitEditor() {
+  QWidget* focus = QApplication::focusWidget();
+  if (state() == EditingState && focus && isAncestorOf(focus)) setFocus();
+}
+
+void VkrGridView::PasteClipboard() {
+  const std::string text = Typed(QGuiApplication::clipboard()->text());
+  const int row = std::max(currentIndex().row(), 0);
+  gate_->Later([this, row, text] { grid_->Paste(row, text); });
+}
+
+void VkrGridView::CopySelection() const {
+  QModelIndexList cells = selectedIndexes();
+  std::sort(cells.begin(), cells.end());
+  QString text;
+  for (qsizetype i = 0; i < cells.size(); ++i) {
+    if (i > 0) text += QLatin1Char(cells[i].row() == cells[i - 1].row() ? '\t' : '\n');
+    text += cells[i].data().toString();
+  }
+  QGuiApplication::clipboard()->setText(text);
+}
+
+void VkrGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (current.isValid()) grid_->currentRow = current.row();
+}
+
+// The row behind the one just typed need not be there yet: an outcome in the empty row makes it.
+void VkrGridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+  const bool refused = hint == QAbstractItemDelegate::RevertModelCache;
+  if (refused || QApplication::focusWidget() != this) return;
+  const int step = hint == QAbstractItemDelegate::EditPreviousItem ? -1 : 1;
+  const int row = currentIndex().row() + step;
+  GoTo(row);
+  if (row >= 0) grid_->currentRow = row;
+}
+
+bool VkrGridView::TakesKey(const QKeyEvent& event) {
+  const int row = currentIndex().row();
+  if (event.matches(QKeySequence::Copy)) {
+    CopySelection();
+  } else if (event.matches(QKeySequence::Paste)) {
+    PasteClipboard();
+  } else if (event.key() == Qt::Key_Delete && row >= 0) {
+    gate_->Later([this, row] { grid_->DeleteRow(row); });
+  } else if ((event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) && row >= 0) {
+    edit(model_->index(row, model_->EditableColumn()));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// Typing anywhere in a row edits its outcome.
+void VkrGridView::keyPressEvent(QKeyEvent* event) {
+  if (TakesKey(*event)) return;
+  const bool typing = !event->text().isEmpty() && event->text()[0].isPrint();
+  const QModelIndex current = currentIndex();
+  if (typing && current.isValid() && current.column() != model_->EditableColumn())
+    GoTo(current.row());
+  QTableView::keyPressEvent(event);
+}
+
+void VkrGridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  SpreadColumns();
+}
+
+// The columns share the width as their widths in twips are to each other.
+void VkrGridView::SpreadColumns() {
+  if (!grid_ || grid_->columns.empty()) return;
+  int twips = 0;
+  for (const screen::Grid::Column& column : grid_->columns) twips += column.widthTwips;
+  if (twips == 0 || model_->columnCount() == 0) return;
+  for (int i = 0; i + 1 < model_->columnCount(); ++i) {
+    const int share =
+        viewport()->width() * grid_->columns[static_cast<std::size_t>(i)].widthTwips / twips;
+    setColumnWidth(i, std::max(share, horizontalHeader()->sectionSizeHint(i)));
+  }
+}
+
+}  // namespace ui

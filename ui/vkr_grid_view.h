@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QLabel>
+#include <QTableView>
+
+#include "screen/control.h"
+#include "ui/event_gate.h"
+
+namespace ui {
+
+class VkrGridModel;
+
+// The editable table of outcomes. Enter and Tab take a typed outcome and go on to the next row;
+// Delete deletes the current row; columns of numbers are copied and pasted.
+class VkrGridView : public QTableView {
+  Q_OBJECT
+
+ public:
+  explicit VkrGridView(QWidget* parent = nullptr);
+
+  // `caption`: the label that shows the table's caption, if there is one.
+  void Attach(screen::Grid& grid, EventGate& gate, QLabel* caption);
+  void SetCaption(const QString& caption);
+  // Shows the cells anew and goes to the row that the screen's rules have made the current one.
+  void Refresh();
+  // Takes what stands in an open editor.
+  void CommitEditor();
+  void PasteClipboard();
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void GoTo(int row);
+  void CopySelection() const;
+  void SpreadColumns();
+  bool TakesKey(const QKeyEvent& event);
+
+  screen::Grid* grid_ = nullptr;
+  EventGate* gate_ = nullptr;
+  VkrGridModel* model_ = nullptr;
+  QLabel* caption_ = nullptr;
+};
+
+}  // namespace ui
