@@ -33,8 +33,8 @@ struct ExposureSession {
   std::vector<double> C;
   std::vector<double> LnC;
   std::vector<std::array<std::string, 4>> GridData;
-  std::string SortOrder;        // "Ascending" or "Onbekend"
-  std::int16_t SigDigits = 0;   // width of the longest mantissa seen in entered numbers
+  std::string SortOrder;       // "Ascending" or "Onbekend"
+  std::int16_t SigDigits = 0;  // width of the longest mantissa seen in entered numbers
 
   // Detection range
   bool DetecOn = false;
