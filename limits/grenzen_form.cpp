@@ -74,9 +74,9 @@ void GrenzenForm::Load() {
 }
 
 void GrenzenForm::FillCombos() {
-  for (int id : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(id));
-  for (int id : {334, 336, 338, 340, 342, 344, 346, 348, 350, 352, 354})
-    DurationCmB.items.push_back(LoadResString(id));
+  for (int row : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(row));
+  for (int row : {334, 336, 338, 340, 342, 344, 346, 348, 350, 352, 354})
+    DurationCmB.items.push_back(LoadResString(row));
   RefPerCmb.items = DurationCmB.items;
   for (const char* period : {"1 month", "3 months", "1 year", "40 years", "life time"})
     RefPerCmb.items.emplace_back(period);

@@ -49,7 +49,7 @@ void DataCtrlForm::WireDetection() {
 
 void DataCtrlForm::Load() {
   OfferMenus();
-  for (int id : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(id));
+  for (int row : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(row));
   DBGridVkr.columns = {{LoadResString(600), 700, false},
                        {LoadResString(602), 700, false},
                        {LoadResString(604), 2700, true},
