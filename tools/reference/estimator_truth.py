@@ -2,8 +2,9 @@
 """Writes tests/data/estimator_truth.csv: the lognormal estimators in arbitrary precision.
 
 Reason: shows what the summation of Finney's series in doubles, and its stop, cost. Method: the
-series are confluent hypergeometric limit functions, g(A) = 0F1(n / 2; A / 2); they are evaluated
-with 60 digits (mpmath), the linear sums not at all. Needs mpmath (python3-mpmath).
+series are confluent hypergeometric limit functions, g(A) = 0F1(n / 2; A / 2); they and the linear
+moments that follow from GM and GSD (with M = df + 1) are evaluated with 60 digits. Needs mpmath
+(python3-mpmath).
 """
 
 import csv
@@ -40,8 +41,18 @@ def gm_unbiased(n, gm, L):
     return gm * mp.hyp0f1(n / 2 + 1, -L ** 2 / 4)
 
 
+def linear_mean(n, gm, L):
+    return gm * mp.exp(L ** 2 / 2)
+
+
+def linear_deviation(n, gm, L):
+    e = mp.exp(L ** 2 / 2)
+    return mp.sqrt(gm ** 2 * e * (e - 1) * (n + 1) / n)
+
+
 ESTIMATORS = {"FinneyMeanMVU": mean_mvu, "FinneyMeanMMSE": mean_mmse,
-              "FinneyVarianceMVU": variance_mvu, "GMUnbiased": gm_unbiased}
+              "FinneyVarianceMVU": variance_mvu, "GMUnbiased": gm_unbiased,
+              "LinearMoments XM": linear_mean, "LinearMoments SDlin": linear_deviation}
 
 
 def in_domain(name, df, gsd):
