@@ -220,14 +220,14 @@ void BasisForm::StepSampleSize(double step) {
   BasisStatus();
 }
 
-// A modified sample size is a what-if on top of the series and leaves the series alone.
+// A refused sample size changes nothing else. A modified one is a what-if on top of the series and leaves the series alone.
 void BasisForm::SampleSizeChanged() {
+  if (session.M < 2 || session.M > kMaxSampleSize) return;
   if (session.ModifyMode) {
     session.df = session.M - 1;
     return;
   }
-  const bool valid = session.M >= 2 && session.M <= kMaxSampleSize;
-  if (session.Mode == "R" && valid) {
+  if (session.Mode == "R") {
     GrowSeries(session);
     session.RawIncomplete = HasUnfilled(session);
   }
