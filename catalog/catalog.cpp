@@ -22,12 +22,8 @@ const std::vector<std::string>& Texts() {
 
 }  // namespace
 
-const Row* begin() {
-  return kRows;
-}
-const Row* end() {
-  return kRows + kRowCount;
-}
+const Row* begin() { return kRows; }
+const Row* end() { return kRows + kRowCount; }
 
 }  // namespace catalog
 

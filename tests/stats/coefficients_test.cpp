@@ -1,6 +1,7 @@
 #include "stats/coefficients.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -24,7 +25,8 @@ class CoefficientFiles : public ::testing::Test {
  protected:
   void SetUp() override {
     const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    home_ = fs::temp_directory_path() / (std::string("valkorin_coefficients_") + info->name());
+    home_ = fs::temp_directory_path() /
+            (std::string("valkorin_coefficients_") + info->name() + std::to_string(::getpid()));
     fs::remove_all(home_);
     fs::create_directories(home_ / "current");
     fs::create_directories(home_ / "beside");

@@ -127,7 +127,7 @@ ExposureSession SessionOf(const support::Row& row,
   s.SDlin = -7;  // so that a value that was left alone is seen
   const std::string& name = row.Text("series");
   if (name.starts_with("M=")) {
-    s.M = std::stod(name.substr(2));
+    s.M = std::stoi(name.substr(2));
   } else {
     s.C = series.at(name);
     s.M = static_cast<double>(s.C.size() - 1);
