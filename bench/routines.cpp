@@ -1,0 +1,77 @@
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "bench/raw_series.h"
+#include "rawdata/raw_file.h"
+#include "session/exposure_session.h"
+#include "session/global_bas.h"
+#include "stats/estimators.h"
+#include "stats/normal.h"
+
+namespace {
+
+// Walks over the whole working range, so that every region of a routine takes part.
+double Sweep(double from, double to, std::size_t step) {
+  constexpr std::size_t kSteps = 1024;
+  return from + (to - from) * static_cast<double>(step % kSteps) / kSteps;
+}
+
+void NormalUpper(benchmark::State& state) {
+  std::size_t i = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(StatFWinBAS::NormalUpper(Sweep(-8, 8, i++)));
+}
+BENCHMARK(NormalUpper);
+
+void NormalUpperInverse(benchmark::State& state) {
+  std::size_t i = 0;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(StatFWinBAS::NormalUpperInverse(Sweep(1e-6, 1 - 1e-6, i++)));
+}
+BENCHMARK(NormalUpperInverse);
+
+void FinneyMeanMVU(benchmark::State& state) {
+  const auto df = static_cast<double>(state.range(0));
+  for (auto _ : state) benchmark::DoNotOptimize(StatFWinBAS::FinneyMeanMVU(df, 1.3, 2.5));
+}
+BENCHMARK(FinneyMeanMVU)->Arg(5)->Arg(1999);
+
+void LogMomentsOfSeries(benchmark::State& state) {
+  const int count = static_cast<int>(state.range(0));
+  ExposureSession session;
+  session.M = count;
+  session.df = count - 1;
+  session.C = bench::LognormalSeries(count);
+  session.C.insert(session.C.begin(), 0.0);
+  double gm = 0;
+  double gsd = 0;
+  for (auto _ : state) {
+    LogMoments(session, gm, gsd);
+    benchmark::DoNotOptimize(gsd);
+  }
+}
+BENCHMARK(LogMomentsOfSeries)->Arg(40)->Arg(2000);
+
+void ShowNumber(benchmark::State& state) {
+  std::size_t i = 0;
+  for (auto _ : state) {
+    const double value = Sweep(0.001, 5000, i++);
+    benchmark::DoNotOptimize(GlobalBAS::FormatNumber(value, GlobalBAS::FormatMask(value, 6)));
+  }
+}
+BENCHMARK(ShowNumber);
+
+void ReadNumber(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(GlobalBAS::ReadNumber(" 12,0375 mg/m3"));
+}
+BENCHMARK(ReadNumber);
+
+void CheckFile(benchmark::State& state) {
+  const bench::RawSeriesFile file(static_cast<int>(state.range(0)));
+  for (auto _ : state) benchmark::DoNotOptimize(rawdata::CheckFile(file.Path()));
+}
+BENCHMARK(CheckFile)->Arg(40)->Arg(2000);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "screen/ports.h"
+
+namespace bench {
+
+// A user who answers every question with its default.
+class SilentMessageBox final : public screen::MessageBox {
+ public:
+  screen::Answer Show(const screen::Message& message) override { return message.defaultAnswer; }
+};
+
+// A user who always chooses the same file.
+class OneFile final : public screen::FileDialog {
+ public:
+  std::string path;
+  std::string Ask(const Request&) override { return path; }
+};
+
+}  // namespace bench

@@ -1,0 +1,154 @@
+#include <benchmark/benchmark.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QAction>
+#include <QApplication>
+#include <chrono>
+#include <cstring>
+#include <stdexcept>
+
+#include "bench/raw_series.h"
+#include "bench/silent_ports.h"
+#include "session/workflow.h"
+#include "ui/application.h"
+
+// How long the user waits, measured on the real window: from the start of the process to the
+// first screen, from the choice of a file to its screen, and from a tab to its screen.
+namespace {
+
+using workflow::ScreenId;
+
+constexpr const char* kStartOnly = "--start-only";
+
+// Everything that stands to be shown is on the screen when it returns.
+void Paint(ui::Application& application) {
+  QApplication::processEvents();
+  application.Window().repaint();
+}
+
+// The child of StartToFirstScreen: the program's own start, up to its first painted screen.
+int StartOnly(int argc, char** argv) {
+  QApplication toolkit(argc, argv);
+  ui::PrepareToolkit();
+  bench::SilentMessageBox messageBox;
+  bench::OneFile fileDialog;
+  ui::Application application(messageBox, fileDialog);
+  application.Start();
+  Paint(application);
+  _exit(application.Window().isVisible() ? 0 : 1);
+}
+
+void StartToFirstScreen(benchmark::State& state) {
+  for (auto _ : state) {
+    std::string self = "/proc/self/exe";
+    std::string option = kStartOnly;
+    char* arguments[] = {self.data(), option.data(), nullptr};
+    const auto begin = std::chrono::steady_clock::now();
+    pid_t child = 0;
+    int status = -1;
+    if (posix_spawn(&child, self.c_str(), nullptr, nullptr, arguments, environ) != 0 ||
+        waitpid(child, &status, 0) != child || status != 0) {
+      state.SkipWithError("the program did not start");
+      return;
+    }
+    state.SetIterationTime(
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+  }
+}
+BENCHMARK(StartToFirstScreen)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(40);
+
+// A started program, and the user's ways to it.
+struct Desktop {
+  bench::SilentMessageBox messageBox;
+  bench::OneFile fileDialog;
+  ui::Application application{messageBox, fileDialog};
+
+  Desktop() {
+    application.Start();
+    Paint(application);
+  }
+
+  void Menu(const char* name) {
+    screen::Form& shown = application.Program().Shown();
+    application.Window().ActionOf(shown, *shown.Find(name))->trigger();
+    Paint(application);
+  }
+
+  void Open(const std::string& path) {
+    fileDialog.path = path;
+    Menu("menuopen");
+    if (application.Program().Shown().name != "DataCtrlForm")
+      throw std::runtime_error("the series was not opened");
+  }
+
+  void Show(ScreenId screen) {
+    application.Program().Open(screen);
+    application.Window().ShowState();
+    Paint(application);
+  }
+};
+
+void OpenFileToItsScreen(benchmark::State& state) {
+  const bench::RawSeriesFile file(static_cast<int>(state.range(0)));
+  Desktop desktop;
+  for (auto _ : state) {
+    desktop.Open(file.Path());
+    state.PauseTiming();
+    desktop.Menu("Menuclose");
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(OpenFileToItsScreen)->Arg(40)->Arg(2000)->Unit(benchmark::kMillisecond);
+
+// Each round comes from another screen, so that the window changes its page as it does for a tab.
+void Activate(benchmark::State& state, ScreenId screen) {
+  const bench::RawSeriesFile file(static_cast<int>(state.range(0)));
+  Desktop desktop;
+  desktop.Open(file.Path());
+  desktop.application.Program().Session().OELV = 5;
+  desktop.application.Program().Session().LimitsOk = true;
+  const ScreenId other = screen == ScreenId::Descript ? ScreenId::Grenzen : ScreenId::Descript;
+  desktop.Show(screen);
+  for (auto _ : state) {
+    state.PauseTiming();
+    desktop.Show(other);
+    state.ResumeTiming();
+    desktop.Show(screen);
+  }
+}
+BENCHMARK_CAPTURE(Activate, BasisForm, ScreenId::Basis)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, DataCtrlForm, ScreenId::DataCtrl)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, DescriptForm, ScreenId::Descript)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, GrenzenForm, ScreenId::Grenzen)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, PercExForm, ScreenId::PercEx)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // As users measure it, without the time of a real display.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (argc == 2 && std::strcmp(argv[1], kStartOnly) == 0) return StartOnly(argc, argv);
+  QApplication toolkit(argc, argv);
+  ui::PrepareToolkit();
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
