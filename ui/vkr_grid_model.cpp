@@ -33,11 +33,17 @@ QString VkrGridModel::CellText(int row, int column) const {
   }
 }
 
+// Numbers end in line, the operators stand in the middle, the unit begins beside its number.
+Qt::Alignment VkrGridModel::AlignmentOf(int column) const {
+  const int outcome = EditableColumn();
+  if (column == outcome - 1) return Qt::AlignHCenter;
+  return column > outcome ? Qt::AlignLeft : Qt::AlignRight;
+}
+
 QVariant VkrGridModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   if (role == Qt::TextAlignmentRole) {
-    const bool last = index.column() + 1 == columns_;
-    return QVariant(Qt::AlignVCenter | (last ? Qt::AlignLeft : Qt::AlignRight));
+    return QVariant(Qt::AlignVCenter | AlignmentOf(index.column()));
   }
   if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
   if (role == Qt::DisplayRole && IsNewRow(index.row()))

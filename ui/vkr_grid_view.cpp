@@ -15,7 +15,6 @@ namespace ui {
 VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-  horizontalHeader()->setStretchLastSection(true);
   horizontalHeader()->setHighlightSections(false);
   setAlternatingRowColors(true);
   setTabKeyNavigation(false);
@@ -120,17 +119,18 @@ void VkrGridView::resizeEvent(QResizeEvent* event) {
   SpreadColumns();
 }
 
-// The columns share the width as their widths in twips are to each other.
+// The columns share the width as their widths in twips are to each other, but none is narrower
+// than its caption; the outcomes take what is left.
 void VkrGridView::SpreadColumns() {
-  if (!grid_ || grid_->columns.empty()) return;
+  if (!grid_ || model_->columnCount() == 0) return;
   int twips = 0;
   for (const screen::Grid::Column& column : grid_->columns) twips += column.widthTwips;
-  if (twips == 0 || model_->columnCount() == 0) return;
-  for (int i = 0; i + 1 < model_->columnCount(); ++i) {
+  for (int i = 0; i < model_->columnCount() && twips > 0; ++i) {
     const int share =
         viewport()->width() * grid_->columns[static_cast<std::size_t>(i)].widthTwips / twips;
     setColumnWidth(i, std::max(share, horizontalHeader()->sectionSizeHint(i)));
   }
+  horizontalHeader()->setSectionResizeMode(model_->EditableColumn(), QHeaderView::Stretch);
 }
 
 }  // namespace ui
