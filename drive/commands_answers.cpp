@@ -94,9 +94,7 @@ void ExpectEnded(Play& play, std::string) {
   if (!play.stage.Ended()) throw Failure("the program is still there");
 }
 
-void Focus(Play& play, std::string) {
-  play.Say("focus = " + Focused(play.stage));
-}
+void Focus(Play& play, std::string) { play.Say("focus = " + Focused(play.stage)); }
 
 void ExpectFocus(Play& play, std::string rest) {
   const std::string focused = Focused(play.stage);

@@ -13,9 +13,7 @@ Target TakeTarget(Play& play, std::string& rest) {
   return play.stage.Find(name);
 }
 
-void ClickOn(Play& play, std::string rest) {
-  Click(play.stage, TakeTarget(play, rest));
-}
+void ClickOn(Play& play, std::string rest) { Click(play.stage, TakeTarget(play, rest)); }
 
 void TypeAndLeave(Play& play, std::string rest) {
   const Target field = TakeTarget(play, rest);
@@ -34,33 +32,19 @@ void PickEntry(Play& play, std::string rest) {
   Pick(play.stage, list, TextArgument(rest));
 }
 
-void Up(Play& play, std::string rest) {
-  Step(play.stage, TakeTarget(play, rest), Arrow::Up);
-}
-void Down(Play& play, std::string rest) {
-  Step(play.stage, TakeTarget(play, rest), Arrow::Down);
-}
-void Key(Play& play, std::string rest) {
-  Press(play.stage, rest);
-}
+void Up(Play& play, std::string rest) { Step(play.stage, TakeTarget(play, rest), Arrow::Up); }
+void Down(Play& play, std::string rest) { Step(play.stage, TakeTarget(play, rest), Arrow::Down); }
+void Key(Play& play, std::string rest) { Press(play.stage, rest); }
 
 void Cell(Play& play, std::string rest) {
   const int row = IntOf(TakeWord(rest));
   TypeIntoCell(play.stage, row, TextArgument(rest));
 }
 
-void AddARow(Play& play, std::string rest) {
-  AddRow(play.stage, TextArgument(rest));
-}
-void DeleteTheRow(Play& play, std::string rest) {
-  DeleteRow(play.stage, IntOf(rest));
-}
-void Row(Play& play, std::string rest) {
-  GoToRow(play.stage, IntOf(rest));
-}
-void Paste(Play& play, std::string rest) {
-  PasteRows(play.stage, Unescaped(TextArgument(rest)));
-}
+void AddARow(Play& play, std::string rest) { AddRow(play.stage, TextArgument(rest)); }
+void DeleteTheRow(Play& play, std::string rest) { DeleteRow(play.stage, IntOf(rest)); }
+void Row(Play& play, std::string rest) { GoToRow(play.stage, IntOf(rest)); }
+void Paste(Play& play, std::string rest) { PasteRows(play.stage, Unescaped(TextArgument(rest))); }
 
 }  // namespace
 

@@ -14,21 +14,13 @@ void File(Play& play, std::string rest) {
   play.files.Queue(path == "-" ? "" : path);
 }
 
-void Answer(Play& play, std::string rest) {
-  play.boxes.Queue(AnswerByName(rest));
-}
+void Answer(Play& play, std::string rest) { play.boxes.Queue(AnswerByName(rest)); }
 
-void FormName(Play& play, std::string) {
-  play.Say("form = " + play.stage.Shown().name);
-}
+void FormName(Play& play, std::string) { play.Say("form = " + play.stage.Shown().name); }
 
-void Menu(Play& play, std::string rest) {
-  ChooseMenu(play.stage, play.stage.Find(rest));
-}
+void Menu(Play& play, std::string rest) { ChooseMenu(play.stage, play.stage.Find(rest)); }
 
-void Tab(Play& play, std::string rest) {
-  ClickTab(play.stage, rest);
-}
+void Tab(Play& play, std::string rest) { ClickTab(play.stage, rest); }
 
 void Shot(Play& play, std::string rest) {
   const std::string file = TextArgument(rest);
@@ -36,14 +28,19 @@ void Shot(Play& play, std::string rest) {
     throw Failure("the picture can't be saved as " + file);
 }
 
-void Quit(Play& play, std::string) {
-  play.stage.Close();
-}
+void Quit(Play& play, std::string) { play.stage.Close(); }
 
-void Title(Play& play, std::string) {
+std::string TitleText(Play& play) {
   QString title = play.stage.Window().windowTitle();
   title.replace("[*]", play.stage.Window().isWindowModified() ? "*" : "");
-  play.Say("title = " + Quoted(title.toStdString()));
+  return title.toStdString();
+}
+
+void Title(Play& play, std::string) { play.Say("title = " + Quoted(TitleText(play))); }
+
+void ExpectTitle(Play& play, std::string rest) {
+  const std::string title = TitleText(play);
+  if (title != TextArgument(rest)) throw Failure("the title is " + Quoted(title));
 }
 
 void Size(Play& play, std::string rest) {
@@ -56,8 +53,10 @@ void Size(Play& play, std::string rest) {
 
 const CommandTable& WindowCommands() {
   static const CommandTable table = {
-      {"file", File}, {"answer", Answer}, {"form", FormName}, {"menu", Menu}, {"tab", Tab},
-      {"shot", Shot}, {"quit", Quit},     {"title", Title},   {"size", Size},
+      {"file", File}, {"answer", Answer}, {"form", FormName},
+      {"menu", Menu}, {"tab", Tab},       {"shot", Shot},
+      {"quit", Quit}, {"title", Title},   {"expect-title", ExpectTitle},
+      {"size", Size},
   };
   return table;
 }

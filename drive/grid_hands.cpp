@@ -74,9 +74,7 @@ void DeleteRow(Stage& stage, int row) {
   ChooseMenu(stage, stage.Find("MenuDeleteRow"));
 }
 
-void GoToRow(Stage& stage, int row) {
-  GoToCell(stage, row);
-}
+void GoToRow(Stage& stage, int row) { GoToCell(stage, row); }
 
 void PasteRows(Stage& stage, const std::string& text) {
   const Target grid = GridOf(stage);

@@ -133,7 +133,8 @@ Look MenuLook(Stage& stage, const Target& target) {
   if (target.form != &stage.Shown()) return state;
   Same(*target.control, "the text", Comparable(shown.text), Comparable(state.text));
   Same(*target.control, "hidden", shown.hidden, state.hidden);
-  Same(*target.control, "disabled", shown.disabled, state.disabled);
+  // The toolkit counts a hidden item as a disabled one.
+  if (!state.hidden) Same(*target.control, "disabled", shown.disabled, state.disabled);
   return state;
 }
 

@@ -39,6 +39,7 @@ int PlayAll(std::istream& in) {
 int main(int argc, char* argv[]) {
   ChoosePlatform();
   QApplication toolkit(argc, argv);
+  ui::PrepareToolkit();
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() != 2) {
     std::cerr << "usage: valkorin-drive SCRIPT   (- reads the script from standard input)\n";

@@ -19,7 +19,7 @@ const Action* Known(const std::string& name) {
 
 // The commands that ask nothing of the window.
 bool NeedsNoWindow(const std::string& name) {
-  return name == "box" || name == "expect-ended";
+  return name == "box" || name == "expect-box" || name == "expect-no-box" || name == "expect-ended";
 }
 
 void Run(Play& play, const Command& command) {

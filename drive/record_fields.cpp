@@ -100,30 +100,22 @@ std::string OneLine(const std::string& text) {
   return line;
 }
 
-std::string ValueText(const std::string& value) {
-  return OneLine(value);
-}
-std::string ValueText(bool value) {
-  return value ? "1" : "0";
-}
-std::string ValueText(std::int16_t value) {
-  return IntText(value);
-}
-std::string ValueText(double value) {
-  return NumberText(value);
-}
+std::string ValueText(const std::string& value) { return OneLine(value); }
+std::string ValueText(bool value) { return value ? "1" : "0"; }
+std::string ValueText(std::int16_t value) { return IntText(value); }
+std::string ValueText(double value) { return NumberText(value); }
 std::string ValueText(const std::optional<double>& value) {
   return value ? NumberText(*value) : "empty";
 }
 std::string ValueText(const Doubles& values) {
   std::string line;
-  for (const double value : values) line += (line.empty() ? "" : " ") + NumberText(value);
+  for (const double value : values) line.append(line.empty() ? "" : " ").append(NumberText(value));
   return line;
 }
 std::string ValueText(const std::vector<std::array<std::string, 4>>& rows) {
   std::string line;
   for (const auto& row : rows)
-    for (const std::string& cell : row) line += (line.empty() ? "" : " ") + Quoted(cell);
+    for (const std::string& cell : row) line.append(line.empty() ? "" : " ").append(Quoted(cell));
   return line;
 }
 
@@ -133,9 +125,7 @@ std::string OneWord(const std::string& rest) {
   return words[0];
 }
 
-void Set(std::string& value, const std::string& rest) {
-  value = TextArgument(rest);
-}
+void Set(std::string& value, const std::string& rest) { value = TextArgument(rest); }
 void Set(bool& value, const std::string& rest) {
   const std::string word = OneWord(rest);
   value = word == "1" || word == "true";
@@ -146,9 +136,7 @@ void Set(std::int16_t& value, const std::string& rest) {
   if (number < INT16_MIN || number > INT16_MAX) throw Failure("too large: " + rest);
   value = static_cast<std::int16_t>(number);
 }
-void Set(double& value, const std::string& rest) {
-  value = NumberOf(OneWord(rest));
-}
+void Set(double& value, const std::string& rest) { value = NumberOf(OneWord(rest)); }
 void Set(std::optional<double>& value, const std::string& rest) {
   const std::string word = OneWord(rest);
   value = word == "empty" ? std::nullopt : std::optional(NumberOf(word));
@@ -176,9 +164,7 @@ bool Holds(const Doubles& values, const std::string& rest) {
     if (!Near(values[i], NumberOf(words[i]), tolerance)) return false;
   return true;
 }
-bool Holds(double value, const std::string& rest) {
-  return Holds(Doubles{value}, rest);
-}
+bool Holds(double value, const std::string& rest) { return Holds(Doubles{value}, rest); }
 bool Holds(std::int16_t value, const std::string& rest) {
   return Holds(Doubles{1.0 * value}, rest);
 }

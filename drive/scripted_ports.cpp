@@ -87,9 +87,7 @@ std::vector<ScriptedMessageBox::Shown> ScriptedMessageBox::Take() {
   return std::exchange(shown_, {});
 }
 
-std::string ScriptedMessageBox::TakeTrouble() {
-  return std::exchange(trouble_, {});
-}
+std::string ScriptedMessageBox::TakeTrouble() { return std::exchange(trouble_, {}); }
 
 std::string ScriptedFileDialog::Ask(const Request&) {
   if (queue_.empty()) return {};

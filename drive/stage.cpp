@@ -29,9 +29,7 @@ void Stage::Settle() {
   }
 }
 
-bool Stage::Ended() {
-  return closed_ || Program().EndRequested();
-}
+bool Stage::Ended() { return closed_ || Program().EndRequested(); }
 
 Target Stage::Find(const std::string& name) {
   screen::Form* form = &Shown();
