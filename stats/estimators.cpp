@@ -104,7 +104,8 @@ double GMUnbiased(ExposureSession& s, double& GM, double& GSD) {
 }
 
 void LinearMoments(ExposureSession& s) {
-  if (s.Mode == "R" && !s.DetecOn)
+  // While the user tries other values, it is those that are judged and not the outcomes.
+  if (s.Mode == "R" && !s.DetecOn && !s.ModifyMode)
     SampleMoments(s);
   else
     LognormalMoments(s);

@@ -44,7 +44,8 @@ double FinneyVarianceMVU(double& df, double& GM, double& GSD);
 double GMUnbiased(ExposureSession& s, double& GM, double& GSD);
 
 // Arithmetic mean XM and standard deviation SDlin.
-// In mode "R" without a detection range they are those of the outcomes C(1) to C(M); otherwise
+// In mode "R" without a detection range they are those of the outcomes C(1) to C(M), unless other
+// values are tried in their place (ModifyMode); otherwise
 // they follow from GM and GSD: XM = GM e, SDlin = sqrt(GM squared e (e - 1) M / (M - 1)) with
 // e = exp(L squared / 2), L = ln GSD. That factor is how this value is defined here; it is not the
 // exp(L squared) (exp(L squared) - 1) of the lognormal variance.
