@@ -8,6 +8,18 @@ namespace analysis {
 namespace {
 
 constexpr int kNoValue = 4;  // InputState of a statistic that the sample does not give
+// Runs `calculation`; true when the sample gave no value. InputState is left as the calculation
+// left it: a code that stood there before stays unless there is a new one.
+template <typename Calculation>
+bool GaveNoValue(ExposureSession& session, Calculation calculation) {
+  const auto before = session.InputState;
+  session.InputState = 0;
+  calculation();
+  const bool none = session.InputState == kNoValue;
+  if (session.InputState == 0) session.InputState = before;
+  return none;
+}
+
 constexpr char kUnknown[] = "   unknown";
 constexpr int kSampleHelp = 101050;
 constexpr int kRegressionHelp = 101210;
@@ -16,8 +28,8 @@ constexpr int kRegressionHelp = 101210;
 
 DescriptForm::DescriptForm(ExposureSession& record, navigation::Desk& programDesk,
                            screen::Ports& formPorts)
-    : SessionForm("DescriptForm", navigation::ScreenId::Descript, "TabDescrip", record,
-                  programDesk, formPorts) {
+    : SessionForm("DescriptForm", navigation::ScreenId::Descript, "TabDescrip", record, programDesk,
+                  formPorts) {
   for (screen::Control* control : controls)
     if (control->kind == screen::Kind::TextBox) control->locked = true;
 }
@@ -53,8 +65,8 @@ void DescriptForm::ShowIdentification() {
   RefDurLbl.text =
       session.Duration.empty() ? std::string() : LoadResString(364) + "  " + session.Duration;
   DimLbl0.text = session.Unit.empty() ? " " : LoadResString(303) + " " + session.Unit;
-  for (screen::Control* label : {&DimLbl1, &DimLbl2, &DimLbl3, &DimLbl4, &DimLbl5, &DimLbl6,
-                                 &DimLbl7, &DimLbl8, &DimLbl9})
+  for (screen::Control* label :
+       {&DimLbl1, &DimLbl2, &DimLbl3, &DimLbl4, &DimLbl5, &DimLbl6, &DimLbl7, &DimLbl8, &DimLbl9})
     label->text = session.Unit;
 }
 
@@ -83,10 +95,9 @@ void DescriptForm::ShowMeans() {
 void DescriptForm::ShowDeviations() {
   session.SDu = Sqrt(StatFWinBAS::FinneyVarianceMVU(session.df, session.GM, session.GSD));
   SDUTxb.text = Shown(session.SDu);
-  session.InputState = 0;
-  StatFWinBAS::LinearMoments(session);
+  const bool noSpread = GaveNoValue(session, [this] { StatFWinBAS::LinearMoments(session); });
   AmlinTxb.text = Shown(session.XM);
-  SDlinTxb.text = session.InputState == kNoValue ? kUnknown : Shown(session.SDlin);
+  SDlinTxb.text = noSpread ? kUnknown : Shown(session.SDlin);
 }
 
 void DescriptForm::ShowNoRange() {
@@ -125,9 +136,8 @@ void DescriptForm::ShowSampleWords() {
   GMLbl.text = LoadResString(2006);
   GSDLbl.text = LoadResString(2008);
   if (session.Mode != "R" || session.ModifyMode) return;
-  session.InputState = 0;
-  LogMoments(session, session.GM, session.GSD);
-  if (session.InputState == kNoValue) GSDTxB.text = kUnknown;
+  if (GaveNoValue(session, [this] { LogMoments(session, session.GM, session.GSD); }))
+    GSDTxB.text = kUnknown;
 }
 
 void DescriptForm::ShowRegressionWords() {

@@ -86,7 +86,7 @@ std::string PercExForm::LimitText(const std::string& separator) const {
 
 void PercExForm::ShowIntroduction() {
   const std::string& cr = session.CR;
-  auto text = [](int id) { return LoadResString(id); };
+  auto text = [](int row) { return LoadResString(row); };
   std::string intro = text(2340) + cr + text(2342) + text(2344) + cr + text(2346) + cr +
                       text(2348) + cr + text(2350) + cr + text(2352) + cr + cr + text(2354) +
                       ShownTrimmed(session.M) + text(2355);
@@ -144,17 +144,18 @@ void PercExForm::ShowVerdict(bool compliance, int captionIfSo, int captionIfNot)
 
 void PercExForm::LeidelCmb_Click() {
   session.TestTag = "Le";
+  shownBasis_ = PresentBasis();
   IntroFrm.Hide();
   TestLayout();
   WindnrLbl.text = "25";
   UTLFrm.text = LoadResString(2320) + ": " + LoadResString(2501);
-  for (screen::Control* control :
-       {&SampsizeFrm, &SampSizeCkb, &PercExLbl2, &PercExTxB2, &DimLbl4})
+  for (screen::Control* control : {&SampsizeFrm, &SampSizeCkb, &PercExLbl2, &PercExTxB2, &DimLbl4})
     control->Hide();
   ComplianceLbl.Show();
   CommentLbl.text = LoadResString(2505) + LoadResString(2506) + LoadResString(2507);
   PercExLbl0.text = PercExLbl0.tip = PercExTxB0.tip = LoadResString(2508);
   PercExTxB0.text = std::string(17, ' ');
+  PercExTxB1.text.clear();  // should the limit fault, no earlier one must stand there
 
   session.PercEx = LeidelExceedance(Ur);
   ShowVerdict(session.PercEx < kActionPercent, 2307, 2308);
@@ -165,7 +166,6 @@ void PercExForm::LeidelCmb_Click() {
   session.UTL = LeidelToleranceLimit(session.GM, session.GSD, Ur);
   PercExLbl1.text = ShownTrimmed(session.U) + LoadResString(2504);
   PercExTxB1.text = Shown(session.UTL);
-  shownBasis_ = PresentBasis();
   Refresh();
 }
 

@@ -10,6 +10,10 @@ namespace {
 constexpr screen::Colour kMissing{0, 0, 255};
 constexpr int kDefaultUnit = 314;
 constexpr int kSmallestOELV = 2160;
+// What the combos show while nothing is stated: words that their lists don't hold.
+constexpr int kUnits = 308;
+constexpr int kReferencePeriod = 330;
+constexpr int kDuration = 2322;
 
 }  // namespace
 
@@ -74,6 +78,9 @@ void GrenzenForm::Load() {
 }
 
 void GrenzenForm::FillCombos() {
+  DimCbo.text = LoadResString(kUnits);
+  RefPerCmb.text = LoadResString(kReferencePeriod);
+  DurationCmB.text = LoadResString(kDuration);
   for (int row : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(row));
   for (int row : {334, 336, 338, 340, 342, 344, 346, 348, 350, 352, 354})
     DurationCmB.items.push_back(LoadResString(row));
@@ -110,8 +117,8 @@ void GrenzenForm::ShowState() {
 void GrenzenForm::ShowValues() {
   DimCbo.text = session.Unit;
   DimLbl2.text = session.Unit;
-  RefPerCmb.text = session.RefPeriod.empty() ? LoadResString(330) : session.RefPeriod;
-  DurationCmB.text = session.Duration.empty() ? LoadResString(2322) : session.Duration;
+  RefPerCmb.text = session.RefPeriod.empty() ? LoadResString(kReferencePeriod) : session.RefPeriod;
+  DurationCmB.text = session.Duration.empty() ? LoadResString(kDuration) : session.Duration;
   AlphaTxb.text = ShownTrimmed(session.U);
   DeltaTxb.text = ShownTrimmed(session.D);
   VkrValTxB.text = ShownTrimmed(session.OELV);
@@ -165,6 +172,7 @@ void GrenzenForm::LeavePercent(screen::Control& box) {
 void GrenzenForm::LeaveLimit() {
   VkrValTxB.text = GlobalBAS::Trim(VkrValTxB.text);
   if (VkrValTxB.text.empty()) {
+    VkrValTxB.touched = false;
     VkrValLbl0.colour = kMissing;
     return;
   }
@@ -203,14 +211,23 @@ void GrenzenForm::StepLimit(int direction) {
   VkrValTxB.touched = false;
 }
 
+// The field that is still being typed in is left first. Leaving a number runs the flags itself; a
+// second run would take the default that stands in for a refused limit as a valid one.
 void GrenzenForm::BeforeTabClick() {
-  for (screen::Control* box : {&AlphaTxb, &DeltaTxb})
-    if (box->touched) LeavePercent(*box);
-  if (VkrValTxB.touched) LeaveLimit();
   LeaveText(DimCbo, session.Unit);
   LeaveText(RefPerCmb, session.RefPeriod);
   LeaveText(DurationCmB, session.Duration);
-  Flags();
+  bool flagged = false;
+  for (screen::Control* box : {&AlphaTxb, &DeltaTxb}) {
+    if (!box->touched) continue;
+    LeavePercent(*box);
+    flagged = true;
+  }
+  if (VkrValTxB.touched) {
+    LeaveLimit();
+    flagged = flagged || !VkrValTxB.text.empty();
+  }
+  if (!flagged) Flags();
 }
 
 }  // namespace limits
