@@ -54,6 +54,12 @@ bool StartsAt(const std::string& text, std::size_t at, const char* what) {
   return text.compare(at, 2, what) == 0;
 }
 
+// A quote behind a digit or a letter separates digits: 10'000.
+bool BeginsLiteral(const std::string& text, std::size_t at) {
+  if (text[at] != '\'') return text[at] == '"';
+  return at == 0 || !std::isalnum(static_cast<unsigned char>(text[at - 1]));
+}
+
 std::size_t Behind(std::size_t found, std::size_t length, const std::string& text) {
   return found == std::string::npos ? text.size() : found + length;
 }
@@ -103,11 +109,7 @@ std::string CodeOnly(const std::string& source) {
       at = BlankTo(text, at, Behind(text.find("*/", at + 2), 2, text)) - 1;
     else if (StartsAt(text, at, "R\""))
       at = BlankTo(text, at, RawEnd(text, at + 1)) - 1;
-    else if (text[at] == '"')
-      at = BlankLiteral(text, at);
-    // A quote behind a digit or letter separates digits: 10'000.
-    else if (text[at] == '\'' &&
-             (at == 0 || !std::isalnum(static_cast<unsigned char>(text[at - 1]))))
+    else if (BeginsLiteral(text, at))
       at = BlankLiteral(text, at);
   }
   return text;
