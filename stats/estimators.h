@@ -45,10 +45,10 @@ double GMUnbiased(ExposureSession& s, double& GM, double& GSD);
 
 // Arithmetic mean XM and standard deviation SDlin.
 // In mode "R" without a detection range they are those of the outcomes C(1) to C(M), unless other
-// values are tried in their place (ModifyMode); otherwise
-// they follow from GM and GSD: XM = GM e, SDlin = sqrt(GM squared e (e - 1) M / (M - 1)) with
-// e = exp(L squared / 2), L = ln GSD. That factor is how this value is defined here; it is not the
-// exp(L squared) (exp(L squared) - 1) of the lognormal variance.
+// values are tried in their place (ModifyMode); otherwise they follow from GM and GSD: XM = GM e,
+// SDlin = sqrt(GM squared e (e - 1) M / (M - 1)) with e = exp(L squared / 2), L = ln GSD. That
+// factor is how this value is defined here; it is not the exp(L squared) (exp(L squared) - 1) of
+// the lognormal variance.
 // Domain: M >= 2; M = 1 is a division by zero.
 // Changes: XM; SDlin; InputState 4 when the outcomes have no spread (sum of squares at most 1E-10;
 // SDlin then keeps its value), 5 when SDlin is 10000 or more (it is stored all the same).
