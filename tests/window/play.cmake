@@ -1,8 +1,10 @@
-# Plays one session script in a fresh folder that holds the raw files and the examples.
+# Plays session scripts (one, or several with commas between), each in a fresh folder that holds
+# the raw files and the examples.
 #   cmake -DDRIVE=... -DSCRIPT=... -DFOLDER=... -DFILES=... -DEXAMPLES=...
-#         [-DFAILS=<regex>] [-DLOCALE=<name>] -P play.cmake
-# With FAILS the script must end with exit code 1 and a last line that matches. With LOCALE it
-# runs under that locale; where the machine lacks it, the test says so and is skipped.
+#         [-DFAILS=<regex>] [-DPRINTS=<file>] [-DLOCALE=<name>] -P play.cmake
+# With PRINTS the output must be what the file holds. With FAILS the script must end with exit code 1
+# and a last line that matches. With LOCALE it runs under that locale; where the machine lacks it,
+# the test says so and is skipped.
 cmake_minimum_required(VERSION 3.25)
 
 if(LOCALE)
@@ -45,8 +47,15 @@ function(play script)
   elseif(NOT code EQUAL 0)
     message(FATAL_ERROR "${name}: exit code ${code}")
   endif()
+  if(PRINTS)
+    file(READ "${PRINTS}" wanted)
+    if(NOT output STREQUAL wanted)
+      message(FATAL_ERROR "${name}: the output differs from ${PRINTS}")
+    endif()
+  endif()
 endfunction()
 
-foreach(script IN LISTS SCRIPT)
+string(REPLACE "," ";" scripts "${SCRIPT}")
+foreach(script IN LISTS scripts)
   play("${script}")
 endforeach()
