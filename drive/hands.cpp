@@ -77,6 +77,8 @@ void ClickAt(Stage& stage, QWidget& widget, int x, int y, const std::string& nam
 }
 
 void Click(Stage& stage, const Target& target) {
+  if (target.control->kind == screen::Kind::Label || target.control->kind == screen::Kind::Frame)
+    throw Failure(target.control->name + " is nothing to click");
   NeedUsable(stage, target);
   QWidget& widget = stage.WidgetOf(target);
   const QPoint at = PlaceToPress(widget);

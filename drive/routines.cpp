@@ -67,6 +67,7 @@ struct Routine {
   std::string_view name;
   std::size_t arguments;
   void (*run)(Call&);
+  std::vector<std::string> own = {};  // the record's fields that stand in for arguments left out
 };
 
 template <double (*F)(double&)>
@@ -119,13 +120,16 @@ void LogMomentsCall(Call& c) {
 }
 
 void CheckOELVCall(Call& c) {
-  std::optional<double> value = c.Optional(1);
+  std::optional<double> typed;
+  if (c.Text(1) != "session.OELV") typed = c.Optional(1);
+  std::optional<double>& value = c.Text(1) == "session.OELV" ? c.s.OELV : typed;
   GlobalBAS::CheckOELV(c.s, {c.Text(0)}, value, c.Notify());
   c.Tell(value);
 }
 
 void CheckNameCall(Call& c) {
-  std::string name = c.Text(1);
+  std::string typed = c.Text(1);
+  std::string& name = typed == "session.Name" ? c.s.Name : typed;
   GlobalBAS::CheckName(c.s, c.Text(0), name, c.Notify());
   c.Tell(name);
 }
@@ -141,7 +145,7 @@ const Routine kRoutines[] = {
     {"FinneyVarianceMVU", 3, ThreeByReference<StatFWinBAS::FinneyVarianceMVU>},
     {"GMUnbiased", 2, GMUnbiasedCall},
     {"LinearMoments", 0, OnTheRecord<StatFWinBAS::LinearMoments>},
-    {"LogMoments", 2, LogMomentsCall},
+    {"LogMoments", 2, LogMomentsCall, {"session.GM", "session.GSD"}},
     {"DegreesOfFreedom", 0, OnTheRecord<DegreesOfFreedom>},
     {"StoreMedian", 0, OnTheRecord<StoreMedian>},
     {"StatusFlags", 0, OnTheRecord<GlobalBAS::StatusFlags>},
@@ -154,14 +158,14 @@ const Routine kRoutines[] = {
     {"GeneralText", 1, [](Call& c) { c.Tell(GlobalBAS::GeneralText(c.Number(0))); }},
     {"FileText", 1, [](Call& c) { c.Tell(GlobalBAS::FileText(c.Number(0))); }},
     {"Str", 1, [](Call& c) { c.Tell(GlobalBAS::Str(c.Number(0))); }},
-    {"CheckU", 2, Validator<GlobalBAS::CheckU>},
-    {"CheckD", 2, Validator<GlobalBAS::CheckD>},
-    {"CheckOELV", 2, CheckOELVCall},
-    {"CheckGM", 2, Validator<GlobalBAS::CheckGM>},
-    {"CheckGSD", 2, Validator<GlobalBAS::CheckGSD>},
-    {"CheckM", 2, Validator<GlobalBAS::CheckM>},
-    {"CheckMRef", 2, Validator<GlobalBAS::CheckMRef>},
-    {"CheckName", 2, CheckNameCall},
+    {"CheckU", 2, Validator<GlobalBAS::CheckU>, {"session.U"}},
+    {"CheckD", 2, Validator<GlobalBAS::CheckD>, {"session.D"}},
+    {"CheckOELV", 2, CheckOELVCall, {"session.OELV"}},
+    {"CheckGM", 2, Validator<GlobalBAS::CheckGM>, {"session.GM"}},
+    {"CheckGSD", 2, Validator<GlobalBAS::CheckGSD>, {"session.GSD"}},
+    {"CheckM", 2, Validator<GlobalBAS::CheckM>, {"session.M"}},
+    {"CheckMRef", 2, Validator<GlobalBAS::CheckMRef>, {"session.M2"}},
+    {"CheckName", 2, CheckNameCall, {"session.Name"}},
 };
 
 const Routine& RoutineOf(const std::string& name) {
@@ -173,8 +177,10 @@ const Routine& RoutineOf(const std::string& name) {
 }  // namespace
 
 std::string Evaluate(ExposureSession& s, screen::MessageBox& messageBox, const std::string& name,
-                     const std::vector<std::string>& words) {
+                     std::vector<std::string> words) {
   const Routine& routine = RoutineOf(name);
+  if (words.size() + routine.own.size() == routine.arguments)
+    words.insert(words.end(), routine.own.begin(), routine.own.end());
   if (words.size() != routine.arguments) {
     throw Failure(name + " takes " + IntText(static_cast<int>(routine.arguments)) +
                   " arguments, not " + IntText(static_cast<int>(words.size())));
