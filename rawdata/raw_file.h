@@ -10,16 +10,16 @@ namespace rawdata {
 
 // How a file's lines were understood, for the line under the grid.
 struct ReadingNotes {
-  std::vector<int> trailingText;    // lines that carried text behind the number
-  std::vector<int> commaAndPoint;   // lines that held both comma and point
+  std::vector<int> trailingText;   // lines that carried text behind the number
+  std::vector<int> commaAndPoint;  // lines that held both comma and point
 };
 
 // The outcome of the first pass.
 struct FileCheck {
-  bool readable = true;   // false: not a readable file; the pass ended at a read error
-  int count = 0;          // lines met, the refused one included
-  int messageId = 0;      // 915, 920, 925, or 0 when the file can be loaded
-  int refusedLine = 0;    // 1-based; 0 when none was refused
+  bool readable = true;     // false: not a readable file; the pass ended at a read error
+  int count = 0;            // lines met, the refused one included
+  int messageId = 0;        // 915, 920, 925, or 0 when the file can be loaded
+  int refusedLine = 0;      // 1-based; 0 when none was refused
   std::string refusedText;  // what stands there, at most 40 characters, printable
 };
 

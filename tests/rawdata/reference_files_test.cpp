@@ -1,11 +1,13 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <sstream>
 
 #include "rawdata/raw_file.h"
 #include "session/exposure_session.h"
 #include "session/global_bas.h"
+#include "tests/rawdata/temp_folder.h"
 #include "tests/support/csv.h"
 
 namespace {
@@ -78,7 +80,8 @@ TEST(RawFile, EveryReferenceFileHasARow) {
 
 // A saved series comes back as it was shown, whatever the source file looked like: to 15 digits.
 TEST(RawFile, ASavedReferenceSeriesReadsBackToFifteenDigits) {
-  const std::string copy = std::filesystem::temp_directory_path() / "vkr-saved-again.vkr";
+  const TempFolder folder;
+  const std::string copy = folder.Path("saved.vkr");
   for (const support::Row& row : support::ReadTable("raw_files/expected.csv")) {
     if (row.Text("result") != "loads") continue;
     SCOPED_TRACE(row.Text("file"));
@@ -93,7 +96,6 @@ TEST(RawFile, ASavedReferenceSeriesReadsBackToFifteenDigits) {
     EXPECT_THAT(file.notes.trailingText, testing::IsEmpty());
     EXPECT_THAT(file.notes.commaAndPoint, testing::IsEmpty());
   }
-  std::filesystem::remove(copy);
 }
 
 }  // namespace
