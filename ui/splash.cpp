@@ -23,7 +23,8 @@ QString Text(int id) {
 
 }  // namespace
 
-Splash::Splash() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+Splash::Splash() : QFrame(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+  setFrameShape(QFrame::Box);
   setObjectName(QStringLiteral("frmSplash"));
   setAttribute(Qt::WA_ShowWithoutActivating);
   column_ = new QVBoxLayout(this);

@@ -1,13 +1,13 @@
 #pragma once
 
+#include <QFrame>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <QWidget>
 
 namespace ui {
 
 // The splash screen frmSplash, on show while the program starts.
-class Splash : public QWidget {
+class Splash : public QFrame {
   Q_OBJECT
 
  public:
