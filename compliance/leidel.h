@@ -9,6 +9,9 @@ namespace compliance {
 // Occupational Exposure Sampling Strategy Manual (1977). As accurate as NormalUpper.
 double LeidelExceedance(double Ur);
 
+// The verdict on an exceedance in percent: below 5 complies. The limit does not follow U.
+bool LeidelComplies(double PercEx);
+
 // The deviate that the fraction U / 100 of the population stays below; U in percent, 0.01 to 99.99.
 double LeidelDeviate(double U);
 

@@ -9,7 +9,6 @@ namespace {
 
 constexpr screen::Colour kGreen{0, 128, 0};
 constexpr screen::Colour kRed{192, 0, 0};
-constexpr double kActionPercent = 5;  // the limit of the verdict; it does not follow U
 
 }  // namespace
 
@@ -158,7 +157,7 @@ void PercExForm::LeidelCmb_Click() {
   PercExTxB1.text.clear();  // should the limit fault, no earlier one must stand there
 
   session.PercEx = LeidelExceedance(Ur);
-  ShowVerdict(session.PercEx < kActionPercent, 2307, 2308);
+  ShowVerdict(LeidelComplies(session.PercEx), 2307, 2308);
   PercExTxB0.text = session.PercEx == 0 ? "    <1E-300      " : Shown(session.PercEx);
 
   PercExLbl1.tip = PercExTxB1.tip = LoadResString(2503);

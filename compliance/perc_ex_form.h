@@ -19,10 +19,10 @@ struct PercExForm final : navigation::SessionForm {
   screen::Control SampSizLbl{*this, screen::Kind::Label, "SampSizLbl"};
   screen::Control DegreesLbl0{*this, screen::Kind::Label, "DegreesLbl(0)"};
   screen::Control DegreesLbl{*this, screen::Kind::Label, "DegreesLbl"};
-  screen::Control GMLbl0{*this, screen::Kind::Label, "GMLbl0(0)"};
+  screen::Control GMLbl0{*this, screen::Kind::Label, "GMLbl(0)"};
   screen::Control GMLbl{*this, screen::Kind::Label, "GMLbl"};
   screen::Control DimLbl0{*this, screen::Kind::Label, "DimLbl(0)"};
-  screen::Control GSDLbl0{*this, screen::Kind::Label, "GSDLbl0(0)"};
+  screen::Control GSDLbl0{*this, screen::Kind::Label, "GSDLbl(0)"};
   screen::Control GSDLbl{*this, screen::Kind::Label, "GSDLbl"};
   screen::Control DimLbl1{*this, screen::Kind::Label, "DimLbl(1)"};
   screen::Control VkrValLbl0{*this, screen::Kind::Label, "VkrValLbl(0)"};
