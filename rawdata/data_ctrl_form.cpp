@@ -49,6 +49,7 @@ void DataCtrlForm::WireDetection() {
 
 void DataCtrlForm::Load() {
   OfferMenus();
+  DimCbo.text = LoadResString(308);
   for (int row : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(row));
   DBGridVkr.columns = {{LoadResString(600), 700, false},
                        {LoadResString(602), 700, false},
@@ -65,7 +66,7 @@ void DataCtrlForm::Activate() {
   WindnrLbl.text = "15";
   session.TestTag.clear();
   TakeUnit();
-  if (session.SortOrder == "Onbekend" && !session.RawIncomplete)
+  if (session.SortOrder == "Onbekend")
     SortValues(SampleCount(session), session.C, session.SortOrder);
   Rebind();
   if (inRange) return;
@@ -78,11 +79,7 @@ void DataCtrlForm::Activate() {
 // left in MsgText.
 bool DataCtrlForm::RangeCheck() {
   rangeCheck_ = 0;
-  if (session.RawIncomplete) {
-    for (screen::Control* control : {&FrmDetec, &RangeFrame, &DetecChB})
-      control->Hide();
-    return true;
-  }
+  if (session.RawIncomplete) return true;
   const double lowest = session.C[1];
   const double highest = session.C[static_cast<std::size_t>(SampleCount(session))];
   if (lowest * 1E+10 < highest) rangeCheck_ = kRangeTooLarge;
@@ -126,7 +123,7 @@ void DataCtrlForm::DataCtrlStatus() {
   MenuSave.enabled = !session.RawIncomplete;
   if (session.RawIncomplete) {
     session.DescOk = false;
-    RangeFrame.Hide();
+    for (screen::Control* control : {&FrmDetec, &RangeFrame, &DetecChB}) control->Hide();
   } else {
     SortAndLog();
     SampleStatistics();

@@ -64,8 +64,7 @@ void DataCtrlForm::Rebind() {
   SampSzLbl.text = ShownTrimmed(session.M);
   // Showing a concentration widens the numbers to the longest one.
   for (int row = 1; row <= DBGridVkr.rowCount; ++row) {
-    const auto width =
-        GlobalBAS::GeneralText(session.C[static_cast<std::size_t>(row)]).size();
+    const auto width = GlobalBAS::GeneralText(session.C[static_cast<std::size_t>(row)]).size();
     session.SigDigits = std::max(session.SigDigits, static_cast<std::int16_t>(width));
   }
   session.GridData.resize(static_cast<std::size_t>(DBGridVkr.rowCount));
@@ -147,10 +146,8 @@ void DataCtrlForm::CommitRow() {
 void DataCtrlForm::RecountRange() {
   const auto first = session.C.begin() + 1;
   const auto last = first + SampleCount(session);
-  const auto below =
-      session.LOQ < *first ? first : std::upper_bound(first, last, session.LOQ);
-  const auto above =
-      session.URR > *(last - 1) ? last : std::lower_bound(first, last, session.URR);
+  const auto below = session.LOQ < *first ? first : std::upper_bound(first, last, session.LOQ);
+  const auto above = session.URR > *(last - 1) ? last : std::lower_bound(first, last, session.URR);
   if (above - below < 2) return;
   session.FirstInRange = static_cast<std::int16_t>(below - first + 1);
   session.LastInRange = static_cast<std::int16_t>(above - first);
@@ -189,8 +186,8 @@ void DataCtrlForm::TellReading(const ReadingNotes* notes) {
   }
   ReadingLbl.text = ShownTrimmed(session.M) + " outcomes read.";
   if (!notes->trailingText.empty())
-    ReadingLbl.text += " Text behind the number on line " + LineList(notes->trailingText) +
-                       " was passed over.";
+    ReadingLbl.text +=
+        " Text behind the number on line " + LineList(notes->trailingText) + " was passed over.";
   if (!notes->commaAndPoint.empty())
     ReadingLbl.text += " Both comma and point on line " + LineList(notes->commaAndPoint) +
                        ": the last one was read as the decimal sign.";
@@ -199,9 +196,9 @@ void DataCtrlForm::TellReading(const ReadingNotes* notes) {
 void DataCtrlForm::VkrSave() {
   session.MsgText = LoadResString(1320);
   session.MsgTitle = LoadResString(1324);
-  const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
-      {true, LoadResString(94), "Valkorin Files (*.vkr)|*.vkr", session.Name, "Valkowin.chm",
-       100260}));
+  const std::string path =
+      GlobalBAS::Trim(ports.fileDialog.Ask({true, LoadResString(94), "Valkorin Files (*.vkr)|*.vkr",
+                                            session.Name, "Valkowin.chm", 100260}));
   if (path.empty()) {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
     return;

@@ -70,12 +70,18 @@ void BasisForm::Load() {
   session.ModifyMode = false;
   CmdContinu.Hide();
   menuTools.Hide();
+  MenuPlot.Hide();
   menuExtrPol.enabled = false;
 }
 
 void BasisForm::Activate() {
   EnterOwnTab();
   BasisStatus();
+}
+
+// The raw data screen finds the state of a series that is still being typed up to date.
+void BasisForm::BeforeLeavingFor(navigation::ScreenId target) {
+  if (target == navigation::ScreenId::DataCtrl && session.RawIncomplete) BasisStatus();
 }
 
 void BasisForm::OpeningMessage() {
@@ -113,10 +119,14 @@ void BasisForm::ChooseRaw() {
 }
 
 // Coming back to the option by keyboard is no new choice: in mode "D" nothing is chosen again.
+// A mouse click gives the focus first and clicks then: a refusal holds for both. The focus goes
+// back to the other option, so that the next wish for mode "D" is asked about anew.
 void BasisForm::DesOpt_GotFocus() {
   if (session.Mode == "D") return;
+  keptSession_ = false;
   DesOpt_Click();
   keptSession_ = session.Mode != "D";
+  if (keptSession_) SetFocus(RawOpt);
 }
 
 void BasisForm::DesOpt_Click() {
@@ -220,7 +230,8 @@ void BasisForm::StepSampleSize(double step) {
   BasisStatus();
 }
 
-// A refused sample size changes nothing else. A modified one is a what-if on top of the series and leaves the series alone.
+// A refused sample size changes nothing else. A modified one is a what-if on top of the series and
+// leaves the series alone.
 void BasisForm::SampleSizeChanged() {
   if (session.M < 2 || session.M > kMaxSampleSize) return;
   if (session.ModifyMode) {

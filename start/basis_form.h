@@ -51,6 +51,7 @@ struct BasisForm final : navigation::SessionForm {
 
   void Load() override;
   void Activate() override;
+  void BeforeLeavingFor(navigation::ScreenId target) override;
 
   // Shows the present state of the session: fields, messages, menus and tabs.
   void BasisStatus();
@@ -94,6 +95,7 @@ struct BasisForm final : navigation::SessionForm {
   void StatusRaw();
   void StatusKnown();
   void ShowStatistics();
+  void ShowDegrees();
   void StatusStrip();
   void ShowMessage(const std::string& text);
 

@@ -32,13 +32,13 @@ void BasisForm::StatusRaw() {
   NameTxB.locked = false;
   SampSizTxB.locked = false;
   OriModiCmd.Hide();
+  CmdContinu.visible = session.IdentOk;
   if (!session.IdentOk) {
     BoodschFrame.Show();
     DescriptFrame.Hide();
     menuTools.Hide();
     return;
   }
-  CmdContinu.Show();
   // The series itself can't be edited while other values are tried on top of it.
   CmdContinu.enabled = !session.ModifyMode;
   DescriptFrame.visible = session.ModifyMode;
@@ -46,6 +46,7 @@ void BasisForm::StatusRaw() {
     GMTxB.locked = false;
     GSDTxB.locked = false;
     ShowStatistics();
+    ShowDegrees();
   }
   if (session.DescOk) {
     OriModiCmd.Show();
@@ -75,7 +76,7 @@ void BasisForm::StatusKnown() {
   BoodschFrame.Hide();
   DescriptFrame.Show();
   DegreesOfFreedom(session);
-  DegreesLbl.text = ShownTrimmed(session.df);
+  ShowDegrees();
   GMTxB.locked = false;
   GSDTxB.locked = false;
   if (!session.DescOk) {
@@ -91,13 +92,19 @@ void BasisForm::StatusKnown() {
 void BasisForm::ShowStatistics() {
   GMTxB.text = GlobalBAS::InRangeGM(session.GM) ? ShownTrimmed(session.GM) : std::string();
   GSDTxB.text = GlobalBAS::InRangeGSD(session.GSD) ? ShownTrimmed(session.GSD) : std::string();
+}
+
+void BasisForm::ShowDegrees() {
   DegreesLbl.text = ShownTrimmed(session.df);
   DimLbl.text = session.Unit;
 }
 
 void BasisForm::StatusStrip() {
   Tabs.visible = workflow::StripVisible(session);
-  if (!Tabs.visible) return;
+  if (!Tabs.visible) {
+    MenuPlot.Hide();
+    return;
+  }
   if (session.LimitsOk) menuTools.Show();
   RebuildStrip();
 }
@@ -114,7 +121,9 @@ void BasisForm::Sluiten() {
   session.Name.clear();
   session.M = 0;
   if (session.Mode == "R") {
-    SizeSeries(session);
+    session.C.assign(1, 0.0);
+    session.LnC.assign(1, 0.0);
+    if (tellReading) tellReading(nullptr);
     session.GridData.assign(1, {});
   }
   session.Mode.clear();
@@ -153,9 +162,9 @@ void BasisForm::Sluiten() {
   session.GSD = 0;
   session.LogName.clear();
   desk.MarkSaved();
-  if (tellReading) tellReading(nullptr);
   OpeningMessage();
   menuTools.Hide();
+  MenuPlot.Hide();
   OriModiCmd.text = LoadResString(725);
   OriModiCmd.Hide();
   CmdContinu.Hide();

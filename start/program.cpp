@@ -26,9 +26,7 @@ struct Program::Parts {
         descript(session, program, formPorts),
         percEx(session, program, formPorts),
         forms{&basis, &dataCtrl, &grenzen, &descript, &percEx} {
-    basis.tellReading = [this](const rawdata::ReadingNotes* notes) {
-      dataCtrl.TellReading(notes);
-    };
+    basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
 
   screen::Ports& ports;
@@ -69,10 +67,8 @@ struct Program::Parts {
   // What to ask before the program ends; the words follow the kind of data.
   std::string ExitQuestion() const {
     const std::string start = LoadResString(215);
-    if (session.Mode == "R")
-      return start + LoadResString(220) + session.Name + LoadResString(225);
-    if (session.Mode == "D")
-      return start + LoadResString(230) + session.Name + LoadResString(225);
+    if (session.Mode == "R") return start + LoadResString(220) + session.Name + LoadResString(225);
+    if (session.Mode == "D") return start + LoadResString(230) + session.Name + LoadResString(225);
     return start + LoadResString(220) + LoadResString(235);
   }
 };
@@ -163,8 +159,9 @@ void Program::RunExtrapolation(const std::string& tag) {
   Parts& p = *parts_;
   if (!HasExtrapolation(tag)) return;
   if (p.shown != &p.percEx) {
-    const ScreenId from = static_cast<navigation::SessionForm*>(p.shown)->id;
-    if (!workflow::GateOpen(p.session, from, ScreenId::PercEx)) return;
+    auto& from = *static_cast<navigation::SessionForm*>(p.shown);
+    from.BeforeTabClick();
+    if (!workflow::GateOpen(p.session, from.id, ScreenId::PercEx)) return;
     p.session.TestTag = tag;
     Open(ScreenId::PercEx);
   }
@@ -175,9 +172,8 @@ bool Program::MayDropSeries() {
   using namespace screen;
   Parts& p = *parts_;
   if (!Unsaved()) return true;
-  const Message question{
-      LoadResString(215) + LoadResString(220) + p.session.Name + " ?", LoadResString(1324),
-      Icon::Question, Buttons::YesNo, Answer::No};
+  const Message question{LoadResString(215) + LoadResString(220) + p.session.Name + " ?",
+                         LoadResString(1324), Icon::Question, Buttons::YesNo, Answer::No};
   return p.ports.messageBox.Show(question) == Answer::Yes;
 }
 

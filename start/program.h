@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "navigation/desk.h"
 #include "screen/form.h"
 #include "screen/ports.h"
-#include "navigation/desk.h"
 
 namespace start {
 

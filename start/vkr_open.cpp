@@ -22,12 +22,11 @@ std::string RefusalText(const rawdata::FileCheck& check, const std::string& cr) 
 
 void BasisForm::VkrOpen() {
   const ExposureSession before = session;
-  const bool loaded = session.C.size() > 2 && session.IdentOk;
+  const bool loaded = session.C.size() > 2;  // closing the data leaves one element
   session.MsgText = LoadResString(902);
   session.MsgTitle = LoadResString(904);
-  const std::string path = GlobalBAS::Trim(
-      ports.fileDialog.Ask({false, LoadResString(900), "Valkorin Files (*.vkr)|*.vkr", "",
-                            "Valkowin.chm", 100170}));
+  const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
+      {false, LoadResString(900), "Valkorin Files (*.vkr)|*.vkr", "", "Valkowin.chm", 100170}));
   if (path.empty()) {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
     return;
