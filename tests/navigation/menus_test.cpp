@@ -1,0 +1,88 @@
+#include <gmock/gmock.h>
+
+#include "tests/support/program_session.h"
+
+// The menus that every screen has.
+namespace {
+
+using support::ProgramSession;
+
+const char* const kScreens[][2] = {{"basis", "BasisForm"},
+                                   {"raw", "DataCtrlForm"},
+                                   {"grenzen", "GrenzenForm"},
+                                   {"descript", "DescriptForm"},
+                                   {"extrapolation", "PercExForm"}};
+
+void OpenOn(ProgramSession& user, const std::string& key) {
+  user.OpenSeries({1, 2, 4, 8});
+  user.Tab("basis");
+  user.Tab("raw");
+  if (key == "raw") return;
+  ASSERT_TRUE(user.Tab(key));
+}
+
+TEST(Menus, TheLeidelTestRunsFromEveryScreen) {
+  for (const auto& [key, form] : kScreens) {
+    SCOPED_TRACE(form);
+    ProgramSession user;
+    OpenOn(user, key);
+    ASSERT_EQ(user.Shown().name, form);
+    user.Click("MenuLeid");
+    EXPECT_EQ(user.Shown().name, "PercExForm");
+    EXPECT_EQ(user.Record().TestTag, "Le");
+    EXPECT_TRUE(user.box.shown.empty());
+  }
+}
+
+TEST(Menus, NoTestRunsWhileTheSeriesIsIncomplete) {
+  ProgramSession user;
+  OpenOn(user, "basis");
+  user.Type("SampSizTxB", "6");
+  user.Click("MenuLeid");
+  EXPECT_EQ(user.Shown().name, "BasisForm");
+  EXPECT_EQ(user.Record().TestTag, "");
+}
+
+// The limits screen judges its fields before it is left, whichever way.
+TEST(Menus, ATestFromTheLimitsScreenTakesTheLimitThatStandsInTheField) {
+  ProgramSession user;
+  OpenOn(user, "grenzen");
+  screen::Control& field = user.At("VkrValTxB");
+  field.text = "12.5";
+  field.touched = true;
+  user.Click("MenuLeid");
+  EXPECT_EQ(user.Record().OELV, 12.5);
+  EXPECT_EQ(user.Shown().name, "PercExForm");
+}
+
+TEST(Menus, WhatTheProgramLacksIsDisabled) {
+  for (const auto& [key, form] : kScreens) {
+    SCOPED_TRACE(form);
+    ProgramSession user;
+    OpenOn(user, key);
+    EXPECT_TRUE(user.At("MenuLeid").enabled);
+    for (const char* menu : {"MenuWilks", "MenuTugg", "MenuJahr", "MenuLand", "MenuAM", "MenuVerd",
+                             "MenuComp", "MenuPlot"})
+      EXPECT_FALSE(user.At(menu).enabled) << menu;
+  }
+}
+
+TEST(Menus, CloseAndExitWorkFromEveryScreen) {
+  for (const auto& [key, form] : kScreens) {
+    SCOPED_TRACE(form);
+    ProgramSession user;
+    OpenOn(user, key);
+    user.Click("MenuExit");
+    EXPECT_EQ(user.Shown().name, "BasisForm");
+    EXPECT_EQ(user.LastBox().title, "Exit");
+    EXPECT_EQ(user.Record().M, 4);
+    user.Tab(key);
+    ASSERT_EQ(user.Shown().name, form);
+    user.Click("Menuclose");
+    EXPECT_EQ(user.Shown().name, "BasisForm");
+    EXPECT_EQ(user.Record().M, 0);
+    EXPECT_EQ(user.Record().Mode, "");
+  }
+}
+
+}  // namespace

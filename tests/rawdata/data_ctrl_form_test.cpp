@@ -1,0 +1,298 @@
+#include "rawdata/data_ctrl_form.h"
+
+#include <gmock/gmock.h>
+
+#include "catalog/catalog.h"
+#include "tests/support/csv.h"
+#include "tests/support/program_session.h"
+
+// The data control screen: its activation, its states, unit and width of numbers.
+namespace {
+
+using screen::Answer;
+using support::ProgramSession;
+using testing::ElementsAre;
+
+rawdata::DataCtrlForm& DataControl(ProgramSession& user) {
+  return dynamic_cast<rawdata::DataCtrlForm&>(*user.program.FormByName("DataCtrlForm"));
+}
+
+void Edit(ProgramSession& user, int row, const std::string& text) {
+  screen::Grid& grid = DataControl(user).DBGridVkr;
+  ASSERT_TRUE(grid.Write(row, 2, text));
+  grid.CommitRow();
+}
+
+// The table of a new series of `rows` outcomes.
+void OpenTable(ProgramSession& user, const std::string& rows) {
+  user.Click("MenuNewVkrFil");
+  user.Type("NameTxB", "Solvent");
+  user.Type("SampSizTxB", rows);
+  user.Click("CmdContinu");
+}
+
+TEST(DataControl, ShowsTheSeriesItsRangeAndItsSize) {
+  ProgramSession user;
+  user.OpenSeries({8, 1.5, 4, 2});
+  EXPECT_EQ(user.Record().CurrentTab, "Raw data");
+  EXPECT_EQ(user.Shown().strip->selected, "raw");
+  EXPECT_EQ(user.Text("WindnrLbl"), "15");
+  EXPECT_TRUE(user.At("RangeFrame").visible);
+  EXPECT_EQ(user.Text("C1Lbl"), "    1.5");
+  EXPECT_EQ(user.Text("CnLbl"), "     8");
+  EXPECT_EQ(user.Text("SampSzLbl"), "4");
+  EXPECT_TRUE(user.At("DetecChB").visible);
+  EXPECT_FALSE(user.At("FrmDetec").visible);
+  EXPECT_TRUE(user.At("MenuSave").enabled);
+  EXPECT_TRUE(user.At("menuTools").visible);
+  EXPECT_EQ(user.Record().df, 3);
+  EXPECT_TRUE(user.Record().IdentOk && user.Record().DescOk);
+}
+
+TEST(DataControl, TakesMilligramsUntilAUnitIsChosen) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  EXPECT_EQ(user.Record().Unit, "mg/m3");
+  EXPECT_EQ(user.Text("DimCbo"), "mg/m3");
+  user.Pick("DimCbo", "ppm");
+  EXPECT_EQ(user.Record().Unit, "ppm");
+  EXPECT_EQ(user.Text("WindnrLbl"), "3b");
+  EXPECT_EQ(DataControl(user).DBGridVkr.Cell(0, 3), "ppm");
+  user.Tab("basis");
+  user.Tab("raw");
+  EXPECT_EQ(user.Text("DimCbo"), "ppm");
+  EXPECT_EQ(user.Text("WindnrLbl"), "15");
+}
+
+TEST(DataControl, AFreeTextIsAUnitToo) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  user.Type("DimCbo", "spores/m3");
+  EXPECT_EQ(user.Record().Unit, "spores/m3");
+}
+
+TEST(DataControl, ForgetsTheWishForATest) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  user.Tab("basis");
+  user.Record().TestTag = "Le";
+  user.Tab("raw");
+  EXPECT_EQ(user.Record().TestTag, "");
+}
+
+// The labels of the results tell whose they are: here they are the whole sample's again.
+TEST(DataControl, PutsTheSampleInThePlaceOfARegression) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  user.Tab("basis");
+  user.Record().GM = 99;
+  user.Record().GSD = 9;
+  user.Record().RegressionOn = true;
+  user.Tab("raw");
+  EXPECT_NEAR(user.Record().GM, 2, 1E-15);
+  EXPECT_NEAR(user.Record().GSD, 2, 1E-14);
+  EXPECT_FALSE(user.Record().RegressionOn);
+}
+
+void ExpectClosedWith(ProgramSession& user, int text) {
+  ASSERT_EQ(user.box.shown.size(), 1u);
+  EXPECT_EQ(user.LastBox().text, LoadResString(text));
+  EXPECT_EQ(user.LastBox().title, "Range of the sample outcome");
+  EXPECT_EQ(user.LastBox().icon, screen::Icon::Exclamation);
+  EXPECT_EQ(user.Shown().name, "BasisForm");
+  EXPECT_EQ(user.Record().Name, "");
+  EXPECT_EQ(user.Record().M, 0);
+  EXPECT_EQ(user.Record().Mode, "");
+  EXPECT_FALSE(user.At("TabBasis").visible);
+}
+
+TEST(RangeCheck, EqualOutcomesCloseTheSeries) {
+  ProgramSession user;
+  user.OpenSeries({1.5, 1.5, 1.5});
+  ExpectClosedWith(user, 1515);
+}
+
+TEST(RangeCheck, NearlyEqualOutcomesCloseTheSeries) {
+  ProgramSession user;
+  user.OpenSeries({1, 1.00000000005});
+  ExpectClosedWith(user, 1515);
+}
+
+TEST(RangeCheck, OutcomesWithoutMeasurableSpreadCloseTheSeries) {
+  ProgramSession user;
+  user.OpenSeries({1, 1.000001, 1.000002});
+  ExpectClosedWith(user, 1515);
+}
+
+TEST(RangeCheck, OutcomesOfTooManyDecadesCloseTheSeries) {
+  ProgramSession user;
+  user.OpenSeries({1E-10, 2});
+  ExpectClosedWith(user, 1510);
+}
+
+TEST(RangeCheck, AGeometricStandardDeviationOfTenThousandClosesTheSeries) {
+  ProgramSession user;
+  user.OpenSeries({1E-4, 1E+5});
+  ExpectClosedWith(user, 1510);
+}
+
+TEST(RangeCheck, OutcomesJustWithinTheRangeStay) {
+  for (const std::vector<double>& series :
+       {std::vector<double>{1, 1.001}, {1E-3, 1, 1E+3}, {1E-4, 1, 1, 1, 1, 1E+6}}) {
+    ProgramSession user;
+    user.OpenSeries(series);
+    EXPECT_TRUE(user.box.shown.empty()) << series[0];
+    EXPECT_EQ(user.Shown().name, "DataCtrlForm") << series[0];
+  }
+}
+
+TEST(RangeCheck, AnEditIsJudgedAtTheNextShowingAndAsksBeforeItIsLost) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  for (int row : {0, 1, 2}) Edit(user, row, "1.5");
+  EXPECT_TRUE(user.box.shown.empty());
+  user.Tab("basis");
+  user.Tab("raw");
+  ASSERT_EQ(user.box.shown.size(), 2u);
+  EXPECT_EQ(user.box.shown[0].text, LoadResString(1515));
+  EXPECT_EQ(user.box.shown[1].title, "No file saved!");
+  EXPECT_EQ(user.Shown().name, "DataCtrlForm") << "No keeps the series, which can be mended";
+  EXPECT_EQ(user.Record().M, 3);
+  user.Tab("basis");
+  user.box.answers = {Answer::Ok, Answer::Yes};
+  user.Tab("raw");
+  EXPECT_EQ(user.Shown().name, "BasisForm");
+  EXPECT_EQ(user.Record().M, 0);
+}
+
+TEST(Incomplete, ShowsTheTableOnly) {
+  ProgramSession user;
+  OpenTable(user, "3");
+  for (const char* name : {"FrmDetec", "RangeFrame", "DetecChB", "menuTools"})
+    EXPECT_FALSE(user.At(name).visible) << name;
+  EXPECT_FALSE(user.At("MenuSave").enabled);
+  EXPECT_FALSE(user.Record().DescOk);
+  EXPECT_TRUE(user.Record().RawIncomplete);
+  EXPECT_TRUE(user.Shown().strip->visible);
+}
+
+TEST(Incomplete, AnEmptiedCellMakesTheSeriesIncompleteAndAValueCompletesIt) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  user.Click("DetecChB");
+  const double GM = user.Record().GM;
+  Edit(user, 1, "");
+  EXPECT_TRUE(user.Record().RawIncomplete);
+  EXPECT_FALSE(user.Record().DescOk);
+  EXPECT_EQ(user.Record().GM, GM) << "the derived fields are left alone";
+  EXPECT_TRUE(user.box.shown.empty());
+  for (const char* name : {"FrmDetec", "RangeFrame", "DetecChB"})
+    EXPECT_FALSE(user.At(name).visible) << name;
+  Edit(user, 1, "3");
+  EXPECT_FALSE(user.Record().RawIncomplete);
+  EXPECT_TRUE(user.Record().DescOk);
+  for (const char* name : {"FrmDetec", "RangeFrame", "DetecChB"})
+    EXPECT_TRUE(user.At(name).visible) << name;
+}
+
+TEST(Incomplete, FilledRowsStayWhereTheyWereTypedOverAnotherScreen) {
+  ProgramSession user;
+  OpenTable(user, "3");
+  Edit(user, 0, "4");
+  user.Tab("basis");
+  user.Tab("raw");
+  EXPECT_THAT(user.Record().C, ElementsAre(0, 4, 0, 0));
+}
+
+// Nothing shown is older than the series: an edit sorts, and everything follows.
+TEST(Status, AnEditSortsTheSeriesAndEverythingFollows) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  Edit(user, 0, "8");
+  EXPECT_EQ(user.Record().C, (std::vector<double>{4, 2, 4, 8}));
+  EXPECT_EQ(user.Record().SortOrder, "Ascending");
+  EXPECT_DOUBLE_EQ(user.Record().LnC[1], std::log(2.0));
+  EXPECT_DOUBLE_EQ(user.Record().LnC[3], std::log(8.0));
+  EXPECT_EQ(user.Text("C1Lbl"), "     2");
+  EXPECT_EQ(user.Text("CnLbl"), "     8");
+  EXPECT_EQ(user.Record().LOQ, 0.95 * 2);
+  EXPECT_EQ(user.Record().URR, 1.05 * 8);
+  EXPECT_NEAR(user.Record().GM, 4, 1E-14);
+  EXPECT_EQ(DataControl(user).DBGridVkr.Cell(0, 2), "     2");
+}
+
+TEST(Status, TwoOutcomesInTheWrongOrderChangePlaces) {
+  ProgramSession user;
+  user.OpenSeries({4, 1});
+  EXPECT_EQ(user.Record().C, (std::vector<double>{2.5, 1, 4}));
+  Edit(user, 0, "9");
+  EXPECT_EQ(user.Record().C, (std::vector<double>{6.5, 4, 9}));
+  EXPECT_EQ(user.Text("C1Lbl"), "     4");
+}
+
+std::vector<double> Numbers(const std::string& text) {
+  std::vector<double> values;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find(' ', at), text.size());
+    values.push_back(GlobalBAS::Val(text.substr(at, end - at)));
+    at = end + 1;
+  }
+  return values;
+}
+
+// The last outcome scanned sets the width of numbers; a zero stops the scan; showing the column
+// raises it again.
+TEST(Status, TheWidthOfNumbersFollowsTheOutcomes) {
+  for (const support::Row& row : support::ReadTable("sigdigits.csv")) {
+    SCOPED_TRACE(row.Where() + " " + row.Text("series"));
+    ProgramSession user;
+    const std::vector<double> outcomes = Numbers(row.Text("series"));
+    OpenTable(user, GlobalBAS::GeneralText(static_cast<double>(outcomes.size())));
+    std::copy(outcomes.begin(), outcomes.end(), user.Record().C.begin() + 1);
+    user.Record().SigDigits = 9;
+    DataControl(user).DataCtrlStatus();
+    EXPECT_EQ(user.Record().SigDigits, row.Number("SigDigits_from_9"));
+    std::copy(outcomes.begin(), outcomes.end(), user.Record().C.begin() + 1);
+    user.Record().SigDigits = 0;
+    DataControl(user).DataCtrlStatus();
+    EXPECT_EQ(user.Record().SigDigits, row.Number("SigDigits_from_0"));
+    DataControl(user).Rebind();
+    EXPECT_EQ(user.Record().SigDigits, row.Number("after_grid"));
+  }
+}
+
+// The series of the table of opened series, in the order in which they were entered.
+std::map<std::string, std::string> FilesOfSeries() {
+  std::map<std::string, std::string> files;
+  for (const support::Row& row : support::ReadTable("series.csv"))
+    files[row.Text("series")] += row.Text("value_as_entered") + "\r\n";
+  return files;
+}
+
+TEST(Status, TheRecordOfEachReferenceSeriesIsAsItsTableSays) {
+  const auto files = FilesOfSeries();
+  for (const support::Row& row : support::ReadTable("series_opened.csv")) {
+    SCOPED_TRACE(row.Where() + " " + row.Text("series"));
+    ProgramSession user;
+    user.OpenFile(support::WriteTemporary("series.vkr", files.at(row.Text("series"))));
+    const ExposureSession& record = user.Record();
+    // A series whose range is refused has been closed under its message.
+    if (row.Number("InputState") != 0) {
+      EXPECT_EQ(user.box.shown.size(), 1u);
+      EXPECT_EQ(record.M, 0);
+      continue;
+    }
+    EXPECT_TRUE(user.box.shown.empty());
+    EXPECT_EQ(record.M, row.Number("M"));
+    EXPECT_EQ(record.df, row.Number("df"));
+    EXPECT_LT(support::RelativeError(record.GM, row.Number("GM")), 1E-12) << record.GM;
+    EXPECT_LT(support::RelativeError(record.GSD, row.Number("GSD")), 1E-12) << record.GSD;
+    EXPECT_EQ(record.SortOrder, row.Text("SortOrder"));
+    EXPECT_EQ(record.LOQ, row.Number("LOQ"));
+    EXPECT_EQ(record.URR, row.Number("URR"));
+    DataControl(user).DataCtrlStatus();
+    EXPECT_EQ(record.SigDigits, row.Number("SigDigits"));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,179 @@
+#include <gmock/gmock.h>
+
+#include "tests/support/program_session.h"
+
+// The choice between a raw series and known descriptive statistics.
+namespace {
+
+using screen::Answer;
+using support::ProgramSession;
+
+// Name of the field that the screen has moved the focus to since the last call.
+std::string Focus(ProgramSession& user) {
+  screen::Control* wanted = std::exchange(user.Shown().focusWanted, nullptr);
+  return wanted ? wanted->name : "";
+}
+
+// A series with one outcome changed since it was read.
+void OpenAndEdit(ProgramSession& user) {
+  user.OpenSeries({1, 2, 4, 8});
+  auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
+  ASSERT_TRUE(grid.Write(0, 2, "1.5"));
+  grid.CommitRow();
+  ASSERT_TRUE(user.Tab("basis"));
+}
+
+// What a mouse does: the focus comes first, the click after it.
+void MouseClick(ProgramSession& user, const std::string& name) {
+  screen::Guarded(user.ports, user.At(name).GotFocus);
+  user.Click(name);
+}
+
+TEST(DataType, RawDataAsksForTheFile) {
+  ProgramSession user;
+  user.Click("RawOpt");
+  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_TRUE(user.At("RawOpt").ticked);
+  EXPECT_FALSE(user.At("DesOpt").ticked);
+  EXPECT_EQ(user.Text("WindnrLbl"), "8");
+  EXPECT_EQ(user.Text("BoodschLbl"),
+            "Analyze a series sampling outcome. Click on &File and make your choice.\r");
+  EXPECT_TRUE(user.At("menuopen").enabled);
+  EXPECT_TRUE(user.At("MenuNewVkrFil").enabled);
+  EXPECT_FALSE(user.At("menuExtrPol").enabled);
+  EXPECT_FALSE(user.At("IdentFrame").visible);
+}
+
+TEST(DataType, KnownStatisticsAskForNameAndSampleSize) {
+  ProgramSession user;
+  user.Click("DesOpt");
+  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_TRUE(user.At("DesOpt").ticked);
+  EXPECT_FALSE(user.At("RawOpt").ticked);
+  EXPECT_EQ(user.Text("WindnrLbl"), "7");
+  EXPECT_EQ(user.Text("BoodschLbl"),
+            "Analyze a Lognormal distribution using his descriptive statistics. "
+            "Enter a name and the sample size.\r");
+  for (const char* menu : {"menuopen", "MenuNewVkrFil", "menuExtrPol", "MenuPlot"})
+    EXPECT_FALSE(user.At(menu).enabled) << menu;
+  EXPECT_TRUE(user.At("IdentFrame").visible);
+  EXPECT_TRUE(user.At("BoodschFrame").visible);
+  EXPECT_FALSE(user.At("DescriptFrame").visible);
+  EXPECT_FALSE(user.At("CmdContinu").visible);
+  EXPECT_FALSE(user.At("TabBasis").visible);
+  EXPECT_EQ(Focus(user), "NameTxB");
+}
+
+TEST(DataType, TheFocusAloneChoosesKnownStatistics) {
+  ProgramSession user;
+  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
+  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_EQ(Focus(user), "NameTxB");
+}
+
+TEST(DataType, RawDataEndsEnteredStatisticsWithoutAQuestion) {
+  ProgramSession user;
+  user.EnterStatistics("Welders", "12", "1.5", "2.5");
+  user.Click("RawOpt");
+  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_EQ(user.Record().Name, "");
+  EXPECT_EQ(user.Record().M, 0);
+  EXPECT_EQ(user.Record().GM, 0);
+  EXPECT_EQ(user.Text("WindnrLbl"), "8");
+  EXPECT_THAT(user.Text("BoodschLbl"), testing::StartsWith("Analyze a series"));
+  EXPECT_FALSE(user.At("TabBasis").visible);
+  EXPECT_TRUE(user.box.shown.empty());
+}
+
+TEST(DataType, KnownStatisticsEndASavedSeriesWithoutAQuestion) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4, 8});
+  user.Tab("basis");
+  user.Click("DesOpt");
+  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_EQ(user.Record().Name, "");
+  EXPECT_EQ(user.Record().M, 0);
+  EXPECT_EQ(user.Text("NameTxB"), "");
+  EXPECT_EQ(user.Record().C.size(), 1u);
+  EXPECT_TRUE(user.box.shown.empty());
+}
+
+TEST(DataType, RawDataEndsASavedSeriesWithoutAQuestion) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4, 8});
+  user.Tab("basis");
+  user.Click("RawOpt");
+  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_EQ(user.Record().M, 0);
+  EXPECT_FALSE(user.At("IdentFrame").visible);
+  EXPECT_TRUE(user.box.shown.empty());
+}
+
+TEST(DataType, EitherChoiceAsksBeforeUnsavedOutcomesGo) {
+  for (const char* option : {"RawOpt", "DesOpt"}) {
+    ProgramSession user;
+    OpenAndEdit(user);
+    user.box.answers = {Answer::Yes};
+    user.Click(option);
+    ASSERT_EQ(user.box.shown.size(), 1u) << option;
+    EXPECT_EQ(user.Record().M, 0) << option;
+    EXPECT_EQ(user.Record().Mode, std::string(option) == "RawOpt" ? "R" : "D");
+  }
+}
+
+TEST(DataType, NoKeepsTheUnsavedSeriesAndItsOption) {
+  for (const char* option : {"RawOpt", "DesOpt"}) {
+    ProgramSession user;
+    OpenAndEdit(user);
+    user.Click(option);
+    EXPECT_EQ(user.box.shown.size(), 1u) << option;
+    EXPECT_EQ(user.Record().Mode, "R") << option;
+    EXPECT_EQ(user.Record().M, 4) << option;
+    EXPECT_EQ(user.Record().C[1], 1.5) << option;
+    EXPECT_TRUE(user.At("RawOpt").ticked) << option;
+    EXPECT_FALSE(user.At("DesOpt").ticked) << option;
+  }
+}
+
+// One wish, one question: the focus that a click brings must not ask a second time, and the answer
+// must not stick to the next wish.
+TEST(DataType, AMouseClickOnKnownStatisticsAsksOnceEachTime) {
+  ProgramSession user;
+  OpenAndEdit(user);
+  MouseClick(user, "DesOpt");
+  EXPECT_EQ(user.box.shown.size(), 1u);
+  EXPECT_EQ(Focus(user), "RawOpt");
+  MouseClick(user, "DesOpt");
+  EXPECT_EQ(user.box.shown.size(), 2u);
+  EXPECT_EQ(user.Record().Mode, "R");
+  user.box.answers = {Answer::Yes};
+  MouseClick(user, "DesOpt");
+  EXPECT_EQ(user.box.shown.size(), 3u);
+  EXPECT_EQ(user.Record().Mode, "D");
+}
+
+TEST(DataType, ComingBackToKnownStatisticsByKeyboardAsksAgain) {
+  ProgramSession user;
+  OpenAndEdit(user);
+  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
+  user.box.answers = {Answer::Yes};
+  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
+  EXPECT_EQ(user.box.shown.size(), 2u);
+  EXPECT_EQ(user.Record().Mode, "D");
+}
+
+TEST(DataType, ChoosingKnownStatisticsAgainKeepsWhatWasEntered) {
+  ProgramSession user;
+  user.EnterStatistics("Welders", "12", "1.5", "2.5");
+  Focus(user);
+  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
+  EXPECT_EQ(Focus(user), "") << "the keyboard passes by";
+  user.Click("DesOpt");
+  EXPECT_EQ(user.Record().Name, "Welders");
+  EXPECT_EQ(user.Record().M, 12);
+  EXPECT_EQ(user.Record().GM, 1.5);
+  EXPECT_EQ(user.Record().GSD, 2.5);
+  EXPECT_EQ(Focus(user), "NameTxB");
+}
+
+}  // namespace

@@ -1,0 +1,103 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <map>
+
+#include "catalog/catalog.h"
+#include "tests/support/program_session.h"
+
+namespace {
+
+using support::ProgramSession;
+
+const char kQuestion[] =
+    " What kind of exposure data do you want to analyze?\r"
+    "  - A series measurement outcome: click menu option &File\r"
+    "  - Known values of GM and GSD: click option button '&Descriptive statistics'";
+
+// What the window shows of a screen.
+std::map<std::string, screen::ControlState> Look(const screen::Form& form) {
+  std::map<std::string, screen::ControlState> look;
+  for (const screen::Control* control : form.controls) look[control->name] = *control;
+  return look;
+}
+
+TEST(Start, AsksForTheKindOfDataOnTheStartScreen) {
+  ProgramSession user;
+  EXPECT_EQ(user.Shown().name, "BasisForm");
+  EXPECT_TRUE(user.At("BoodschFrame").visible);
+  EXPECT_TRUE(user.At("BoodschLbl").visible);
+  EXPECT_EQ(user.Text("BoodschLbl"), kQuestion);
+  EXPECT_EQ(user.Text("WindnrLbl"), "2");
+  EXPECT_EQ(user.Record().CurrentTab, "Start");
+  EXPECT_TRUE(user.box.shown.empty());
+}
+
+TEST(Start, HidesWhatNoDataHaveBeenChosenFor) {
+  ProgramSession user;
+  for (const char* name :
+       {"IdentFrame", "DescriptFrame", "OriModiCmd", "CmdContinu", "menuTools", "TabBasis"})
+    EXPECT_FALSE(user.At(name).visible) << name;
+  EXPECT_EQ(user.Text("OriModiCmd"), "&Modify");
+}
+
+TEST(Start, BeginsWithAnEmptyRecordAndEmptyFields) {
+  ProgramSession user;
+  const ExposureSession& record = user.Record();
+  EXPECT_EQ(record.Mode + record.Name + record.Unit + record.Duration + record.RefPeriod, "");
+  EXPECT_FALSE(record.IdentOk || record.DescOk || record.LimitsOk || record.ModifyMode);
+  EXPECT_FALSE(record.OELV.has_value());
+  EXPECT_EQ(record.M, 0);
+  for (const char* name : {"NameTxB", "SampSizTxB", "GMTxB", "GSDTxB"})
+    EXPECT_EQ(user.Text(name), "") << name;
+}
+
+TEST(Start, LoadsTheOtherScreensWithoutShowingThem) {
+  ProgramSession user;
+  EXPECT_EQ(user.program.Forms().size(), 5u);
+  EXPECT_THAT(user.At("DataCtrlForm.DimCbo").items,
+              testing::ElementsAre("%", "fibres/ml", "mg/m3", "ppm", "ppb", "dB(A)", "EU/ml"));
+  EXPECT_EQ(user.Text("DataCtrlForm.DimCbo"), "Units");
+  EXPECT_EQ(user.Text("DataCtrlForm.WindnrLbl"), "");
+}
+
+TEST(Start, TheVersionTextNamesThreeNumbersAndEndsInTwoBlanks) {
+  ProgramSession user;
+  EXPECT_THAT(user.Record().VersionText,
+              testing::MatchesRegex("VALKORIN version [0-9]+\\.[0-9]+\\.[0-9]+  "));
+  EXPECT_THAT(user.program.Title(), testing::HasSubstr(LoadResString(3)));
+}
+
+// A workstation without the coefficient files must still show its user a program.
+TEST(Start, AMissingCoefficientFileDoesNotStopIt) {
+  namespace fs = std::filesystem;
+  const fs::path before = fs::current_path();
+  const fs::path empty = support::WriteTemporary("here", "") + "-is-no-file";
+  fs::create_directories(empty);
+  fs::current_path(empty);
+  support::RecordingBox box;
+  support::RecordingDialog dialog;
+  support::CountingSurface surface;
+  screen::Ports ports{box, dialog, surface};
+  start::Program program(ports, {(empty / "nowhere").string()});
+  program.Start();
+  fs::current_path(before);
+  EXPECT_TRUE(box.shown.empty());
+  EXPECT_EQ(program.FormByName("BasisForm")->Find("BoodschLbl")->text, kQuestion);
+  EXPECT_EQ(program.Session().CurrentTab, "Start");
+}
+
+TEST(Start, TheMenusWithoutARoutineDoNothing) {
+  ProgramSession user;
+  const auto before = Look(user.Shown());
+  for (const char* menu : {"MenuWebsite", "MenuOpdatbas", "MenuOpSprSht"}) {
+    user.Click(menu);
+    EXPECT_EQ(Look(user.Shown()), before) << menu;
+    EXPECT_EQ(user.Shown().name, "BasisForm") << menu;
+  }
+  EXPECT_EQ(user.Record().Mode, "");
+  EXPECT_TRUE(user.box.shown.empty());
+  EXPECT_TRUE(user.dialog.asked.empty());
+}
+
+}  // namespace
