@@ -86,8 +86,9 @@ std::string PercExForm::LimitText(const std::string& separator) const {
 void PercExForm::ShowIntroduction() {
   const std::string& cr = session.CR;
   auto text = [](int row) { return LoadResString(row); };
-  std::string intro = text(2340) + cr + text(2342) + text(2344) + cr + text(2346) + cr +
-                      text(2348) + cr + text(2350) + cr + text(2352) + cr + cr + text(2354) +
+  // The rule on the sampling duration is the first item of the list, as its dash tells.
+  std::string intro = text(2340) + cr + text(2346) + text(2342) + text(2344) + cr + text(2348) +
+                      cr + text(2350) + cr + text(2352) + cr + cr + text(2354) +
                       ShownTrimmed(session.M) + text(2355);
   if (session.OELV.value_or(0) > 0) {
     const double distance = Divide(Log(*session.OELV) - Log(session.GM), Log(session.GSD));

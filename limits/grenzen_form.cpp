@@ -29,14 +29,14 @@ GrenzenForm::GrenzenForm(ExposureSession& record, navigation::Desk& programDesk,
 void GrenzenForm::WireBoxes() {
   for (screen::Control* box : {&AlphaTxb, &DeltaTxb}) {
     box->GotFocus = [this, box] {
-      WindnrLbl.text = "21";
+      ShowFieldNumber(*box, "21");
       box->text = ShownTrimmed(box == &AlphaTxb ? session.U : session.D);
       box->selectAll = true;
     };
     box->LostFocus = box->EnterKey = [this, box] { LeavePercent(*box); };
   }
   VkrValTxB.GotFocus = [this] {
-    WindnrLbl.text = "21";
+    ShowFieldNumber(VkrValTxB, "21");
     if (GlobalBAS::InRangeOELV(session.OELV)) VkrValTxB.text = ShownTrimmed(session.OELV);
     VkrValTxB.selectAll = true;
   };
@@ -55,7 +55,7 @@ void GrenzenForm::WireSteps() {
 void GrenzenForm::WireCombos() {
   auto wire = [this](screen::Control& combo, std::string& field, const char* window) {
     combo.GotFocus = [this, &combo, window] {
-      if (*window) WindnrLbl.text = window;
+      if (*window) ShowFieldNumber(combo, window);
       combo.selectAll = true;
     };
     combo.Click = [this, &combo, &field] {
@@ -93,6 +93,7 @@ void GrenzenForm::Activate() {
   BasisStatus();
   EnterOwnTab();
   WindnrLbl.text = session.Mode == "R" ? "21a" : "21b";
+  if (focusWanted) SetFocusQuietly(*focusWanted);
   IdentFrame.Show();
   NameTxB.text = session.Name;
   SampSizTxB.text = ShownTrimmed(session.M);

@@ -83,6 +83,16 @@ void SessionForm::Tab_Click(const std::string& key) {
   desk.Open(tab->screen);
 }
 
+void SessionForm::SetFocusQuietly(screen::Control& control) {
+  quietFocus_ = &control;
+  SetFocus(control);
+}
+
+void SessionForm::ShowFieldNumber(const screen::Control& field, const std::string& number) {
+  if (quietFocus_ != &field) WindnrLbl.text = number;
+  quietFocus_ = nullptr;
+}
+
 std::string SessionForm::Shown(const std::optional<double>& value) const {
   return GlobalBAS::Shown(session, value);
 }

@@ -48,6 +48,12 @@ struct SessionForm : screen::Form {
   // Enables the menus whose screens the program has.
   void OfferMenus();
 
+  // The number of the window on focus; a number that a choice has just set stays when the choice
+  // itself has moved the focus.
+  void ShowFieldNumber(const screen::Control& field, const std::string& number);
+  // Moves the focus and lets the present window number stand.
+  void SetFocusQuietly(screen::Control& control);
+
   // Runs before the gate of a clicked tab is tested, and once it has been found open.
   virtual void BeforeTabClick() {}
   virtual void BeforeLeavingFor(ScreenId) {}
@@ -61,6 +67,9 @@ struct SessionForm : screen::Form {
   GlobalBAS::Entry EntryOf(const screen::Control& field) const;
   // Shows a validator's complaint.
   GlobalBAS::Notify Notifier();
+
+ private:
+  const screen::Control* quietFocus_ = nullptr;
 };
 
 // Label of a regression estimate, such as "Double censored Rankit estimate GMg=".

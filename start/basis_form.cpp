@@ -40,7 +40,7 @@ void BasisForm::WireFields() {
 
   auto field = [this](screen::Control& box, const char* window, screen::Handler leave) {
     box.GotFocus = [this, &box, window] {
-      WindnrLbl.text = window;
+      ShowFieldNumber(box, window);
       box.selectAll = true;
     };
     box.LostFocus = leave;
@@ -155,7 +155,7 @@ void BasisForm::ChooseStatistics() {
   CmdContinu.Hide();
   IdentFrame.Show();
   BasisStatus();
-  SetFocus(NameTxB);
+  SetFocusQuietly(NameTxB);
 }
 
 void BasisForm::MenuNewVkrFil_Click() {
@@ -174,7 +174,7 @@ void BasisForm::MenuNewVkrFil_Click() {
   menuopen.enabled = false;
   MenuNewVkrFil.enabled = false;
   ShowMessage(LoadResString(250) + session.CR);
-  SetFocus(NameTxB);
+  SetFocusQuietly(NameTxB);
 }
 
 void BasisForm::CmdContinu_Click() {
@@ -214,12 +214,13 @@ void BasisForm::LeaveName() {
 
 void BasisForm::LeaveSampleSize() {
   if (SampSizTxB.locked) return;
+  const bool typed = SampSizTxB.touched;
   const double before = session.M;
   GlobalBAS::CheckM(session, EntryOf(SampSizTxB), session.M, Notifier());
   const bool refused = session.InputState != 0;
   if (session.M != before) SampleSizeChanged();
   BasisStatus();
-  if (refused) SetFocus(SampSizTxB);
+  KeepFocus(SampSizTxB, refused, typed);
 }
 
 void BasisForm::StepSampleSize(double step) {
@@ -247,6 +248,7 @@ void BasisForm::SampleSizeChanged() {
 
 void BasisForm::LeaveStatistic(screen::Control& field) {
   if (field.locked) return;
+  const bool typed = field.touched;
   const bool isGM = &field == &GMTxB;
   double& value = isGM ? session.GM : session.GSD;
   if (isGM)
@@ -259,7 +261,17 @@ void BasisForm::LeaveStatistic(screen::Control& field) {
     session.SigDigits = std::max(session.SigDigits, width);
   }
   BasisStatus();
-  if (refused) SetFocus(field);
+  KeepFocus(field, refused, typed);
+}
+
+// A refused entry keeps the focus. A field in which nothing was typed lets the user go wherever
+// the user goes: who wants to mend the sample size first is not held in an empty GM.
+void BasisForm::KeepFocus(screen::Control& field, bool refused, bool typed) {
+  if (!refused) return;
+  if (typed)
+    SetFocus(field);
+  else
+    focusWanted = nullptr;
 }
 
 }  // namespace start

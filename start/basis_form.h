@@ -91,6 +91,7 @@ struct BasisForm final : navigation::SessionForm {
   void StepSampleSize(double step);
   void SampleSizeChanged();
   void LeaveStatistic(screen::Control& field);
+  void KeepFocus(screen::Control& field, bool refused, bool typed);
 
   void StatusRaw();
   void StatusKnown();

@@ -96,7 +96,8 @@ bool VkrGridView::TakesKey(const QKeyEvent& event) {
     PasteClipboard();
   } else if (event.key() == Qt::Key_Delete && row >= 0) {
     gate_->Later([this, row] { grid_->DeleteRow(row); });
-  } else if ((event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) && row >= 0) {
+  } else if (state() != EditingState && row >= 0 &&
+             (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)) {
     edit(model_->index(row, model_->EditableColumn()));
   } else {
     return false;
