@@ -45,6 +45,9 @@ TEST(CloseAllData, EndsASeriesWithNoKindOfDataChosen) {
   user.Click("DetecChB");
   user.Tab("basis");
   user.Record().LogName = "series.LOG";
+  user.Record().RegressionOn = true;
+  user.Record().InputState = 4;
+  user.Record().MsgText = user.Record().MsgTitle = "an old message";
   user.Click("Menuclose");
   EXPECT_EQ(user.Record().Mode, "");
   EXPECT_EQ(user.Record().C.size(), 1u);
