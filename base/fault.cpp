@@ -5,11 +5,16 @@ namespace {
 
 const char* Words(FaultKind kind) {
   switch (kind) {
-    case FaultKind::Overflow: return "overflow";
-    case FaultKind::DivisionByZero: return "division by zero";
-    case FaultKind::InvalidOperation: return "invalid operation";
-    case FaultKind::Subscript: return "subscript out of range";
-    case FaultKind::MissingText: return "missing text";
+    case FaultKind::Overflow:
+      return "overflow";
+    case FaultKind::DivisionByZero:
+      return "division by zero";
+    case FaultKind::InvalidOperation:
+      return "invalid operation";
+    case FaultKind::Subscript:
+      return "subscript out of range";
+    case FaultKind::MissingText:
+      return "missing text";
   }
   return "fault";
 }

@@ -68,11 +68,11 @@ struct Control : ControlState {
   // Page of the manual that explains the control.
   int helpContext = 0;
 
-  Handler Click;      // button, option, check box, menu; a choice from a combo box's list
+  Handler Click;  // button, option, check box, menu; a choice from a combo box's list
   Handler GotFocus;
   Handler LostFocus;  // also by the Tab key
   Handler EnterKey;
-  Handler StepUp;     // of an UpDown, or of a field that has one
+  Handler StepUp;  // of an UpDown, or of a field that has one
   Handler StepDown;
 
   void Hide() { visible = false; }

@@ -19,9 +19,12 @@ bool ReadRecord(std::istream& in, std::vector<std::string>& fields, int& line) {
     const char ch = static_cast<char>(c);
     if (ch == '\n') ++line;
     if (quoted) {
-      if (ch != '"') field += ch;
-      else if (in.peek() == '"') field += static_cast<char>(in.get());
-      else quoted = false;
+      if (ch != '"')
+        field += ch;
+      else if (in.peek() == '"')
+        field += static_cast<char>(in.get());
+      else
+        quoted = false;
     } else if (ch == '"') {
       quoted = true;
     } else if (ch == ',') {
