@@ -10,7 +10,6 @@
 namespace {
 
 using support::ProgramSession;
-using testing::ElementsAre;
 
 rawdata::DataCtrlForm& DataControl(ProgramSession& user) {
   return dynamic_cast<rawdata::DataCtrlForm&>(*user.program.FormByName("DataCtrlForm"));
