@@ -9,6 +9,13 @@ double StudentUpper(double& df, double& t);
 // The deviate t with P(T > t) = p.
 double StudentUpperInverse(double& p, double& df);
 
+// The same with the number of Newton's steps that it took.
+struct StudentDeviate {
+  double t = 0;
+  int passes = 0;
+};
+StudentDeviate StudentUpperInverseSearch(double& p, double& df);
+
 // The deviate t with P(T > t) = p by the Cornish-Fisher expansion.
 double StudentUpperInverseSeries(double& p, double& df);
 
