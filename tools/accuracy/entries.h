@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tools/accuracy/worst.h"
+
+// What the accuracy page tells: one entry a routine, or a region of its domain, and one entry for
+// each place where a method is what it is although a better one would be at hand.
+namespace accuracy {
+
+struct Entry {
+  std::string routine;
+  std::string domain;
+  std::string method;
+  Measure measure = Measure::Relative;
+  Source truth = {};
+  Source steps = {};
+};
+
+// In the order of the page.
+std::vector<Entry> Routines();
+// Entries of which `method` says what is done, and `truth` measures what it costs.
+std::vector<Entry> Peculiarities();
+
+std::vector<Entry> NormalEntries();
+std::vector<Entry> EstimatorEntries();
+
+}  // namespace accuracy
