@@ -1,0 +1,25 @@
+#pragma once
+
+namespace ucl {
+
+// Jahr's approximate limit of the arithmetic mean, and the probability that the mean exceeds the
+// limit value.
+struct JahrLimit {
+  double UCL = 0;     // natural logarithm of the limit
+  double PercEx = 0;  // percent, 0 to 100
+};
+
+// One-sided upper confidence limit of the mean of a lognormal population, AMu GSD^k with
+// k = t / sqrt(df), where t is the deviate of Student's t with the upper tail 1 - D / 100; and the
+// upper tail at the t for which that limit would equal OELV.
+// Domain: AMu > 0 and OELV > 0 in one unit; GSD > 1; df > 0; D in percent, between 0 and 100. A D
+// below 50 gives a limit below AMu. AMu, OELV or GSD not above 0 is an invalid operation, GSD = 1 a
+// division by zero.
+// Changes nothing.
+// Source: J. Jahr (1987), the approximation with the unbiased arithmetic mean as its centre.
+// Accuracy: it follows the method's own steps to 1E-14 (UCL, absolute) and as far as StudentUpper
+// does (PercEx). What the method lacks against the exact limit is no matter of digits: see
+// LandExactUCL.
+JahrLimit JahrUCL(double AMu, double GSD, double df, double D, double OELV);
+
+}  // namespace ucl
