@@ -1,0 +1,86 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "session/exposure_session.h"
+
+// The compliance test of EN 689, Annex F: by the noncentral Student distribution it finds the
+// confidence that less than 100 - U percent of the exposures exceeds the limit value, the upper
+// tolerance limit with coverage U and confidence D, and the fraction below the limit value with
+// confidence D.
+namespace compliance {
+
+// Fixed texts of the two search boxes.
+inline constexpr const char* kLimitAbove1E300 = "    >1.00E+300";
+inline constexpr const char* kFractionAll = "   100        ";
+inline constexpr const char* kFractionNone = "    <1.0E-46  ";
+
+// Title (catalogue row) of the message on a coverage of 50 percent or less.
+inline constexpr int kCoverageTitle = 2120;
+
+// Which box a search shows its candidate in.
+enum class En689Box { ToleranceLimit, Fraction };
+using En689Progress = std::function<void(En689Box box, double value)>;
+
+// The confidence in percent that the sample's mean plus r of its standard deviations lies above the
+// quantile u (in percent) of the population. u = 50 gives the other tail, by the house rule of
+// NoncentralTUpper at p = 0.5.
+double En689ConfidenceAt(double df, double u, double r);
+
+struct ToleranceSearch {
+  double UTL = 0;      // in the unit of GM
+  double ConfNow = 0;  // confidence in percent at UTL
+  double LowBound = 0;
+  double HighBound = 0;     // 0 when the search ended before it bisected
+  bool above1E300 = false;  // the box then shows kLimitAbove1E300
+  int evaluations = 0;      // of NoncentralTUpper
+};
+
+// The limit x with confidence D that U percent of the exposures lie below it: steps of a factor GSD
+// upward from GM / GSD, then bisection until the confidence is within 0.001 of D, or the search
+// stands still. U above 50 to 99.99, D 0.01 to 99.99.
+// Source: EN 689:2018, Annex F; D.B. Owen (1968), Technometrics 10, 445-478.
+// Accuracy: the confidence is met to 0.001 percent, unless neighbouring doubles lie further apart.
+// Against arbitrary precision ln(x / GM) / ln GSD is off by 7.2E-5 relative at most for df up to
+// 200 and D from 5 to 95, and by 2.1E-2 above (df 201), where the normal approximation is used.
+// Ends after at most 1,400 evaluations.
+ToleranceSearch En689ToleranceLimit(const ExposureSession& s, const En689Progress& progress = {});
+
+struct FractionSearch {
+  double u = 0;        // percent of the population below the limit value
+  double ConfNow = 0;  // confidence in percent at u
+  double LowBound = 0;
+  double HighBound = 0;
+  const char* text = nullptr;  // kFractionAll or kFractionNone where the box shows no number
+  bool ranTwice = false;       // the first search stood still at 50 percent
+  int evaluations = 0;         // of NoncentralTUpper
+};
+
+// The fraction u with confidence D that u percent of the exposures lie below the limit value, by
+// bisection from U on until the confidence is within 0.001 of D, or the search stands still.
+// Where it has met 50 percent, at which NoncentralTUpper returns the other tail, and then stood
+// still, it runs once more with the proportion next above a half in that place.
+// U and D 0.01 to 99.99. Ends after at most 320 evaluations.
+FractionSearch En689Fraction(const ExposureSession& s, double Ur,
+                             const En689Progress& progress = {});
+
+// The verdict: whether the tolerance limit lies below the limit value. None with df up to 4.
+std::optional<bool> En689Complies(const ExposureSession& s);
+
+// Whether U is 50 percent or less, for which there is no tolerance limit; then stores the message
+// in MsgText.
+bool CoverageTooLow(ExposureSession& s);
+
+struct En689Result {
+  std::optional<ToleranceSearch> limit;  // absent with U up to 50: PercEx and UTL stay
+  FractionSearch fraction;
+  std::optional<bool> compliance;  // absent with df up to 4
+};
+
+// The whole test on the record's GM, GSD, OELV, U, D and df. Writes TestTag "Tu", PercEx (the
+// confidence in percent) and UTL. With U up to 50 the last two stay as they were, MsgText says why,
+// and the verdict is on the old UTL.
+En689Result En689Test(ExposureSession& s, double Ur, const En689Progress& progress = {});
+
+}  // namespace compliance
