@@ -54,9 +54,10 @@ double FiniteArea(double df, double t) {
   return Checked(0.5 - std::sqrt(b) * a * EvenSum(df, b) / 2);
 }
 
-// Newton's steps, with a = t / sqrt df, b as above and k the bare density b^((df + 1) / 2) / sqrt
-// df. The factors that make k the full density follow the sum. For odd df above 3 the factor 2 of
-// df 3 is not applied: the step is twice too long, and the search settles all the same.
+// Newton's steps, with a = t / sqrt df, b as above and k = b^((df + 1) / 2) / sqrt df, which the
+// factors below make the slope. For odd df above 3 they leave out the last one, (df - 1) / (df -
+// 2), so that each step is longer by it than Newton's: the error shrinks only to 1 / (df - 2) a
+// step.
 double OddStep(double p, double df, double a, double b, double k) {
   double s = 1;
   if (df == 3) {
