@@ -4,11 +4,11 @@ namespace accuracy {
 
 std::vector<Entry> Routines() {
   std::vector<Entry> all;
-  for (auto* part : {NormalEntries, EstimatorEntries})
+  for (auto* part : {NormalEntries, EstimatorEntries, DistributionEntries})
     for (Entry& entry : part()) all.push_back(std::move(entry));
   return all;
 }
 
-std::vector<Entry> Peculiarities() { return {}; }
+std::vector<Entry> Peculiarities() { return DistributionPeculiarities(); }
 
 }  // namespace accuracy

@@ -25,5 +25,7 @@ std::vector<Entry> Peculiarities();
 
 std::vector<Entry> NormalEntries();
 std::vector<Entry> EstimatorEntries();
+std::vector<Entry> DistributionEntries();
+std::vector<Entry> DistributionPeculiarities();
 
 }  // namespace accuracy
