@@ -31,15 +31,15 @@ bool FocusWatch::Elsewhere() const {
 
 screen::Control* FocusWatch::Focused() const {
   QWidget* widget = window_.focusWidget();
-  return widget && widget->isVisible() ? controlOf_(widget) : nullptr;
+  return widget && widget->isVisibleTo(&window_) ? controlOf_(widget) : nullptr;
 }
 
 void FocusWatch::Follow() {
   // Handlers move the focus in turn. Two screens' worth of moves is far beyond any real chain.
   constexpr int kLongestChain = 32;
-  if (following_ || gate_.Busy()) return;
+  if (stopped_ || following_ || gate_.Busy()) return;
   following_ = true;
-  for (int i = 0; i < kLongestChain && !Elsewhere() && Focused() != current_; ++i) {
+  for (int i = 0; i < kLongestChain && !stopped_ && !Elsewhere() && Focused() != current_; ++i) {
     if (current_) {
       screen::Control* left = std::exchange(current_, nullptr);
       gate_.Run([left] {

@@ -27,6 +27,8 @@ class FocusWatch : public QObject {
   void Adopt();
   // Takes over what was typed in the field with the focus, before a menu or a step button acts.
   void Commit();
+  // The program ends: the window that closes takes the focus from nobody.
+  void Stop() { stopped_ = true; }
 
  private:
   void Post();
@@ -39,6 +41,7 @@ class FocusWatch : public QObject {
   screen::Control* current_ = nullptr;
   bool following_ = false;
   bool posted_ = false;
+  bool stopped_ = false;
 };
 
 }  // namespace ui

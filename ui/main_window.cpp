@@ -31,6 +31,7 @@ class MainWindow::Private {
   screen::Control* ControlOf(QWidget* widget) const;
   void Push();
   void Settle();
+  void End();
   void Choose(const QString& key);
   void PlaceFocus();
   void PushPointer(bool busy);
@@ -106,10 +107,18 @@ void MainWindow::Private::PushPointer(bool busy) {
 
 void MainWindow::Private::Settle() {
   Push();
+  if (program_.EndRequested()) {
+    End();
+    return;
+  }
   PlaceFocus();
   focus_.Follow();
-  if (!program_.EndRequested() || ending_) return;
+}
+
+void MainWindow::Private::End() {
+  if (ending_) return;
   ending_ = true;
+  focus_.Stop();
   window_.close();
   QCoreApplication::quit();
 }

@@ -89,6 +89,8 @@ void VkrGridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHin
 }
 
 bool VkrGridView::TakesKey(const QKeyEvent& event) {
+  // What an open editor has no use for comes by here as well.
+  if (state() == EditingState) return false;
   const int row = currentIndex().row();
   if (event.matches(QKeySequence::Copy)) {
     CopySelection();
