@@ -15,14 +15,27 @@ FocusWatch::FocusWatch(QMainWindow& window, EventGate& gate, Lookup controlOf)
 void FocusWatch::Post() {
   if (posted_) return;
   posted_ = true;
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        posted_ = false;
-        gate_.RunLate();
-        Follow();
-      },
-      Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &FocusWatch::Arrive, Qt::QueuedConnection);
+}
+
+// Between the press and the release of a mouse button nothing happens: a message box would take
+// the release away from what is being clicked, and the click with it.
+void FocusWatch::Arrive() {
+  posted_ = false;
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    qApp->installEventFilter(this);
+    return;
+  }
+  gate_.RunLate();
+  Follow();
+}
+
+bool FocusWatch::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) {
+    qApp->removeEventFilter(this);
+    Post();
+  }
+  return false;
 }
 
 bool FocusWatch::Elsewhere() const {

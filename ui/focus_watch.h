@@ -30,8 +30,12 @@ class FocusWatch : public QObject {
   // The program ends: the window that closes takes the focus from nobody.
   void Stop() { stopped_ = true; }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void Post();
+  void Arrive();
   bool Elsewhere() const;
   screen::Control* Focused() const;
 
