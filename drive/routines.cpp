@@ -1,11 +1,11 @@
 #include "drive/routines.h"
 
-#include <deque>
 #include <optional>
 #include <string_view>
 
 #include "analysis/limit_checks.h"
 #include "base/fault.h"
+#include "drive/call.h"
 #include "drive/failure.h"
 #include "drive/record_fields.h"
 #include "drive/text.h"
@@ -18,84 +18,11 @@
 namespace drive {
 namespace {
 
-constexpr std::string_view kRecord = "session.";
-
-// One call: where the arguments come from, and what is told after it.
-class Call {
- public:
-  Call(ExposureSession& record, screen::MessageBox& messageBox, std::vector<std::string> words)
-      : s(record), messageBox_(messageBox), words_(std::move(words)) {}
-
-  ExposureSession& s;
-
-  const std::string& Text(std::size_t i) const { return words_[i]; }
-  double Number(std::size_t i) { return Ref(i); }
-  int Int(std::size_t i) const { return IntOf(words_[i]); }
-  // An argument by reference: a number of its own, or the record's field.
-  double& Ref(std::size_t i) {
-    if (words_[i].starts_with(kRecord)) {
-      double* field = DoubleField(s, words_[i].substr(kRecord.size()));
-      if (!field) throw Failure(words_[i] + " is no number of the record");
-      return *field;
-    }
-    return numbers_.emplace_back(NumberOf(words_[i]));
-  }
-  std::optional<double> Optional(std::size_t i) {
-    return words_[i] == "empty" ? std::nullopt : std::optional(Number(i));
-  }
-  GlobalBAS::Notify Notify() {
-    return [this](const std::string& text, const std::string& title) {
-      messageBox_.Show({text, title, screen::Icon::Exclamation});
-    };
-  }
-
-  void Tell(double value) { Word(NumberText(value)); }
-  void Tell(const std::optional<double>& value) { Word(value ? NumberText(*value) : "empty"); }
-  void Tell(const std::string& text) { Word(Quoted(text)); }
-  std::string Told() const { return told_.empty() ? "done" : told_; }
-
- private:
-  void Word(const std::string& word) { told_ += (told_.empty() ? "" : " ") + word; }
-
-  screen::MessageBox& messageBox_;
-  std::vector<std::string> words_;
-  std::deque<double> numbers_;  // a deque, so that references stay good
-  std::string told_;
-};
-
-struct Routine {
-  std::string_view name;
-  std::size_t arguments;
-  void (*run)(Call&);
-  std::vector<std::string> own = {};  // the record's fields that stand in for arguments left out
-};
-
-template <double (*F)(double&)>
-void OneByReference(Call& c) {
-  double& x = c.Ref(0);
-  c.Tell(F(x));
-  c.Tell(x);
-}
-
-template <double (*F)(double&, double&, double&)>
-void ThreeByReference(Call& c) {
-  double& df = c.Ref(0);
-  double& gm = c.Ref(1);
-  double& gsd = c.Ref(2);
-  c.Tell(F(df, gm, gsd));
-  for (const double argument : {df, gm, gsd}) c.Tell(argument);
-}
-
 template <void (*F)(ExposureSession&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&)>
 void Validator(Call& c) {
   double& value = c.Ref(1);
   F(c.s, {c.Text(0)}, value, c.Notify());
   c.Tell(value);
-}
-
-template <void (*F)(ExposureSession&)>
-void OnTheRecord(Call& c) {
-  F(c.s);
 }
 
 template <void (*F)(ExposureSession&, double)>
@@ -171,6 +98,11 @@ const Routine kRoutines[] = {
 const Routine& RoutineOf(const std::string& name) {
   for (const Routine& routine : kRoutines)
     if (routine.name == name) return routine;
+  for (const auto* group :
+       {&DistributionRoutines(), &FitRoutines(), &ComplianceRoutines(), &MeanRoutines()}) {
+    for (const Routine& routine : *group)
+      if (routine.name == name) return routine;
+  }
   throw Failure("no routine " + name);
 }
 
