@@ -17,8 +17,8 @@ double SmallerOf(double a, double b);
 // is an overflow. Changes nothing.
 // Source: C.E. Land (1975), Selected Tables in Mathematical Statistics 3, 385-419, the conditional
 // density of the t statistic, scaled.
-// Accuracy against arbitrary precision: nu times 3E-16 relative near the peak, since the logarithm
-// of the density carries the factor nu + 1.
+// Accuracy against arbitrary precision: 4.2E-12 relative (nu 999, far out on the slope); the
+// logarithm carries the factor nu + 1.
 double LandIntegrand(double nu, double Aq, double Yq, double Zq, double x);
 
 // Integral of LandIntegrand from a to b into `result`; with a above b it has the opposite sign.
@@ -33,8 +33,10 @@ void LandSimpson(double a, double b, double nu, double Aq, double Yq, double Zq,
 // Domain: nu > 0, s > 0, which the caller holds. Beyond a double: the fault of its kind.
 // Changes nothing.
 // Source: C.E. Land (1975), as above, by three integrals of the density.
-// Accuracy against quadrature in arbitrary precision: see kLandProbabilityError in the tests,
-// 1E-9 absolute over the domain; the tails are held to that and not to a relative error.
+// Accuracy against quadrature in arbitrary precision, absolute: nu from 6: 5.6E-10 (nu 6, s 0.4,
+// c 1.83); from 3: 7.8E-9 (nu 3, s 0.4, c 2.59); nu 2: 6.7E-8 (s 6.9, c 308); nu 1: 2.8E-6 (s 2.4,
+// c 2.45), since the density falls off slowly and the range of integration ends too early. The
+// tails are held to that and not to a relative error.
 double LandProbability(double nu, double s, double c);
 
 }  // namespace UCLBAS
