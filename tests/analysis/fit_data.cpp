@@ -39,7 +39,7 @@ ExposureSession Opened(const std::vector<double>& outcomes) {
 ExposureSession OpenedPowers(int M) {
   std::vector<double> outcomes = {0};
   for (int i = 1; i <= M; ++i) outcomes.push_back(std::pow(i, 1.1));
-  outcomes[0] = outcomes[static_cast<std::size_t>(M / 2 + 1)];
+  outcomes[0] = outcomes[static_cast<std::size_t>(M) / 2 + 1];
   return Opened(outcomes);
 }
 

@@ -240,7 +240,7 @@ TEST_F(RegressionLine, OfRandomSeriesAndRangesRisesAndEndsFinite) {
     const double sigma = 0.01 + std::abs(normal(random));
     for (int i = 1; i <= M; ++i) outcomes.push_back(gm * std::exp(sigma * normal(random)));
     std::sort(outcomes.begin() + 1, outcomes.end());
-    outcomes[0] = outcomes[static_cast<std::size_t>(M / 2 + 1)];
+    outcomes[0] = outcomes[static_cast<std::size_t>(M) / 2 + 1];
     ExposureSession s = fit_data::Opened(outcomes);
     FitState state = fit_data::Activated(
         s, std::string(analysis::kTransformations[static_cast<std::size_t>(k) % 5 + 1].name));
