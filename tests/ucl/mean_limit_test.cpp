@@ -197,4 +197,20 @@ TEST_F(LandClick, EndsInEveryRandomSessionWithinABoundedNumberOfEvaluations) {
   EXPECT_GT(most, 200);
 }
 
+// Three outcomes of which two lie in the range: one degree of freedom passes the gate, and has the
+// widest intervals.
+TEST_F(LandClick, EndsWithOneDegreeOfFreedomToo) {
+  for (const double GSD : {1.05, 3.0, 30.0, 1000.0}) {
+    for (const double OELV : {0.8, 5.0}) {
+      ExposureSession s = Sample(3, 1, GSD, OELV, 99);
+      s.df = 1;
+      ucl::MeanStatistics(s);
+      LandWatch watch;
+      const LandResult result = LandCmb(s, watch);
+      EXPECT_TRUE(std::isfinite(result.UCL));
+      EXPECT_LE(watch.Evaluations, 750) << "GSD " << GSD << " OELV " << OELV;
+    }
+  }
+}
+
 }  // namespace
