@@ -175,6 +175,28 @@ std::vector<Entry> DistributionEntries() {
 
 std::vector<Entry> DistributionPeculiarities() {
   return {
+      {"StudentUpperInverse",
+       "df above 2",
+       "the stop holds the relative step against a millionth of t itself",
+       Measure::Relative,
+       {"student_truth.csv",
+        "true",
+        {"df", "argument"},
+        Renamed("df", [](double df, double p) { return StatFWinBAS::StudentUpperInverse(p, df); }),
+        Function("inverse", Between("df", 3, 1000))}},
+      {"NoncentralTUpper",
+       "p 0.5",
+       "the upper tail at K, where all other p give the lower one at K sqrt(f + 1)",
+       Measure::Absolute,
+       {"noncentral_t_upper.csv",
+        "value",
+        {"f", "p", "K"},
+        Noncentral,
+        [](const Row& row) { return row.Number("p") == 0.5; },
+        [](const Row& row) {
+          const double f = row.Number("f");
+          return 1 - StatFWinBAS::StudentUpper(f, row.Number("K") * std::sqrt(f + 1));
+        }}},
       {"NoncentralTUpper",
        "from f 201 on",
        "one normal tail in place of the series",

@@ -1,14 +1,29 @@
 #include "tools/accuracy/entries.h"
 
-namespace accuracy {
+#include <initializer_list>
 
-std::vector<Entry> Routines() {
+namespace accuracy {
+namespace {
+
+using Part = std::vector<Entry> (*)();
+
+std::vector<Entry> Joined(std::initializer_list<Part> parts) {
   std::vector<Entry> all;
-  for (auto* part : {NormalEntries, EstimatorEntries, DistributionEntries})
+  for (const Part part : parts)
     for (Entry& entry : part()) all.push_back(std::move(entry));
   return all;
 }
 
-std::vector<Entry> Peculiarities() { return DistributionPeculiarities(); }
+}  // namespace
+
+std::vector<Entry> Routines() {
+  return Joined({NormalEntries, DistributionEntries, EstimatorEntries, FitEntries,
+                 ComplianceEntries, MeanEntries, ComparisonEntries});
+}
+
+std::vector<Entry> Peculiarities() {
+  return Joined({DistributionPeculiarities, FitPeculiarities, CompliancePeculiarities,
+                 ComparisonPeculiarities});
+}
 
 }  // namespace accuracy

@@ -26,6 +26,14 @@ std::vector<Entry> Peculiarities();
 std::vector<Entry> NormalEntries();
 std::vector<Entry> EstimatorEntries();
 std::vector<Entry> DistributionEntries();
+std::vector<Entry> FitEntries();
+std::vector<Entry> ComplianceEntries();
+std::vector<Entry> ComparisonEntries();
+std::vector<Entry> MeanEntries();
+
 std::vector<Entry> DistributionPeculiarities();
+std::vector<Entry> FitPeculiarities();
+std::vector<Entry> CompliancePeculiarities();
+std::vector<Entry> ComparisonPeculiarities();
 
 }  // namespace accuracy

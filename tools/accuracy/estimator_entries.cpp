@@ -1,8 +1,7 @@
-#include <map>
-
 #include "session/exposure_session.h"
 #include "stats/estimators.h"
 #include "tools/accuracy/entries.h"
+#include "tools/accuracy/series.h"
 
 namespace accuracy {
 namespace {
@@ -47,20 +46,6 @@ Source Steps(const std::string& table, double from, double to, Estimator estimat
   return {table, "result", kInputs, Called(estimator), [from, to](const Row& row) {
             return row.Number("GSD") >= from && row.Number("GSD") <= to;
           }};
-}
-
-// The series of series_sorted.csv as a record, by name.
-const std::map<std::string, ExposureSession>& Series() {
-  static const std::map<std::string, ExposureSession> all = [] {
-    std::map<std::string, ExposureSession> series;
-    for (const Row& row : support::ReadTable("series_sorted.csv")) {
-      ExposureSession& s = series[row.Text("series")];
-      s.C.push_back(row.Number("C"));
-      s.M = static_cast<double>(s.C.size()) - 1;
-    }
-    return series;
-  }();
-  return all;
 }
 
 double Moment(const Row& row, double df, bool wantGM) {

@@ -13,7 +13,7 @@ How good each routine is. Written by `valkorin-accuracy`; a test measures every 
 tools/build release valkorin-accuracy && build/release/bin/valkorin-accuracy
 ```
 
-Two truths. The *error against truth* is that against the mathematical value, reckoned in arbitrary precision or by quadrature: it tells how good the method is. The *error against the steps* is that against the method's own steps, carried out independently in doubles: it tells whether the method is the one that is meant. A figure is the largest of all rows of the tables in `tests/data/`, relative (r) or absolute (a), and behind it stands the input that gave it. A dash stands where there is no such table.
+Two truths. The *error against truth* is that against the mathematical value, reckoned in arbitrary precision or by quadrature: it tells how good the method is. The *error against the steps* is that against the method's own steps, carried out independently in doubles: it tells whether the method is the one that is meant. A figure is the largest of all rows of the tables in `tests/data/`, relative (r) or absolute (a), rounded up, and behind it stands the input that gave it. A dash stands where there is no such table.
 
 ## Routines
 

@@ -61,7 +61,8 @@ Figure Largest(const Source& source, Measure measure) {
   Figure worst;
   for (const support::Row& row : Table(source.table)) {
     if (source.takes && !source.takes(row)) continue;
-    const std::optional<double> expected = NumberIn(row.Text(source.column));
+    const std::optional<double> expected =
+        source.expected ? source.expected(row) : NumberIn(row.Text(source.column));
     if (!expected) continue;
     const double error = ErrorOf(source, row, *expected, measure);
     if (worst.rows++ > 0 && error <= worst.error) continue;

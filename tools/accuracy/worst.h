@@ -17,7 +17,8 @@ struct Source {
   std::string column;  // what the routine should give
   std::vector<std::string> inputs;
   std::function<double(const support::Row&)> call;
-  std::function<bool(const support::Row&)> takes = {};  // all rows when empty
+  std::function<bool(const support::Row&)> takes = {};       // all rows when empty
+  std::function<double(const support::Row&)> expected = {};  // in place of the column when given
 };
 
 struct Figure {
