@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -15,6 +16,10 @@ using accuracy::Records;
 
 const std::string kRoot = VALKORIN_SOURCE_DIR;
 constexpr double kRatchet = 1.25;
+// The last digit of an exponential or a logarithm may differ between processors. Against truth that
+// is one digit among the errors; against the steps it is all there is.
+constexpr double kTruthDigit = 1e-15;
+constexpr double kStepsDigit = 1e-12;
 
 std::string FileText(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
@@ -23,10 +28,11 @@ std::string FileText(const std::string& path) {
 
 Records InTheTree() { return accuracy::ReadRecords(kRoot + "/tools/accuracy/recorded.csv"); }
 
-void ExpectNotWorse(const std::string& what, const Figure& now, const Figure& recorded) {
+void ExpectNotWorse(const std::string& what, const Figure& now, const Figure& recorded,
+                    double digit) {
   EXPECT_GT(now.rows, 0) << what << ": the table has no row for it";
   // More rows may show a larger error; then the figures are to be recorded anew.
-  EXPECT_LE(now.error, recorded.error * kRatchet)
+  EXPECT_LE(now.error, std::max(recorded.error * kRatchet, recorded.error + digit))
       << what << ": error " << now.error << " at " << now.where << ", recorded " << recorded.error
       << " at " << recorded.where;
 }
@@ -40,9 +46,9 @@ TEST(AccuracyPage, EveryFigureIsStillReached) {
       ASSERT_TRUE(recorded.contains(key)) << key;
       const accuracy::Recorded now = accuracy::MeasureEntry(entry);
       if (!entry.truth.table.empty())
-        ExpectNotWorse(key + " against truth", now.truth, recorded.at(key).truth);
+        ExpectNotWorse(key + " against truth", now.truth, recorded.at(key).truth, kTruthDigit);
       if (!entry.steps.table.empty())
-        ExpectNotWorse(key + " against the steps", now.steps, recorded.at(key).steps);
+        ExpectNotWorse(key + " against the steps", now.steps, recorded.at(key).steps, kStepsDigit);
     }
   }
 }
