@@ -18,7 +18,6 @@ struct Most {
   int sampleSize = 0;
   int studentPasses = 0;
   int landEvaluations = 0;  // of Land's probability, one whole button press
-  int landFaults = 0;       // sessions that a fault ended
   int landSearches = 0;     // sessions that were not refused
 };
 
@@ -28,7 +27,6 @@ Complaints PlayEn689(ExposureSession s, Most& most);
 Complaints PlaySampleSize(ExposureSession s, Most& most);
 Complaints PlayComparison(ExposureSession s);
 Complaints PlayJahr(ExposureSession s);
-// A fault may end Land's search, with the record as before: it is counted and no complaint.
 Complaints PlayLand(ExposureSession s, Most& most);
 
 }  // namespace sessions

@@ -76,7 +76,7 @@ TEST_P(RandomSessions, GoThroughLandsLimit) {
       VALKORIN_LAND_EVERY);
   Record("evaluations", most.landEvaluations);
   Record("searches", most.landSearches);
-  Record("faults", most.landFaults);
+  EXPECT_GT(most.landSearches, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Part, RandomSessions, ::testing::Range<std::uint64_t>(0, kParts));
