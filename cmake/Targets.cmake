@@ -30,7 +30,8 @@ function(valkorin_library folder)
   endforeach()
 endfunction()
 
-# valkorin_test(<folder> SOURCES ... USES ...): the GoogleTest program of a folder.
+# valkorin_test(<folder> SOURCES ... USES ...): the GoogleTest program of a folder, each test of it
+# a ctest.
 function(valkorin_test folder)
   cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
   add_executable(${folder}_tests ${arg_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/main.cpp)
@@ -43,4 +44,12 @@ function(valkorin_test folder)
     VALKORIN_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
   gtest_discover_tests(${folder}_tests TEST_PREFIX ${folder}. DISCOVERY_MODE PRE_TEST
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR})
+  # The whole program once more where numbers have a decimal comma.
+  foreach(locale de_DE nl_NL)
+    add_test(NAME locale.${locale}.${folder} COMMAND ${folder}_tests --gtest_brief=1)
+    set_tests_properties(locale.${locale}.${folder} PROPERTIES
+      ENVIRONMENT "LC_ALL=${locale}.UTF-8;VALKORIN_TEST_DECIMAL=,"
+      WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
+      SKIP_RETURN_CODE 77)
+  endforeach()
 endfunction()

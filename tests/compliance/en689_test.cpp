@@ -175,24 +175,24 @@ TEST_F(En689, ALimitBelowAllNumbersEndsTheSearchNear1E300th) {
 
 TEST_F(En689, AFractionOfNearlyAllReadsSoAlsoWhereItsConfidenceVanishes) {
   ExposureSession s = Session(10, 0.0001, 1.5, 1);
-  EXPECT_EQ(compliance::En689Test(s, Distance(s)).fraction.text, compliance::kFractionAll);
+  EXPECT_STREQ(compliance::En689Test(s, Distance(s)).fraction.text, compliance::kFractionAll);
   s = Session(6, 0.01, 1.5, 2);
-  EXPECT_EQ(compliance::En689Test(s, Distance(s)).fraction.text, compliance::kFractionAll);
+  EXPECT_STREQ(compliance::En689Test(s, Distance(s)).fraction.text, compliance::kFractionAll);
 }
 
 TEST_F(En689, AFractionOfNearlyNothingNeverReads100) {
   ExposureSession s = Session(3, 1, 1.5, 0.02);
-  EXPECT_EQ(compliance::En689Test(s, Distance(s)).fraction.text, compliance::kFractionNone);
+  EXPECT_STREQ(compliance::En689Test(s, Distance(s)).fraction.text, compliance::kFractionNone);
 }
 
 TEST_F(En689, TheTextsBeforeTheSearchGoByTheConfidenceOfTheCoverage) {
   ExposureSession s = Session(60, 0.001, 1.3, 100, 95, 95);
   const compliance::FractionSearch all = compliance::En689Fraction(s, Distance(s));
-  EXPECT_EQ(all.text, compliance::kFractionAll);
+  EXPECT_STREQ(all.text, compliance::kFractionAll);
   EXPECT_EQ(all.evaluations, 1);
   s.OELV = 1e-8;
   const compliance::FractionSearch none = compliance::En689Fraction(s, Distance(s));
-  EXPECT_EQ(none.text, compliance::kFractionNone);
+  EXPECT_STREQ(none.text, compliance::kFractionNone);
   EXPECT_EQ(none.evaluations, 1);
 }
 
