@@ -37,7 +37,8 @@ struct WilksLimit {
 // Upper tolerance limit GM GSD^g with g = sqrt(1 / (df + 1) + 1) StudentUpperInverse(1 - U / 100),
 // which the fraction U / 100 of the exposures stays below on average. U in percent, 0.01 to 99.99.
 // The test for a small limit comes first and takes the mirrored limit GM GSD^-g: a very large g
-// counts as small.
+// counts as small. With U below 50, g is negative: then a limit below 1E-300 has no clamp, and one
+// below all doubles is 0, which is also what its box shows.
 // Accuracy against arbitrary precision: ln(UTL / GM) is off by 1.8E-5 ln GSD at most (at df 5,
 // U 99.99, by the stopping rule of the deviate), from df 1001 on by 6E-13.
 WilksLimit WilksToleranceLimit(double GM, double GSD, double U, double df);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <sstream>
@@ -118,10 +119,44 @@ TEST(LandExactUCL, ForTenSamplesOfSpread1IsAsKnown) {
   EXPECT_NEAR(limit.UCL, 2 + 0.5 + 1.034, 0.0005);
 }
 
-TEST(LandExactUCL, ARootBeyondTheFirstIntervalIsFoundAfterItMoves) {
-  const LandLimit limit = LandExactUCL(0.5, 1, 0.02, 0, 99.75);
-  EXPECT_GT(limit.C, 0);
-  EXPECT_NEAR(UCLBAS::LandProbability(1, 0.02, limit.C), 0.0025, 1e-7);
+// The interval that the search of the limit at confidence 95 begins with.
+std::array<double, 2> FirstInterval(double nu, double s) {
+  LandWatch watch;
+  LandExactUCL(0.5, nu, s, 0, 95, watch);
+  return watch.InitTxb;
+}
+
+// The smallest samples have the largest factors.
+TEST(LandExactUCL, UpToFiveDegreesOfFreedomTheUpperEndIsWidenedByExp6LessNu) {
+  for (const double nu : {2.0, 3.0, 4.0, 5.0}) {
+    const double plain = 10 * 3.0 * 3.0 / std::sqrt(nu);
+    EXPECT_DOUBLE_EQ(FirstInterval(nu, 3)[1], plain * std::exp(6 - nu)) << "nu " << nu;
+  }
+  for (const double nu : {6.0, 7.0, 99.0})
+    EXPECT_EQ(FirstInterval(nu, 3)[1], 10 * 3.0 * 3.0 / std::sqrt(nu)) << "nu " << nu;
+}
+
+TEST(LandExactUCL, TheLowerEndFollowsTheSpreadTwiceAboveASpreadOf1) {
+  const double above = std::nextafter(1.0, 2);
+  EXPECT_EQ(FirstInterval(9, 1)[0], -7.5 / 3);
+  EXPECT_NEAR(FirstInterval(9, above)[0], -5 / 3.0, 1e-14);
+  EXPECT_DOUBLE_EQ(FirstInterval(9, 2)[0], -14 / 3.0);
+}
+
+TEST(LandExactUCL,
+     ARootBeyondTheFirstIntervalIsSoughtInTenfoldOnesOfWhichOnlyTheNewEndIsEvaluated) {
+  LandWatch watch;
+  long atFirstInterval = -1;
+  watch.Report = [&](const LandWatch& now, LandSign) {
+    if (atFirstInterval < 0) atFirstInterval = now.Evaluations;
+  };
+  const LandLimit limit = LandExactUCL(0.5, 9, 0.001, 0, 95, watch);
+  // From (x1, x2) by way of (x2, 10 x2) and (10 x2, 100 x2) to (100 x2, 1000 x2).
+  const double x2 = 10 * 0.001 * 0.001 / 3;
+  EXPECT_DOUBLE_EQ(watch.InitTxb[0], 100 * x2);
+  EXPECT_DOUBLE_EQ(watch.InitTxb[1], 1000 * x2);
+  EXPECT_EQ(atFirstInterval, 2 + 3) << "two ends, and three more for three moves";
+  EXPECT_NEAR(UCLBAS::LandProbability(9, 0.001, limit.C), 0.05, 1e-6);
 }
 
 TEST(LandExactUCL, AVeryLargeLimitStaysANumberOnTheLogarithmicScale) {
