@@ -1,9 +1,11 @@
 #include <cmath>
+#include <cstdint>
 
 #include "tools/accuracy/entries.h"
 #include "ucl/jahr.h"
 #include "ucl/land_exact.h"
 #include "ucl/land_probability.h"
+#include "ucl/land_search.h"
 #include "ucl/mean_limit.h"
 
 namespace accuracy {
@@ -17,6 +19,102 @@ ucl::JahrLimit Jahr(const Row& row) {
 }
 
 const std::vector<std::string> kJahr = {"df", "AMu", "GSD", "OELV", "D"};
+
+double JahrLimit(const Row& row) { return Jahr(row).UCL; }
+double JahrExceedance(const Row& row) { return Jahr(row).PercEx; }
+
+// Whether the deviate is one of those that converge only linearly.
+bool IsOddAbove3(const Row& row) {
+  const double df = row.Number("df");
+  return df > 3 && df <= 1000 && std::fmod(df, 2) == 1;
+}
+
+Entry JahrEntry(const std::string& domain, bool odd) {
+  const auto takes = [odd](const Row& row) { return IsOddAbove3(row) == odd; };
+  return {"JahrUCL: UCL",
+          domain + ", natural logarithm",
+          "`StudentUpperInverse`, Jahr (1987)",
+          Measure::Absolute,
+          {"jahr_truth.csv", "UCL", kJahr, JahrLimit, takes},
+          {"jahr.csv", "UCL", kJahr, JahrLimit, takes}};
+}
+
+// The arguments of the table of the parts.
+double Part(const Row& row, int argument) {
+  return row.Number(std::string("a") + static_cast<char>('0' + argument));
+}
+
+std::function<bool(const Row&)> PartsOf(const std::string& routine) {
+  return [routine](const Row& row) { return row.Text("routine") == routine; };
+}
+
+Entry DensityEntry() {
+  return {"LandIntegrand",
+          "above the least double of full precision",
+          "closed form, Land (1975)",
+          Measure::Relative,
+          {"land_truth.csv",
+           "true",
+           {"nu", "a2", "a3", "a4", "a5"},
+           [](const Row& row) {
+             return UCLBAS::LandIntegrand(row.Number("nu"), Part(row, 2), Part(row, 3),
+                                          Part(row, 4), Part(row, 5));
+           },
+           [](const Row& row) {
+             return row.Text("function") == "LandIntegrand" && row.Number("true") >= 1e-300;
+           }},
+          {"land_parts.csv",
+           "value",
+           {"a1", "a2", "a3", "a4", "a5"},
+           [](const Row& row) {
+             return UCLBAS::LandIntegrand(Part(row, 1), Part(row, 2), Part(row, 3), Part(row, 4),
+                                          Part(row, 5));
+           },
+           PartsOf("LandIntegrand")}};
+}
+
+double IntegralOfParts(const Row& row) {
+  double result = 0;
+  UCLBAS::LandSimpson(Part(row, 1), Part(row, 2), Part(row, 3), Part(row, 4), Part(row, 5),
+                      Part(row, 6), result);
+  return result;
+}
+
+double IntegralOfTruth(const Row& row) {
+  double result = 0;
+  UCLBAS::LandSimpson(row.Number("a"), row.Number("b"), row.Number("nu"), row.Number("Aq"),
+                      row.Number("Yq"), row.Number("Zq"), result);
+  return result;
+}
+
+Entry IntegralEntry() {
+  return {"LandSimpson",
+          "to or from the peak",
+          "adaptive Simpson rule, Lyness (1969)",
+          Measure::Absolute,
+          {"land_integral_truth.csv", "true", {"nu", "Aq", "a", "b"}, IntegralOfTruth},
+          {"land_parts.csv",
+           "value",
+           {"a1", "a2", "a3", "a4", "a5", "a6"},
+           IntegralOfParts,
+           PartsOf("LandSimpson")}};
+}
+
+// Land's parts of few degrees of freedom have no table of the steps. The row that misses the peak
+// shows the plain steps.
+Source ProbabilitySteps(double from, double to) {
+  if (to < 3) return {};
+  return {"land_parts.csv",
+          "value",
+          {"a1", "a2", "a3"},
+          [](const Row& row) {
+            return UCLBAS::LandProbability(Part(row, 1), Part(row, 2), Part(row, 3));
+          },
+          [from, to](const Row& row) {
+            return row.Text("routine") == "LandProbability" && Part(row, 1) >= from &&
+                   Part(row, 1) <= to && !row.Text("note").starts_with("hole");
+          }};
+}
 
 Entry ProbabilityEntry(const std::string& domain, double from, double to) {
   return {"LandProbability",
@@ -32,26 +130,62 @@ Entry ProbabilityEntry(const std::string& domain, double from, double to) {
            [from, to](const Row& row) {
              return row.Text("function") == "LandProbability" && row.Number("nu") >= from &&
                     row.Number("nu") <= to;
-           }}};
+           }},
+          ProbabilitySteps(from, to)};
 }
 
-double Limit(const Row& row) {
+// One search: the root, or the status where the interval does not hold it.
+double Sought(const Row& row) {
+  double x1 = Part(row, 3), x2 = Part(row, 4), f1 = 0, f2 = 0, C = 0;
+  std::int16_t status = 0;
+  UCLBAS::LandRootSearch(Part(row, 1), Part(row, 2), x1, x2, f1, f2, Part(row, 5), C, status);
+  return status == 0 ? C : status;
+}
+
+Entry SearchEntry() {
+  return {"LandRootSearch",
+          "one interval: C, or the status where it does not hold the root",
+          "bracketing secant, in the manner of Dekker (1969) and Brent (1973)",
+          Measure::Absolute,
+          {},
+          {"land_parts.csv",
+           "value",
+           {"a1", "a2", "a3", "a4", "a5"},
+           Sought,
+           PartsOf("LandRootSearch")}};
+}
+
+const std::vector<std::string> kLand = {"nu", "s", "mean", "confidence"};
+
+UCLBAS::LandLimit Limit(const Row& row) {
   return UCLBAS::LandExactUCL(0.5, row.Number("nu"), row.Number("s"), row.Number("mean"),
-                              row.Number("confidence"))
-      .UCL;
+                              row.Number("confidence"));
+}
+double Root(const Row& row) { return Limit(row).C; }
+double LimitUCL(const Row& row) { return Limit(row).UCL; }
+
+std::function<bool(const Row&)> NuBetween(double from, double to) {
+  return [from, to](const Row& row) { return row.Number("nu") >= from && row.Number("nu") <= to; };
+}
+
+Entry RootEntry(const std::string& domain, double from, double to) {
+  const auto takes = NuBetween(from, to);
+  return {"LandRootSearch",
+          domain + ", the searches of a limit: C",
+          "the same, in the intervals of `LandExactUCL`",
+          Measure::Relative,
+          {"land_cases.csv", "true_C", kLand, Root, takes},
+          {"land_cases.csv", "fixed_C", kLand, Root, takes}};
 }
 
 Entry LimitEntry(const std::string& domain, double from, double to) {
-  const std::vector<std::string> inputs = {"nu", "s", "mean", "confidence"};
-  const auto takes = [from, to](const Row& row) {
-    return row.Number("nu") >= from && row.Number("nu") <= to;
-  };
+  const auto takes = NuBetween(from, to);
   return {"LandExactUCL",
-          domain,
-          "bracketing secant on `LandProbability`, Land (1975)",
+          domain + ", natural logarithm",
+          "`LandRootSearch` on `LandProbability`, Land (1975)",
           Measure::Absolute,
-          {"land_cases.csv", "true_UCL", inputs, Limit, takes},
-          {"land_cases.csv", "fixed_UCL", inputs, Limit, takes}};
+          {"land_cases.csv", "true_UCL", kLand, LimitUCL, takes},
+          {"land_cases.csv", "fixed_UCL", kLand, LimitUCL, takes}};
 }
 
 ucl::LandResult Pressed(const Row& row) {
@@ -83,25 +217,27 @@ Entry PressEntry(const std::string& what, const std::string& domain, const std::
 
 std::vector<Entry> MeanEntries() {
   return {
-      {"JahrUCL: UCL",
-       "natural logarithm",
-       "`StudentUpperInverse`, Jahr (1987)",
-       Measure::Absolute,
-       {},
-       {"jahr.csv", "UCL", kJahr, [](const Row& row) { return Jahr(row).UCL; }}},
+      JahrEntry("df odd from 5 to 999", true),
+      JahrEntry("every other df", false),
       {"JahrUCL: exceedance",
        "percent",
        "`StudentUpper`, Jahr (1987)",
        Measure::Absolute,
-       {},
-       {"jahr.csv", "PercEx", kJahr, [](const Row& row) { return Jahr(row).PercEx; }}},
+       {"jahr_truth.csv", "PercEx", kJahr, JahrExceedance},
+       {"jahr.csv", "PercEx", kJahr, JahrExceedance}},
+      DensityEntry(),
+      IntegralEntry(),
       ProbabilityEntry("nu 1", 1, 1),
       ProbabilityEntry("nu 2", 2, 2),
       ProbabilityEntry("nu 3 to 5", 3, 5),
       ProbabilityEntry("nu above 5", 6, 1e9),
-      LimitEntry("nu 1, natural logarithm", 1, 1),
-      LimitEntry("nu 2, natural logarithm", 2, 2),
-      LimitEntry("nu above 2, natural logarithm", 3, 1e9),
+      SearchEntry(),
+      RootEntry("nu 1", 1, 1),
+      RootEntry("nu 2", 2, 2),
+      RootEntry("nu above 2", 3, 1e9),
+      LimitEntry("nu 1", 1, 1),
+      LimitEntry("nu 2", 2, 2),
+      LimitEntry("nu above 2", 3, 1e9),
       PressEntry("A", "percent", "A", [](const ucl::LandResult& result) { return result.A; }),
       PressEntry("UCL", "natural logarithm", "UCL",
                  [](const ucl::LandResult& result) { return result.UCL; }),
