@@ -30,6 +30,7 @@ const Field kFields[] = {
     {"LimitsOk", &S::LimitsOk},
     {"RawIncomplete", &S::RawIncomplete},
     {"ModifyMode", &S::ModifyMode},
+    {"DeveloperMode", &S::DeveloperMode},
     {"InputState", &S::InputState},
     {"CurrentTab", &S::CurrentTab},
     {"TestTag", &S::TestTag},

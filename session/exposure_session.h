@@ -16,6 +16,7 @@ struct ExposureSession {
   bool LimitsOk = false;
   bool RawIncomplete = false;
   bool ModifyMode = false;
+  bool DeveloperMode = false;   // the plot screen offers its other kinds and its inner values
   std::int16_t InputState = 0;  // 0 accepted, 1 empty, 2 zero or no number, 3 small, 4 large
   std::string CurrentTab;       // caption of the tab of the shown screen
   std::string TestTag;          // "", "Ap", "Ex", "Le", "Tu", "Wi"
