@@ -19,4 +19,14 @@ class OneFile final : public screen::FileDialog {
   std::string Ask(const Request&) override { return path; }
 };
 
+class StandingClock final : public screen::Clock {
+ public:
+  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+};
+
+class NoPrinter final : public screen::PrinterSurface {
+ public:
+  bool PrintPage(const screen::DrawingRecord&) override { return false; }
+};
+
 }  // namespace bench

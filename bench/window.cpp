@@ -34,7 +34,9 @@ int StartOnly(int argc, char** argv) {
   ui::PrepareToolkit();
   bench::SilentMessageBox messageBox;
   bench::OneFile fileDialog;
-  ui::Application application(messageBox, fileDialog);
+  bench::StandingClock clock;
+  bench::NoPrinter printer;
+  ui::Application application({messageBox, fileDialog, clock, printer});
   application.Start();
   Paint(application);
   _exit(application.Window().isVisible() ? 0 : 1);
@@ -63,7 +65,9 @@ BENCHMARK(StartToFirstScreen)->UseManualTime()->Unit(benchmark::kMillisecond)->I
 struct Desktop {
   bench::SilentMessageBox messageBox;
   bench::OneFile fileDialog;
-  ui::Application application{messageBox, fileDialog};
+  bench::StandingClock clock;
+  bench::NoPrinter printer;
+  ui::Application application{{messageBox, fileDialog, clock, printer}};
 
   Desktop() {
     application.Start();

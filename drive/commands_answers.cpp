@@ -117,6 +117,10 @@ void ExpectNoBox(Play& play, std::string) {
   if (!boxes.empty()) throw Failure("met " + Line(boxes.front()));
 }
 
+void Printed(Play& play, std::string) {
+  for (const std::string& line : play.printer.Take()) play.Say("printed " + Quoted(line));
+}
+
 void DumpTabs(Play& play, const screen::TabStrip& strip) {
   const QTabBar& shown = play.stage.Strip();
   for (std::size_t i = 0; i < strip.tabs.size(); ++i) {
@@ -160,6 +164,7 @@ const CommandTable& AnswerCommands() {
       {"box", Box},
       {"expect-box", ExpectBox},
       {"expect-no-box", ExpectNoBox},
+      {"printed", Printed},
       {"dump", Dump},
   };
   return table;

@@ -25,11 +25,13 @@ void ChoosePlatform() {
 int PlayAll(std::istream& in) {
   drive::ScriptedMessageBox boxes;
   drive::ScriptedFileDialog files;
-  ui::Application application(boxes, files);
+  drive::StandingClock clock;
+  drive::ScriptedPrinter printer;
+  ui::Application application({boxes, files, clock, printer});
   drive::Stage stage(application);
   application.Start();
   stage.Open();
-  drive::Play play{stage, boxes, files, std::cout};
+  drive::Play play{stage, boxes, files, printer, std::cout};
   drive::Script script(in);
   return drive::PlayScript(play, script);
 }

@@ -15,6 +15,7 @@ struct Play {
   Stage& stage;
   ScriptedMessageBox& boxes;
   ScriptedFileDialog& files;
+  ScriptedPrinter& printer;
   std::ostream& out;
 
   void Say(const std::string& line) { out << line << std::endl; }

@@ -98,6 +98,14 @@ std::string ScriptedFileDialog::Ask(const Request&) {
 
 Answer AnswerByName(const std::string& name) {
   for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
+bool ScriptedPrinter::PrintPage(const screen::DrawingRecord& drawing) {
+  for (const auto& item : drawing.Items())
+    if (const auto* text = std::get_if<screen::DrawnText>(&item)) lines_.push_back(text->text);
+  return true;
+}
+
+std::vector<std::string> ScriptedPrinter::Take() { return std::exchange(lines_, {}); }
+
     if (name == Name(answer)) return answer;
   throw Failure("no such answer: " + Quoted(name));
 }

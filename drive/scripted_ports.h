@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "screen/drawing.h"
 #include "screen/ports.h"
 
 namespace drive {
@@ -38,6 +39,24 @@ class ScriptedFileDialog final : public screen::FileDialog {
 
  private:
   std::deque<std::string> queue_;
+};
+
+// Stands still, so that what a script shows is the same at every playing.
+class StandingClock final : public screen::Clock {
+ public:
+  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+};
+
+// Keeps the pages instead of printing them.
+class ScriptedPrinter final : public screen::PrinterSurface {
+ public:
+  bool PrintPage(const screen::DrawingRecord& drawing) override;
+
+  // The texts on the pages since the last call, one a line.
+  std::vector<std::string> Take();
+
+ private:
+  std::vector<std::string> lines_;
 };
 
 // The answer with that name, or Failure.

@@ -38,6 +38,7 @@ void ApplyTo(Control& control) {
       break;
     case Kind::ComboBox:
     case Kind::Label:
+    case Kind::PictureLabel:
     case Kind::CommandButton:
     case Kind::Frame:
     case Kind::CheckBox:
@@ -48,6 +49,8 @@ void ApplyTo(Control& control) {
     case Kind::TabStrip:  // its tabs bring their texts when they are built
     case Kind::Grid:
     case Kind::UpDown:
+    case Kind::ScrollBar:
+    case Kind::Picture:
       break;
   }
 }

@@ -24,6 +24,9 @@ enum class Kind {
   TabStrip,
   Grid,
   UpDown,
+  ScrollBar,
+  Picture,
+  PictureLabel,  // a text that its screen draws in a picture; it has no widget
   CommonDialog
 };
 
@@ -53,6 +56,7 @@ struct Control : ControlState {
   Control(Form& form, Kind kind, std::string name);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
+  int value = 0;                 // of a scroll bar, 0 to 100
 
   const Kind kind;
   const std::string name;  // DimLbl(0) carries its index
@@ -85,6 +89,7 @@ struct Control : ControlState {
 };
 
 struct Tab {
+  Handler Change;  // the user moved the scroll bar, whose place is `value`, or typed in the field
   std::string key;
   std::string caption;
   std::string tip;

@@ -30,6 +30,9 @@ struct TextStyle {
   bool operator==(const TextStyle&) const = default;
 };
 
+// From one line of a text to the next, in font sizes.
+inline constexpr double kLineSpacing = 1.2;
+
 class DrawSurface {
  public:
   virtual ~DrawSurface() = default;
@@ -42,6 +45,61 @@ class DrawSurface {
   // `label` names the text on the screen; lines are separated by CR. Family Arial.
   virtual void Text(Point at, const std::string& text, const TextStyle& style,
                     const std::string& label) = 0;
+};
+
+struct DrawnLine {
+  Point from;
+  Point to;
+  Colour colour;
+  double width = 0;
+  bool operator==(const DrawnLine&) const = default;
+};
+
+struct DrawnDot {
+  Point at;
+  Colour colour;
+  bool operator==(const DrawnDot&) const = default;
+};
+
+struct DrawnText {
+  Point at;
+  std::string text;
+  TextStyle style;
+  std::string label;
+  bool operator==(const DrawnText&) const = default;
+};
+
+// A surface that keeps what is drawn, in order, so that it can be drawn again on any other one.
+class DrawingRecord final : public DrawSurface {
+ public:
+  using Item = std::variant<DrawnLine, DrawnDot, DrawnText>;
+
+  DrawingRecord(double scaleWidth, double scaleHeight) : width_(scaleWidth), height_(scaleHeight) {}
+
+  double ScaleWidth() const override { return width_; }
+  double ScaleHeight() const override { return height_; }
+  void Clear() override;
+  void Line(Point from, Point to, Colour colour, double width) override;
+  void Dot(Point at, Colour colour) override;
+  void Text(Point at, const std::string& text, const TextStyle& style,
+            const std::string& label) override;
+
+  // What was drawn keeps its place; whoever drew it draws it again for the new size.
+  void SetScale(double scaleWidth, double scaleHeight);
+
+  const std::vector<Item>& Items() const { return items_; }
+  // Another number after each change, so that a view knows when to paint.
+  int Revision() const { return revision_; }
+  // Draws the items on `surface`, which must have this record's scale.
+  void ReplayOn(DrawSurface& surface) const;
+
+ private:
+  void Add(Item item);
+
+  double width_;
+  double height_;
+  int revision_ = 0;
+  std::vector<Item> items_;
 };
 
 }  // namespace screen

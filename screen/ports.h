@@ -2,12 +2,15 @@
 
 #include <string>
 
+#include "screen/clock.h"
+
 // What the screens need of the system around them. The window toolkit has the real ones, tests
 // have recording ones.
 namespace screen {
 
 struct Form;
 
+class DrawingRecord;
 enum class Icon { None, Exclamation, Question, Information };
 enum class Buttons { Ok, OkCancel, YesNo };
 enum class Answer { Ok, Cancel, Yes, No };
@@ -47,11 +50,31 @@ class Surface {
   // Shows the present state of `form` and repaints it before it returns.
   virtual void Repaint(Form& form) = 0;
 };
+  // The same for one control of it, cheap enough for every step of a search.
+  virtual void RepaintControl(Form& form, Control&) { Repaint(form); }
+};
+
+class PictureFile {
+ public:
+  virtual ~PictureFile() = default;
+  // Writes `drawing` as a bitmap beside the file first and then renames it over it, so that the
+  // old file survives a failure. Returns false, with nothing changed, on any failure.
+  virtual bool Write(const std::string& path, const DrawingRecord& drawing) = 0;
+};
+
+class PrinterSurface {
+ public:
+  virtual ~PrinterSurface() = default;
+  // Prints `drawing` on a page of its own, as large as the page allows. False when it can't.
+  virtual bool PrintPage(const DrawingRecord& drawing) = 0;
 
 struct Ports {
   MessageBox& messageBox;
   FileDialog& fileDialog;
   Surface& surface;
 };
+  Clock& clock;
+  PictureFile& pictureFile;
+  PrinterSurface& printer;
 
 }  // namespace screen

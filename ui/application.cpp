@@ -5,6 +5,7 @@
 
 #include <clocale>
 
+#include "ui/picture_file.h"
 #include "ui/splash.h"
 #include "ui/text.h"
 
@@ -49,8 +50,10 @@ std::vector<std::string> DataFolders() {
 }  // namespace
 
 struct Application::Parts {
-  Parts(screen::MessageBox& messageBox, screen::FileDialog& fileDialog)
-      : box(messageBox), ports{box, fileDialog, surface}, program(ports, DataFolders()) {
+  explicit Parts(const Surroundings& around)
+      : box(around.messageBox),
+        ports{box, around.fileDialog, surface, around.clock, pictureFile, around.printer},
+        program(ports, DataFolders()) {
     window = std::make_unique<MainWindow>(program, ports);
     surface.SetWindow(window.get());
     box.SetWindow(window.get());
@@ -61,10 +64,10 @@ struct Application::Parts {
   screen::Ports ports;
   start::Program program;
   std::unique_ptr<MainWindow> window;
+  PictureFile pictureFile;
 };
 
-Application::Application(screen::MessageBox& messageBox, screen::FileDialog& fileDialog)
-    : parts_(std::make_unique<Parts>(messageBox, fileDialog)) {}
+Application::Application(const Surroundings& around) : parts_(std::make_unique<Parts>(around)) {}
 
 Application::~Application() = default;
 

@@ -8,11 +8,18 @@
 
 namespace ui {
 
-// The program in its window, with the message boxes and file dialogs that the caller gives. The
-// toolkit's application object must exist before it and after it.
+// What the caller of the program gives it of the world outside; it must outlive the program.
+struct Surroundings {
+  screen::MessageBox& messageBox;
+  screen::FileDialog& fileDialog;
+  screen::Clock& clock;
+  screen::PrinterSurface& printer;
+};
+
+// The program in its window. The toolkit's application object must exist before it and after it.
 class Application {
  public:
-  Application(screen::MessageBox& messageBox, screen::FileDialog& fileDialog);
+  explicit Application(const Surroundings& around);
   ~Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;

@@ -1,15 +1,19 @@
 #include <QApplication>
 
 #include "ui/application.h"
+#include "ui/clock.h"
 #include "ui/file_dialog.h"
 #include "ui/message_box.h"
+#include "ui/printer.h"
 
 int main(int argc, char** argv) {
   QApplication toolkit(argc, argv);
   ui::PrepareToolkit();
   ui::MessageBox messageBox;
   ui::FileDialog fileDialog;
-  ui::Application application(messageBox, fileDialog);
+  ui::Clock clock;
+  ui::Printer printer;
+  ui::Application application({messageBox, fileDialog, clock, printer});
   application.Start();
   return QApplication::exec();
 }

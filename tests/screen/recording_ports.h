@@ -24,11 +24,26 @@ struct Surface : screen::Surface {
   void Repaint(screen::Form& form) override { repainted.push_back(form.name); }
 };
 
+struct Clock : screen::Clock {
+  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+};
+
+struct PictureFile : screen::PictureFile {
+  bool Write(const std::string&, const screen::DrawingRecord&) override { return false; }
+};
+
+struct Printer : screen::PrinterSurface {
+  bool PrintPage(const screen::DrawingRecord&) override { return false; }
+};
+
 struct Ports {
   MessageBox messageBox;
   FileDialog fileDialog;
   Surface surface;
-  screen::Ports ports{messageBox, fileDialog, surface};
+  Clock clock;
+  PictureFile pictureFile;
+  Printer printer;
+  screen::Ports ports{messageBox, fileDialog, surface, clock, pictureFile, printer};
 };
 
 }  // namespace recording

@@ -75,14 +75,11 @@ TEST(Start, AMissingCoefficientFileDoesNotStopIt) {
   const fs::path empty = support::WriteTemporary("here", "") + "-is-no-file";
   fs::create_directories(empty);
   fs::current_path(empty);
-  support::RecordingBox box;
-  support::RecordingDialog dialog;
-  support::CountingSurface surface;
-  screen::Ports ports{box, dialog, surface};
-  start::Program program(ports, {(empty / "nowhere").string()});
+  support::RecordingPorts around;
+  start::Program program(around.ports, {(empty / "nowhere").string()});
   program.Start();
   fs::current_path(before);
-  EXPECT_TRUE(box.shown.empty());
+  EXPECT_TRUE(around.box.shown.empty());
   EXPECT_EQ(program.FormByName("BasisForm")->Find("BoodschLbl")->text, kQuestion);
   EXPECT_EQ(program.Session().CurrentTab, "Start");
 }

@@ -31,6 +31,16 @@ std::string RecordingDialog::Ask(const Request& request) {
   return Next(answers, std::string());
 }
 
+bool RecordingPictures::Write(const std::string& path, const screen::DrawingRecord& drawing) {
+  if (!fails) written.push_back({path, drawing});
+  return !fails;
+}
+
+bool RecordingPrinter::PrintPage(const screen::DrawingRecord& drawing) {
+  if (!fails) pages.push_back(drawing);
+  return !fails;
+}
+
 ProgramSession::ProgramSession() : program(ports, {VALKORIN_SOURCE_DIR "/data"}) {
   program.Start();
 }
@@ -47,18 +57,37 @@ screen::Control& ProgramSession::At(const std::string& name) {
 
 void ProgramSession::Type(const std::string& name, const std::string& text) {
   screen::Control& field = At(name);
-  screen::Guarded(ports, field.GotFocus);
-  field.text = text;
-  field.touched = true;
+  TypeInto(field, text);
+  if (TabStays(field)) return;
   screen::Guarded(ports, field.LostFocus);
   field.touched = false;
 }
 
-void ProgramSession::Enter(const std::string& name, const std::string& text) {
+void ProgramSession::TypeAndClickAway(const std::string& name, const std::string& text) {
   screen::Control& field = At(name);
+  TypeInto(field, text);
+  screen::Guarded(ports, field.LostFocus);
+  field.touched = false;
+}
+
+void ProgramSession::TypeInto(screen::Control& field, const std::string& text) {
   screen::Guarded(ports, field.GotFocus);
   field.text = text;
   field.touched = true;
+  screen::Guarded(ports, field.Change);
+}
+
+bool ProgramSession::TabStays(screen::Control& field) {
+  if (!field.TabKey) return false;
+  Shown().focusWanted = nullptr;
+  screen::Guarded(ports, field.TabKey);
+  field.touched = false;
+  return Shown().focusWanted == &field;
+}
+
+void ProgramSession::Enter(const std::string& name, const std::string& text) {
+  screen::Control& field = At(name);
+  TypeInto(field, text);
   screen::Guarded(ports, field.EnterKey);
   field.touched = false;
 }
@@ -66,7 +95,7 @@ void ProgramSession::Enter(const std::string& name, const std::string& text) {
 void ProgramSession::Visit(const std::string& name) {
   screen::Control& field = At(name);
   screen::Guarded(ports, field.GotFocus);
-  screen::Guarded(ports, field.LostFocus);
+  if (!TabStays(field)) screen::Guarded(ports, field.LostFocus);
 }
 
 void ProgramSession::Click(const std::string& name) {

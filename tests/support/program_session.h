@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "screen/drawing.h"
 #include "screen/ports.h"
 #include "start/program.h"
 
@@ -33,9 +34,46 @@ class CountingSurface final : public screen::Surface {
   int repaints = 0;
 };
 
+// A clock that stands still.
+class FixedClock final : public screen::Clock {
+ public:
+  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+};
+
+// Keeps the pictures that were to be written, or refuses them all.
+class RecordingPictures final : public screen::PictureFile {
+ public:
+  struct Written {
+    std::string path;
+    screen::DrawingRecord drawing;
+  };
+  bool Write(const std::string& path, const screen::DrawingRecord& drawing) override;
+  std::vector<Written> written;
+  bool fails = false;
+};
+
+// Keeps the printed pages, or has no paper.
+class RecordingPrinter final : public screen::PrinterSurface {
+ public:
+  bool PrintPage(const screen::DrawingRecord& drawing) override;
+  std::vector<screen::DrawingRecord> pages;
+  bool fails = false;
+};
+
+// The ports of a program without a window.
+struct RecordingPorts {
+  RecordingBox box;
+  RecordingDialog dialog;
+  CountingSurface surface;
+  FixedClock clock;
+  RecordingPictures pictures;
+  RecordingPrinter printer;
+  screen::Ports ports{box, dialog, surface, clock, pictures, printer};
+};
+
 // The whole program without a window, and the user's hands: what a binder does with the events of
 // a toolkit, done by name.
-class ProgramSession {
+class ProgramSession : public RecordingPorts {
  public:
   // Starts with the delivered coefficient files.
   ProgramSession();
@@ -46,11 +84,13 @@ class ProgramSession {
   const std::string& Text(const std::string& name) { return At(name).text; }
   ExposureSession& Record() { return program.Session(); }
 
-  // Focuses the field, replaces its text, and leaves it.
+  // Focuses the field, replaces its text, and leaves it by the Tab key.
   void Type(const std::string& name, const std::string& text);
+  // The same, left by the mouse.
+  void TypeAndClickAway(const std::string& name, const std::string& text);
   // The same, ended by the Enter key inside the field.
   void Enter(const std::string& name, const std::string& text);
-  // Focuses the field and leaves it untouched.
+  // Focuses the field and leaves it untouched by the Tab key.
   void Visit(const std::string& name);
   void Click(const std::string& name);
   void Pick(const std::string& name, const std::string& text);
@@ -69,11 +109,12 @@ class ProgramSession {
   // Title and text of the last message box; throws when none was shown.
   const screen::Message& LastBox() const;
 
-  RecordingBox box;
-  RecordingDialog dialog;
-  CountingSurface surface;
-  screen::Ports ports{box, dialog, surface};
   start::Program program;
+
+ private:
+  void TypeInto(screen::Control& field, const std::string& text);
+  // What the Tab key does in a field that gives it a meaning; true when the focus stays.
+  bool TabStays(screen::Control& field);
 };
 
 // A file in the test's temporary folder with these bytes; its path.

@@ -1,0 +1,14 @@
+#include "ui/clock.h"
+
+#include <QDateTime>
+
+namespace ui {
+
+screen::DateTime Clock::Now() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+}  // namespace ui

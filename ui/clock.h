@@ -1,0 +1,13 @@
+#pragma once
+
+#include "screen/clock.h"
+
+namespace ui {
+
+// The system's clock.
+class Clock final : public screen::Clock {
+ public:
+  screen::DateTime Now() const override;
+};
+
+}  // namespace ui

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPagedPaintDevice>
+
+#include "screen/ports.h"
+
+namespace ui {
+
+// The system's current printer.
+class Printer final : public screen::PrinterSurface {
+ public:
+  bool PrintPage(const screen::DrawingRecord& drawing) override;
+};
+
+// Prints the drawing on one page of `device`, lying when the drawing is wider than high.
+bool PrintOn(QPagedPaintDevice& device, const screen::DrawingRecord& drawing);
+
+}  // namespace ui
