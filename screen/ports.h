@@ -8,6 +8,7 @@
 // have recording ones.
 namespace screen {
 
+struct Control;
 struct Form;
 
 class DrawingRecord;
