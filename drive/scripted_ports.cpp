@@ -96,8 +96,6 @@ std::string ScriptedFileDialog::Ask(const Request&) {
   return path;
 }
 
-Answer AnswerByName(const std::string& name) {
-  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
 bool ScriptedPrinter::PrintPage(const screen::DrawingRecord& drawing) {
   for (const auto& item : drawing.Items())
     if (const auto* text = std::get_if<screen::DrawnText>(&item)) lines_.push_back(text->text);
@@ -106,6 +104,8 @@ bool ScriptedPrinter::PrintPage(const screen::DrawingRecord& drawing) {
 
 std::vector<std::string> ScriptedPrinter::Take() { return std::exchange(lines_, {}); }
 
+Answer AnswerByName(const std::string& name) {
+  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
     if (name == Name(answer)) return answer;
   throw Failure("no such answer: " + Quoted(name));
 }

@@ -39,6 +39,15 @@ struct Colour {
 
 using Handler = std::function<void()>;
 
+// Where a control stands within its parent, in twips.
+struct Place {
+  double left = 0;
+  double top = 0;
+  double width = 0;
+  double height = 0;
+  bool operator==(const Place&) const = default;
+};
+
 // What of a control can be seen. A control's handlers never run because of a change made here.
 struct ControlState {
   std::string text;  // caption, or the text of a text or combo box
@@ -47,8 +56,10 @@ struct ControlState {
   bool enabled = true;
   bool locked = false;
   bool ticked = false;
+  int value = 0;                 // of a scroll bar, 0 to 100
   std::optional<Colour> colour;  // of the text; the system's when absent
   std::vector<std::string> items;
+  std::optional<Place> place;  // of a control that its screen places; the layout's when absent
   bool operator==(const ControlState&) const = default;
 };
 
@@ -56,7 +67,6 @@ struct Control : ControlState {
   Control(Form& form, Kind kind, std::string name);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
-  int value = 0;                 // of a scroll bar, 0 to 100
 
   const Kind kind;
   const std::string name;  // DimLbl(0) carries its index
@@ -76,12 +86,14 @@ struct Control : ControlState {
   Handler GotFocus;
   Handler LostFocus;  // also by the Tab key
   Handler EnterKey;
+  Handler TabKey;  // of a field, before the focus leaves it; it stays if the handler asks for it
   Handler StepUp;  // of an UpDown, or of a field that has one
   Handler StepDown;
+  Handler Change;  // the user moved the scroll bar, whose place is `value`, or typed in the field
 
   void Hide() { visible = false; }
   void Show() { visible = true; }
-  // Repaints the screen now, in the middle of a handler.
+  // Repaints the control now, in the middle of a handler.
   void Refresh();
 
  private:
@@ -89,7 +101,6 @@ struct Control : ControlState {
 };
 
 struct Tab {
-  Handler Change;  // the user moved the scroll bar, whose place is `value`, or typed in the field
   std::string key;
   std::string caption;
   std::string tip;

@@ -10,8 +10,8 @@ namespace screen {
 
 struct Control;
 struct Form;
-
 class DrawingRecord;
+
 enum class Icon { None, Exclamation, Question, Information };
 enum class Buttons { Ok, OkCancel, YesNo };
 enum class Answer { Ok, Cancel, Yes, No };
@@ -50,7 +50,6 @@ class Surface {
   virtual ~Surface() = default;
   // Shows the present state of `form` and repaints it before it returns.
   virtual void Repaint(Form& form) = 0;
-};
   // The same for one control of it, cheap enough for every step of a search.
   virtual void RepaintControl(Form& form, Control&) { Repaint(form); }
 };
@@ -68,14 +67,15 @@ class PrinterSurface {
   virtual ~PrinterSurface() = default;
   // Prints `drawing` on a page of its own, as large as the page allows. False when it can't.
   virtual bool PrintPage(const DrawingRecord& drawing) = 0;
+};
 
 struct Ports {
   MessageBox& messageBox;
   FileDialog& fileDialog;
   Surface& surface;
-};
   Clock& clock;
   PictureFile& pictureFile;
   PrinterSurface& printer;
+};
 
 }  // namespace screen

@@ -61,10 +61,10 @@ struct Application::Parts {
 
   BoxOverWindow box;
   WindowSurface surface;
+  PictureFile pictureFile;
   screen::Ports ports;
   start::Program program;
   std::unique_ptr<MainWindow> window;
-  PictureFile pictureFile;
 };
 
 Application::Application(const Surroundings& around) : parts_(std::make_unique<Parts>(around)) {}
