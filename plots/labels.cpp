@@ -1,0 +1,76 @@
+#include "plots/labels.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace PlotWBas {
+namespace {
+
+constexpr double kTwipsPerPoint = 20;
+constexpr double kLineSpacing = 1.17;  // of the size; Arial and its usual stand-ins have less
+constexpr double kLetterWidth = 0.56;  // mean width of a letter; the widest stand-in has this
+
+std::string_view WithoutLastLineEnd(std::string_view text) {
+  while (text.ends_with('\r')) text.remove_suffix(1);
+  return text;
+}
+
+std::size_t LongestLine(std::string_view text) {
+  std::size_t longest = 0;
+  while (true) {
+    const std::size_t end = text.find('\r');
+    longest = std::max(longest, std::min(end, text.size()));
+    if (end == std::string_view::npos) return longest;
+    text.remove_prefix(end + 1);
+  }
+}
+
+}  // namespace
+
+const Label* FindLabel(const Labels& labels, const std::string& name) {
+  const auto found = std::ranges::find(labels, name, &Label::name);
+  return found == labels.end() ? nullptr : &*found;
+}
+
+void WriteLabels(screen::DrawSurface& surface, const Labels& labels) {
+  for (const Label& label : labels)
+    surface.Text(label.at, std::string(WithoutLastLineEnd(label.text)), label.style, label.name);
+}
+
+double RowHeight(const screen::TextStyle& style) {
+  return kTwipsPerPoint * kLineSpacing * style.size;
+}
+
+double TextWidth(const std::string& text, double size) {
+  return kTwipsPerPoint * kLetterWidth * size * static_cast<double>(LongestLine(text));
+}
+
+int RowCount(const std::string& text) {
+  const std::string_view shown = WithoutLastLineEnd(text);
+  return shown.empty() ? 0 : 1 + static_cast<int>(std::ranges::count(shown, '\r'));
+}
+
+double FittingSize(const std::string& text, double width, double wanted, double least) {
+  const double perPoint = TextWidth(text, 1);
+  return perPoint * wanted <= width ? wanted : std::max(least, width / perPoint);
+}
+
+std::vector<double> SpreadOut(const std::vector<Stand>& wanted, double low, double high) {
+  std::vector<std::size_t> order(wanted.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::ranges::stable_sort(order, {}, [&](std::size_t i) { return wanted[i].centre; });
+  std::vector<double> centres(wanted.size());
+  double free = low;  // from here on nothing stands yet
+  for (const std::size_t i : order) {
+    centres[i] = std::max(wanted[i].centre, free + wanted[i].half);
+    free = centres[i] + wanted[i].half;
+  }
+  double limit = high;
+  for (auto at = order.rbegin(); at != order.rend(); ++at) {
+    centres[*at] = std::min(centres[*at], limit - wanted[*at].half);
+    limit = centres[*at] - wanted[*at].half;
+  }
+  return centres;
+}
+
+}  // namespace PlotWBas

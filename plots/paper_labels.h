@@ -1,0 +1,25 @@
+#pragma once
+
+#include "plots/paper.h"
+
+// The labels that a cumulative plot has whatever its line: headline, axis titles, ends of the
+// scales, the median.
+namespace PlotWBas {
+
+// "A cumulative frequency distribution", of what, on which paper.
+std::string HeadlineText(const ExposureSession& s, const std::string& Transformation);
+// Product, date and time of the drawing, number of the window.
+std::string HeaderText(const ExposureSession& s, const screen::DateTime& time);
+std::string OutcomesTitle(const ExposureSession& s, const std::string& Transformation);
+std::string ScoresTitle(const ExposureSession& s);
+
+void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data);
+
+// Moves the labels of outcomes on their axis apart. Once no label will be added any more.
+void ArrangeOutcomeLabels(Labels& labels, const Paper& paper);
+
+// The foot of what stands to the right of the plot above the title of the horizontal axis, and how
+// far right of the frame it stands.
+screen::Point RightColumn(const Paper& paper);
+
+}  // namespace PlotWBas

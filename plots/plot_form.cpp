@@ -1,0 +1,118 @@
+#include "plots/plot_form.h"
+
+#include "analysis/rankits.h"
+#include "analysis/transformations.h"
+#include "base/fault.h"
+#include "catalog/catalog.h"
+#include "plots/listing.h"
+#include "plots/paper_labels.h"
+#include "plots/regression_line.h"
+
+namespace plots {
+namespace {
+
+constexpr char kDefaultTransformation[] = "Log(x)";
+
+}  // namespace
+
+PlotForm::PlotForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts)
+    : SessionForm("PlotForm", navigation::ScreenId::Plot, "TabPlotform", record, programDesk,
+                  formPorts) {
+  ConnectMenus();
+  ConnectLimits();
+  PicPlot.Resized = [this] {
+    if (IsShown()) PlotStatus();
+  };
+  PicPlot.MouseDown = [this](double, double y) { PicPlot_MouseDown(y); };
+}
+
+void PlotForm::Load() {
+  OfferMenus();
+  ResetAll();
+}
+
+void PlotForm::Activate() {
+  Flags();
+  EnterOwnTab();
+  RebuildStrip();
+  MenuPlot.Hide();  // it leads here
+  WindnrLbl.text = "17a";
+  session.TestTag.clear();
+  state.RankitTable = analysis::RankitsForSampleSize(SampleCount(session));
+  busyPointer = false;
+  RefillCTransf();
+  // A range that was given up on another screen leaves nothing to pick here.
+  if (!session.DetecOn) ResetAll();
+  MemuOtherPlots.visible = session.DeveloperMode;
+  PlotStatus();
+}
+
+// The size of a hidden screen's picture may change; its series may be gone by then.
+bool PlotForm::IsShown() const {
+  return session.CurrentTab == LoadResString(workflow::TabOf(id).caption);
+}
+
+void PlotForm::RefillCTransf() {
+  if (state.Transformation.empty()) state.Transformation = kDefaultTransformation;
+  if (analysis::FillCTransf(session, state.Transformation)) return;
+  state.Transformation = kDefaultTransformation;
+  analysis::FillCTransf(session, state.Transformation);
+}
+
+PlotWBas::PlotData PlotForm::Data() const {
+  return {session, state.RankitTable, state.Transformation, ports.clock.Now()};
+}
+
+void PlotForm::PlotStatus() {
+  const auto M = static_cast<std::size_t>(SampleCount(session));
+  if (session.LnC.size() <= M) fault::Throw(FaultKind::Subscript);
+  PlotSpan = Checked(session.LnC[M] - session.LnC[1]);
+  if (state.Transformation.empty()) state.Transformation = kDefaultTransformation;
+  PlaceBars();
+  PlotWBas::Labels labels;
+  DrawCumulative(labels);
+  PlotWBas::WriteLabels(PicPlot.drawing, labels);
+  ShowLabels(labels);
+  menuExtrPol.visible = menuExtrPol.enabled = session.LimitsOk;
+}
+
+void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
+  using namespace PlotWBas;
+  screen::DrawSurface& surface = PicPlot.drawing;
+  const PlotData data = Data();
+  if (Upright())
+    DrawProbabilityPaper(surface, labels, data);
+  else
+    DrawInverseCumulative(surface, labels, data);
+  const analysis::Regression fit = Fit();
+  const Paper paper(Upright() ? Axes::OutcomesUp : Axes::OutcomesAcross, surface, data);
+  DrawRegression(surface, labels, paper, data, fit);
+  const LimitMark LOQ = LOQMark(paper, data, LOQActive);
+  const LimitMark URR = URRMark(paper, data, URRActive);
+  DrawLOQ(surface, labels, paper, data, LOQ);
+  DrawURR(surface, labels, paper, data, URR);
+  FollowLimits(LOQ, URR);
+  ArrangeOutcomeLabels(labels, paper);
+  if (session.DeveloperMode && MenuDevelop.ticked)
+    PutListing(labels, paper, DevelopmentListing(paper, data, fit, LOQ, URR));
+}
+
+// The message about outcomes that do not differ outlives the regression's own texts.
+analysis::Regression PlotForm::Fit() {
+  const bool noVariability = analysis::CheckVariability(session);
+  const std::string message = session.MsgText;
+  analysis::Regression fit = analysis::ProbabilityRegression(session, state);
+  if (noVariability) session.MsgText = message;
+  return fit;
+}
+
+void PlotForm::ShowLabels(const PlotWBas::Labels& labels) {
+  for (screen::Control* control : controls) {
+    if (control->kind != screen::Kind::PictureLabel) continue;
+    const PlotWBas::Label* label = PlotWBas::FindLabel(labels, control->name);
+    control->visible = label != nullptr;
+    control->text = label ? label->text : std::string();
+  }
+}
+
+}  // namespace plots

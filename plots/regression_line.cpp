@@ -1,0 +1,174 @@
+#include "plots/regression_line.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "analysis/transformations.h"
+#include "base/fault.h"
+#include "catalog/catalog.h"
+#include "plots/paper_labels.h"
+#include "session/global_bas.h"
+
+namespace PlotWBas {
+namespace {
+
+using screen::Across;
+using screen::Down;
+using screen::Point;
+
+constexpr screen::Colour kLine{190, 0, 0};
+constexpr double kPen = 22;
+
+// Up to which value of the transformed scale, from which, an outcome is shown.
+struct Guard {
+  std::string_view letters;
+  bool (*allows)(double y);
+};
+
+constexpr std::array<Guard, 5> kGuards = {{
+    {"Lg(", [](double y) { return y < 6.5; }},
+    {"Log", [](double y) { return y < 700; }},
+    {"Sqr", [](double y) { return y < 1E+150; }},
+    {"Unt", [](double) { return true; }},
+    {"x^2", [](double y) { return y > 0; }},
+}};
+
+std::string Shown(const ExposureSession& s, double outcome) {
+  return GlobalBAS::ShownTrimmed(s, outcome);
+}
+
+// The label of the outcome at the lower end stands among those of the axis, at or below the lowest.
+void PutLowerEnd(Labels& labels, const Paper& paper, const std::string& text, double yLow) {
+  const Frame& f = paper.Edges();
+  const bool up = paper.OutcomesUp();
+  screen::TextStyle style =
+      Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, up ? Across::Right : Across::Centre,
+            up ? Down::Middle : Down::Top);
+  style.colour = kLine;
+  const double place = paper.OutcomePlace(yLow);
+  const Point at =
+      up ? Point{f.XasStart - 150, std::min(place, f.YasBot + 2 * RowHeight(style))}
+         : Point{std::max(place, f.XasStart - TextWidth(text, style.size)), f.YasBot + 150};
+  labels.push_back({"LblCBegin", text, at, style});
+}
+
+// The one at the upper end stands outside of the frame where the line leaves it, but above `texts`,
+// where the texts to the right begin.
+void PutUpperEnd(Labels& labels, const Paper& paper, const std::string& text, double yHigh,
+                 double texts) {
+  const Frame& f = paper.Edges();
+  const bool up = paper.OutcomesUp();
+  screen::TextStyle style =
+      Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, up ? Across::Left : Across::Centre,
+            up ? Down::Middle : Down::Bottom);
+  style.colour = kLine;
+  const double row = RowHeight(style);
+  const double place = paper.OutcomePlace(yHigh);
+  const Point at =
+      up ? Point{f.XasEinde + 150, std::max(f.YasTop - row, std::min(place, texts - row))}
+         : Point{std::min(place, f.XasEinde), f.YasTop - 120};
+  labels.push_back({"LblCEinde", text, at, style});
+}
+
+void PutEndLabels(Labels& labels, const Paper& paper, const PlotData& data,
+                  const analysis::Regression& fit) {
+  const Label& texts = *FindLabel(labels, "LblDescrip");
+  const double top = texts.at.y - RowCount(texts.text) * RowHeight(texts.style);
+  if (const auto low = OutcomeAtEnd(data.Transformation, fit.yLow))
+    PutLowerEnd(labels, paper, Shown(data.s, *low), fit.yLow);
+  if (const auto high = OutcomeAtEnd(data.Transformation, fit.yHigh))
+    PutUpperEnd(labels, paper, Shown(data.s, *high), fit.yHigh, top);
+}
+
+std::string RangeText(const ExposureSession& s) {
+  const bool lower = s.FirstInRange > 1;
+  const bool upper = s.LastInRange < SampleCount(s);
+  if (lower && upper) return LoadResString(1753);
+  if (lower) return LoadResString(1755);
+  return upper ? LoadResString(1756) : std::string();
+}
+
+// The estimates and whose they are, or nothing without any.
+std::string EstimatesText(const ExposureSession& s, const analysis::Regression& fit) {
+  if (!fit.estimates) return {};
+  const std::string word = s.RegressionLabel.substr(0, s.RegressionLabel.find(' '));
+  return word + s.CR + LoadResString(1758) + s.CR + "Rankit" + s.CR + LoadResString(1760) + s.CR +
+         fit.EstimatesText + s.CR;
+}
+
+}  // namespace
+
+LineEnds RegressionEnds(const Paper& paper, const analysis::Regression& fit) {
+  const Frame& f = paper.Edges();
+  const bool up = paper.OutcomesUp();
+  LineEnds ends;
+  if (fit.yLow > paper.Lowest()) {
+    const double place = paper.OutcomePlace(fit.yLow);
+    ends.lower = up ? Point{f.XasStart, place} : Point{place, f.YasBot};
+  } else {
+    ends.lower = paper.At(paper.Lowest(), Divide(paper.Lowest() - fit.a, fit.b));
+  }
+  if (fit.yHigh < paper.Highest()) {
+    const double place = paper.OutcomePlace(fit.yHigh);
+    ends.upper = up ? Point{f.XasEinde, place} : Point{place, f.YasTop};
+  } else {
+    ends.upper = paper.At(paper.Highest(), Divide(paper.Highest() - fit.a, fit.b));
+  }
+  return ends;
+}
+
+std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y) {
+  const std::string letters = Transformation.substr(0, 3);
+  const auto* guard = std::ranges::find(kGuards, letters, &Guard::letters);
+  if (guard == kGuards.end() || !guard->allows(y)) return std::nullopt;
+  return analysis::InverseTransform(Transformation, y);
+}
+
+std::string RegresText(const ExposureSession& s, const std::string& Transformation) {
+  const std::string series = Transformation == "Unt" ? std::string("exposure data of ")
+                                                     : Transformation + LoadResString(1751);
+  return LoadResString(1750) + series + GlobalBAS::Trim(s.Name) + s.CR + RangeText(s);
+}
+
+std::string DescripText(const ExposureSession& s, const analysis::Regression& fit) {
+  std::string text = EstimatesText(s, fit);
+  if (!s.DetecOn)
+    return text + LoadResString(1765) + s.CR + "M= " + GlobalBAS::ShownTrimmed(s, s.M);
+  if (s.LOQ > 0.95 * s.C[1]) text += "LOQ " + GlobalBAS::Shown(s, s.LOQ) + s.CR;
+  if (s.URR < 1.05 * s.C[static_cast<std::size_t>(SampleCount(s))])
+    text += "URR " + GlobalBAS::Shown(s, s.URR) + s.CR;
+  return text + LoadResString(1761) + s.CR + LoadResString(1762) +
+         GlobalBAS::ShownTrimmed(s, s.NInRange) + s.CR + LoadResString(1763) +
+         GlobalBAS::ShownTrimmed(s, s.M) + LoadResString(1764);
+}
+
+void PutRegressionTexts(Labels& labels, const screen::DrawSurface& surface, const PlotData& data,
+                        const analysis::Regression& fit, Point column) {
+  const double W = surface.ScaleWidth();
+  const double H = surface.ScaleHeight();
+  const double YasBot = 0.9 * H;
+  const screen::TextStyle beside = Style(W, H, 8, Across::Left, Down::Bottom);
+  labels.push_back({"LblShapiro", fit.TestText, column, beside});
+  const double above = (RowCount(fit.TestText) + 0.6) * RowHeight(beside);
+  labels.push_back(
+      {"LblDescrip", DescripText(data.s, fit), {0.8 * W + 150, column.y - above}, beside});
+  if (!fit.line) return;
+  const std::string through = RegresText(data.s, data.Transformation);
+  screen::TextStyle below = Style(W, H, 8, Across::Centre, Down::Top);
+  // The numbers of the horizontal axis stand between.
+  const double under = YasBot + 120 + RowHeight(below);
+  below.size = FittingSize(through, W - 300, below.size, 6);
+  labels.push_back({"LblRegres", through, {0.5 * W, under}, below});
+}
+
+void DrawRegression(screen::DrawSurface& surface, Labels& labels, const Paper& paper,
+                    const PlotData& data, const analysis::Regression& fit) {
+  PutRegressionTexts(labels, surface, data, fit, RightColumn(paper));
+  if (!fit.line) return;
+  const LineEnds ends = RegressionEnds(paper, fit);
+  surface.Line(ends.lower, ends.upper, kLine, kPen);
+  PutEndLabels(labels, paper, data, fit);
+}
+
+}  // namespace PlotWBas
