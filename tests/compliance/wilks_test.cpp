@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/fault.h"
+#include "session/global_bas.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
 
@@ -110,6 +111,21 @@ TEST_F(Wilks, ALimitWithinTheBoundsLeavesTheMessageAlone) {
   EXPECT_EQ(compliance::WilksTest(s, 1).limit.clamp, Clamp::None);
   EXPECT_EQ(s.MsgText, "earlier");
   EXPECT_NE(s.UTL, 42);
+}
+
+// The test for a small limit looks at the mirrored one, which is large here.
+TEST_F(Wilks, ALimitBelowAllNumbersForACoverageBelow50IsShownAs0WithoutAMessage) {
+  ExposureSession s = JustAbove();
+  s.U = 0.01;
+  s.MsgText = "earlier";
+  EXPECT_EQ(compliance::WilksTest(s, 1).limit.clamp, Clamp::None);
+  EXPECT_GT(s.UTL, 0) << "100 exp(-702) is still a number";
+  EXPECT_LT(s.UTL, 1e-300);
+  s.GSD = 1000;
+  EXPECT_EQ(compliance::WilksTest(s, 1).limit.clamp, Clamp::None);
+  EXPECT_EQ(s.UTL, 0);
+  EXPECT_EQ(s.MsgText, "earlier");
+  EXPECT_EQ(GlobalBAS::Shown(s, s.UTL), "     0");
 }
 
 TEST_F(Wilks, RegressionEstimatesAndReducedDegreesOfFreedomAreTakenAsTheyStand) {
