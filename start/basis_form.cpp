@@ -184,6 +184,8 @@ void BasisForm::CmdContinu_Click() {
   Tab_Click(workflow::TabOf(navigation::ScreenId::DataCtrl).key);
 }
 
+void BasisForm::OfferModify() { OriModiCmd.text = LoadResString(kModify); }
+
 void BasisForm::OriModiCmd_Click() {
   if (!session.ModifyMode) {
     OriModiCmd.text = LoadResString(kReset);
@@ -192,7 +194,7 @@ void BasisForm::OriModiCmd_Click() {
     session.Name += LoadResString(765);
     session.M = session.df + 1;
   } else {
-    OriModiCmd.text = LoadResString(kModify);
+    OfferModify();
     session.ModifyMode = false;
     for (screen::Control* box : {&NameTxB, &SampSizTxB, &GMTxB, &GSDTxB}) box->locked = true;
     session.Name = ori_.Name;

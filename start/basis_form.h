@@ -85,6 +85,8 @@ struct BasisForm final : navigation::SessionForm {
   void MenuNewVkrFil_Click();
   void CmdContinu_Click();
   void OriModiCmd_Click();
+  // The button offers Modify again, and no longer Reset.
+  void OfferModify();
 
   void LeaveName();
   void LeaveSampleSize();

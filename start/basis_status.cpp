@@ -1,4 +1,3 @@
-#include "catalog/catalog.h"
 #include "start/basis_form.h"
 
 namespace start {
@@ -165,7 +164,7 @@ void BasisForm::Sluiten() {
   OpeningMessage();
   menuTools.Hide();
   MenuPlot.Hide();
-  OriModiCmd.text = LoadResString(725);
+  OfferModify();
   OriModiCmd.Hide();
   CmdContinu.Hide();
   Tabs.Hide();

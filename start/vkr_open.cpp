@@ -68,7 +68,7 @@ void BasisForm::TakeSeries(const rawdata::FileValues& file) {
   session.DescOk = true;
   session.Mode = "R";
   session.ModifyMode = false;
-  OriModiCmd.text = LoadResString(725);
+  OfferModify();
   const int count = SampleCount(session);
   SizeSeries(session);
   std::copy(file.values.begin(), file.values.end(), session.C.begin() + 1);
