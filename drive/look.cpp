@@ -24,9 +24,10 @@ using screen::Kind;
 // way, and a line end as another one.
 std::string Comparable(const std::string& text) {
   std::string plain;
+  char before = 0;
   for (const char c : text) {
-    if (c == '&' || (c == '\n' && !plain.empty() && plain.back() == '\n')) continue;
-    plain += c == '\r' ? '\n' : c;
+    if (c != '&' && !(c == '\n' && before == '\r')) plain += c == '\r' ? '\n' : c;
+    before = c;
   }
   return plain.substr(0, plain.find_last_not_of('\n') + 1);
 }

@@ -13,7 +13,7 @@ Control::Control(Form& form, Kind controlKind, std::string controlName)
   form.controls.push_back(this);
 }
 
-void Control::Refresh() { form_.Refresh(); }
+void Control::Refresh() { form_.ports.surface.RepaintControl(form_, *this); }
 
 Control* Form::Find(const std::string& controlName) const {
   auto found = std::find_if(controls.begin(), controls.end(),

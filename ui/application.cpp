@@ -33,6 +33,9 @@ class WindowSurface final : public screen::Surface {
   void Repaint(screen::Form& form) override {
     if (window_) window_->Repaint(form);
   }
+  void RepaintControl(screen::Form& form, screen::Control& control) override {
+    if (window_) window_->RepaintControl(form, control);
+  }
 
  private:
   MainWindow* window_ = nullptr;

@@ -233,3 +233,11 @@ void FormBinder::Push(bool onPage) {
 }
 
 }  // namespace ui
+void FormBinder::Repaint(const Control& control) {
+  for (ControlView& view : views_) {
+    if (&view.Control() != &control || !view.Widget()) continue;
+    view.Push(true);
+    view.Widget()->repaint();
+  }
+}
+

@@ -36,6 +36,8 @@ class FormBinder : public QObject {
 
   void Push(bool onPage);
 
+  // Brings one widget up to date and paints it at once.
+  void Repaint(const screen::Control& control);
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -180,3 +180,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 }  // namespace ui
+  // What a hidden control leaves to the others is theirs before they are painted.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+void MainWindow::RepaintControl(screen::Form& form, screen::Control& control) {
+  if (FormBinder* binder = private_->BinderOf(form)) binder->Repaint(control);
+}
+

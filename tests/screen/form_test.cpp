@@ -59,12 +59,14 @@ TEST(Screen, FindsItsControlsByNameWithTheirIndex) {
   EXPECT_EQ(form.Find("DimLbl"), nullptr);
 }
 
-TEST(Screen, AControlAsksItsScreenToRepaintAtOnce) {
+TEST(Screen, AControlIsRepaintedAtOnceWithoutTheRestOfItsScreen) {
   recording::Ports ports;
   screen::Form form("LimitsForm", ports.ports);
   screen::Control label(form, screen::Kind::Label, "Label");
   label.Refresh();
-  EXPECT_EQ(ports.surface.repainted, std::vector<std::string>{"LimitsForm"});
+  EXPECT_EQ(ports.surface.repainted, std::vector<std::string>{"LimitsForm.Label"});
+  form.Refresh();
+  EXPECT_EQ(ports.surface.repainted.back(), "LimitsForm");
 }
 
 TEST(Screen, ComplainsWithAnExclamationAndOneButton) {

@@ -22,6 +22,9 @@ struct FileDialog : screen::FileDialog {
 struct Surface : screen::Surface {
   std::vector<std::string> repainted;
   void Repaint(screen::Form& form) override { repainted.push_back(form.name); }
+  void RepaintControl(screen::Form& form, screen::Control& control) override {
+    repainted.push_back(form.name + "." + control.name);
+  }
 };
 
 struct Clock : screen::Clock {
