@@ -7,7 +7,7 @@ namespace PlotWBas {
 namespace {
 
 constexpr double kTwipsPerPoint = 20;
-constexpr double kLineSpacing = 1.17;  // of the size; Arial and its usual stand-ins have less
+
 constexpr double kLetterWidth = 0.56;  // mean width of a letter; the widest stand-in has this
 
 std::string_view WithoutLastLineEnd(std::string_view text) {
@@ -38,7 +38,7 @@ void WriteLabels(screen::DrawSurface& surface, const Labels& labels) {
 }
 
 double RowHeight(const screen::TextStyle& style) {
-  return kTwipsPerPoint * kLineSpacing * style.size;
+  return kTwipsPerPoint * screen::kLineSpacing * style.size;
 }
 
 double TextWidth(const std::string& text, double size) {

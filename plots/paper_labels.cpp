@@ -66,11 +66,16 @@ void Writer::PutTitles() {
   const std::string scores = ScoresTitle(data_.s);
   const screen::TextStyle vertical = StyleOf(8.5, Across::Right, Down::Bottom);
   // The label of the highest mark of the axis lies between.
-  const double foot = f_.YasTop - 1.2 * RowHeight(vertical);
-  Put("LblYasTop", paper_.OutcomesUp() ? outcomes : scores, {f_.XasStart - kBeside, foot},
-      vertical);
-  Put("LblXasEinde", paper_.OutcomesUp() ? scores : outcomes,
-      {f_.XasEinde + kBeside, f_.YasBot + 60}, StyleOf(8.5, Across::Left, Down::Bottom));
+  Put("LblYasTop", paper_.OutcomesUp() ? outcomes : scores,
+      {f_.XasStart - kBeside, f_.YasTop - 1.2 * RowHeight(vertical)}, vertical);
+  // The short title leaves the place beside the frame to the test of the fit.
+  const double foot = f_.YasBot + 60;
+  if (paper_.OutcomesUp())
+    Put("LblXasEinde", scores, {paper_.ScaleWidth() - kMargin, foot},
+        StyleOf(8.5, Across::Right, Down::Bottom));
+  else
+    Put("LblXasEinde", outcomes, {f_.XasEinde + kBeside, foot},
+        StyleOf(8.5, Across::Left, Down::Bottom));
 }
 
 void Writer::PutOutcome(const char* name, const std::string& text, double CTransf) {
@@ -149,15 +154,17 @@ void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data) {
 
 void ArrangeOutcomeLabels(Labels& labels, const Paper& paper) {
   const bool up = paper.OutcomesUp();
+  double row = 0;
   std::vector<Stand> wanted;
   for (const Label& label : labels)
     if (OfOutcome(label)) {
-      const double size = up ? RowHeight(label.style) : TextWidth(label.text, label.style.size);
+      row = RowHeight(label.style);
+      const double size = up ? row : TextWidth(label.text, label.style.size);
       wanted.push_back({up ? label.at.y : label.at.x, size / 2});
     }
   const Frame& f = paper.Edges();
   const double low = up ? f.YasTop - kBeside : f.XasStart - 6 * kBeside;
-  const double high = up ? f.YasBot + 2 * kBeside : f.XasEinde + 6 * kBeside;
+  const double high = up ? f.YasBot + 1.25 * row : f.XasEinde + 6 * kBeside;
   const std::vector<double> centres = SpreadOut(wanted, low, high);
   auto centre = centres.begin();
   for (Label& label : labels)
@@ -168,9 +175,8 @@ Point RightColumn(const Paper& paper) {
   const Frame& f = paper.Edges();
   const double row =
       RowHeight(Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, Across::Left, Down::Bottom));
-  // Beside the short title of the scores, above the longer one of the outcomes.
-  if (paper.OutcomesUp()) return {f.XasEinde + kBeside + 4 * row, f.YasBot + 120};
-  return {f.XasEinde + kBeside, f.YasBot - 4 * row};
+  // In front of the short title of the scores, above the longer one of the outcomes.
+  return {f.XasEinde + kBeside, paper.OutcomesUp() ? f.YasBot + 120 : f.YasBot - 4 * row};
 }
 
 }  // namespace PlotWBas

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 
 #include "analysis/transformations.h"
@@ -34,8 +35,9 @@ constexpr std::array<Guard, 5> kGuards = {{
     {"x^2", [](double y) { return y > 0; }},
 }};
 
+// With the digits of the series also below zero, where the line may well end and the mask has all.
 std::string Shown(const ExposureSession& s, double outcome) {
-  return GlobalBAS::ShownTrimmed(s, outcome);
+  return (outcome < 0 ? "-" : "") + GlobalBAS::ShownTrimmed(s, std::abs(outcome));
 }
 
 // The label of the outcome at the lower end stands among those of the axis, at or below the lowest.
@@ -157,7 +159,7 @@ void PutRegressionTexts(Labels& labels, const screen::DrawSurface& surface, cons
   const std::string through = RegresText(data.s, data.Transformation);
   screen::TextStyle below = Style(W, H, 8, Across::Centre, Down::Top);
   // The numbers of the horizontal axis stand between.
-  const double under = YasBot + 120 + RowHeight(below);
+  const double under = YasBot + 120 + 1.2 * RowHeight(below);
   below.size = FittingSize(through, W - 300, below.size, 6);
   labels.push_back({"LblRegres", through, {0.5 * W, under}, below});
 }
