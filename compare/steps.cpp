@@ -58,11 +58,11 @@ ReferenceStep StepGSD2(double v, int direction) {
   return HeldAbove(steps::Down(kDownGSD2, v), kGSD2);
 }
 
-double StepM2(double v, int direction) {
+ReferenceStep StepM2(double v, int direction) {
   constexpr double lowest = 2;
   constexpr double highest = 30000;
-  if (direction > 0) return v < highest ? v + 1 : v;
-  return v > lowest ? v - 1 : v;
+  if (direction > 0) return {v < highest ? v + 1 : v};
+  return {v > lowest ? v - 1 : v};
 }
 
 }  // namespace compare

@@ -20,7 +20,7 @@ ReferenceStep StepGM2(double v, int direction);
 // GSD2, 1.001 to 1000: by 0.001 near 1, by 10 above 100.
 ReferenceStep StepGSD2(double v, int direction);
 
-// M2, a whole number from 2 to 30000, by 1.
-double StepM2(double v, int direction);
+// M2, a whole number from 2 to 30000, by 1; its ends are told by no text.
+ReferenceStep StepM2(double v, int direction);
 
 }  // namespace compare

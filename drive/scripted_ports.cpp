@@ -34,6 +34,8 @@ const char* Name(Buttons buttons) {
       return "ok-cancel";
     case Buttons::YesNo:
       return "yes-no";
+    case Buttons::YesNoCancel:
+      return "yes-no-cancel";
   }
   return "?";
 }
@@ -55,12 +57,12 @@ const char* Name(Icon icon) {
 bool Offers(Buttons buttons, Answer answer) {
   switch (answer) {
     case Answer::Ok:
-      return buttons != Buttons::YesNo;
+      return buttons == Buttons::Ok || buttons == Buttons::OkCancel;
     case Answer::Cancel:
-      return buttons == Buttons::OkCancel;
+      return buttons == Buttons::OkCancel || buttons == Buttons::YesNoCancel;
     case Answer::Yes:
     case Answer::No:
-      return buttons == Buttons::YesNo;
+      return buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel;
   }
   return false;
 }

@@ -13,7 +13,7 @@ struct Form;
 class DrawingRecord;
 
 enum class Icon { None, Exclamation, Question, Information };
-enum class Buttons { Ok, OkCancel, YesNo };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
 struct Message {

@@ -52,6 +52,7 @@ bool InRangeU(double value);
 bool InRangeD(double value);
 bool InRangeGM(double value);
 bool InRangeGSD(double value);
+bool InRangeMRef(double value);
 
 // The mask for `value` at `sigDigits`; the empty mask for an absent value.
 std::string FormatMask(const std::optional<double>& value, int sigDigits);

@@ -167,5 +167,6 @@ bool InRangeU(double value) { return Within(value, kU); }
 bool InRangeD(double value) { return Within(value, kD); }
 bool InRangeGM(double value) { return Within(value, kGM); }
 bool InRangeGSD(double value) { return Within(value, kGSD); }
+bool InRangeMRef(double value) { return Within(value, kMRef); }
 
 }  // namespace GlobalBAS

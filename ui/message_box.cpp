@@ -28,6 +28,8 @@ QMessageBox::StandardButtons ButtonsOf(screen::Buttons buttons) {
       return QMessageBox::Ok | QMessageBox::Cancel;
     case screen::Buttons::YesNo:
       return QMessageBox::Yes | QMessageBox::No;
+    case screen::Buttons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case screen::Buttons::Ok:
       break;
   }
@@ -65,6 +67,7 @@ screen::Answer AnswerOf(int button) {
 QMessageBox::StandardButton EscapeOf(screen::Buttons buttons) {
   switch (buttons) {
     case screen::Buttons::OkCancel:
+    case screen::Buttons::YesNoCancel:
       return QMessageBox::Cancel;
     case screen::Buttons::YesNo:
       return QMessageBox::No;

@@ -1,0 +1,70 @@
+#include "catalog/catalog.h"
+#include "compare/two_samp_comp_form.h"
+
+// Entering the reference values on the comparison screen.
+namespace compare {
+
+void TwoSampCompForm::WireReference(Reference& reference, screen::Control& pair) {
+  screen::Control& box = reference.box;
+  box.GotFocus = [&box] { box.selectAll = true; };
+  box.LostFocus = [this, &reference] { Accept(reference); };
+  box.TabKey = [this, &reference] { AcceptAndInfer(reference, false); };
+  box.EnterKey = [this, &reference] { AcceptAndInfer(reference, true); };
+  box.Change = [this] {
+    DropResults();
+    CalcCmb.Show();
+  };
+  pair.StepUp = [this, &reference] { Step(reference, 1); };
+  pair.StepDown = [this, &reference] { Step(reference, -1); };
+}
+
+// An entry that was refused keeps the focus; one that stands there since before is told, but lets
+// the user go. An empty sample size is no entry at all: the box shows its value again.
+bool TwoSampCompForm::Accept(Reference& reference) {
+  screen::Control& box = reference.box;
+  const bool typed = box.touched;
+  const bool empty = GlobalBAS::Trim(box.text).empty();
+  const bool noEntry = empty && &box == &SampSizTxB2;
+  reference.check(session, EntryOf(box), reference.value, Notifier());
+  refused_ = !noEntry && session.InputState != 0;
+  box.touched = false;
+  box.text = ShownTrimmed(reference.value);
+  if (refused_ && typed) SetFocus(box);
+  if (FirstOutOfRange()) CalcCmb.Hide();
+  return !noEntry && !refused_;
+}
+
+// The Tab key on a box that nothing was typed in asks no question again whose answer stands.
+void TwoSampCompForm::AcceptAndInfer(Reference& reference, bool always) {
+  const bool typed = reference.box.touched;
+  if (!Accept(reference) || FirstOutOfRange()) return;
+  if (always || typed || !standing_) Inference();
+}
+
+TwoSampCompForm::Reference* TwoSampCompForm::FirstOutOfRange() {
+  const bool sample = session.CompareMode == "S";
+  for (Reference* reference : {&sampleSize_, &location_, &dispersion_}) {
+    if (reference == &sampleSize_ && !sample) continue;
+    if (!reference->inRange(reference->value)) return reference;
+  }
+  return nullptr;
+}
+
+// A text that is still being typed counts first; a sample size is looked at in any case.
+void TwoSampCompForm::Step(Reference& reference, int direction) {
+  screen::Control& box = reference.box;
+  if (box.touched || &box == &SampSizTxB2) Accept(reference);
+  const ReferenceStep step = reference.step(reference.value, direction);
+  reference.value = step.value;
+  if (step.text) session.MsgText = LoadResString(step.text);
+  box.text = ShownTrimmed(reference.value);
+  DropResults();
+  OfferCalculation();
+}
+
+void TwoSampCompForm::BeforeTabClick() {
+  for (Reference* reference : {&sampleSize_, &location_, &dispersion_})
+    if (reference->box.touched) Accept(*reference);
+}
+
+}  // namespace compare
