@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,11 +28,19 @@ class RecordingDialog final : public screen::FileDialog {
   std::vector<Request> asked;
 };
 
-// A surface that counts its repaints.
+// A surface that counts its repaints, and lets a test look at the state that each of them shows.
 class CountingSurface final : public screen::Surface {
  public:
-  void Repaint(screen::Form&) override { ++repaints; }
+  void Repaint(screen::Form&) override {
+    ++repaints;
+    if (onRepaint) onRepaint();
+  }
+  void RepaintControl(screen::Form&, screen::Control& control) override {
+    if (onControl) onControl(control);
+  }
   int repaints = 0;
+  std::function<void()> onRepaint;
+  std::function<void(const screen::Control&)> onControl;
 };
 
 // A clock that stands still.
