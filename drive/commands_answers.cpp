@@ -10,6 +10,7 @@
 #include "drive/player.h"
 #include "drive/record_fields.h"
 #include "drive/text.h"
+#include "screen/picture.h"
 
 namespace drive {
 namespace {
@@ -38,12 +39,28 @@ Look LookByName(Play& play, const std::string& name) {
   return LookOf(play.stage, play.stage.Find(name));
 }
 
+// How much a drawing holds.
+std::string PictureMarks(const screen::DrawingRecord& drawing) {
+  int lines = 0;
+  int dots = 0;
+  int texts = 0;
+  for (const auto& item : drawing.Items()) {
+    lines += std::holds_alternative<screen::DrawnLine>(item);
+    dots += std::holds_alternative<screen::DrawnDot>(item);
+    texts += std::holds_alternative<screen::DrawnText>(item);
+  }
+  return " lines(" + IntText(lines) + ") dots(" + IntText(dots) + ") texts(" + IntText(texts) + ")";
+}
+
 std::string LineByName(Play& play, const std::string& name) {
   std::string line = Line(name, LookByName(play, name));
   if (CellOf(play, name)) return line;
   const screen::Control& control = *play.stage.Find(name).control;
   if (control.kind == screen::Kind::Grid)
     line += " rows(" + IntText(static_cast<const screen::Grid&>(control).rowCount) + ")";
+  if (control.kind == screen::Kind::ScrollBar) line += " value(" + IntText(control.value) + ")";
+  if (control.kind == screen::Kind::Picture)
+    line += PictureMarks(static_cast<const screen::Picture&>(control).drawing);
   return line;
 }
 

@@ -46,6 +46,16 @@ void DeleteTheRow(Play& play, std::string rest) { DeleteRow(play.stage, IntOf(re
 void Row(Play& play, std::string rest) { GoToRow(play.stage, IntOf(rest)); }
 void Paste(Play& play, std::string rest) { PasteRows(play.stage, Unescaped(TextArgument(rest))); }
 
+void Bar(Play& play, std::string rest) {
+  const Target bar = TakeTarget(play, rest);
+  MoveBar(play.stage, bar, IntOf(rest));
+}
+
+void PlotClick(Play& play, std::string rest) {
+  const double x = NumberOf(TakeWord(rest));
+  ClickPicture(play.stage, x, NumberOf(rest));
+}
+
 }  // namespace
 
 const CommandTable& FieldCommands() {
@@ -57,6 +67,8 @@ const CommandTable& FieldCommands() {
       {"up", Up},
       {"down", Down},
       {"key", Key},
+      {"bar", Bar},
+      {"plotclick", PlotClick},
       {"cell", Cell},
       {"addrow", AddARow},
       {"delrow", DeleteTheRow},

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QtTest/QTest>
 
@@ -155,6 +156,30 @@ void ChooseMenu(Stage& stage, const Target& item) {
   if (action.menu()) throw Failure(item.control->name + " is a menu, not an item of one");
   action.trigger();
   stage.Settle();
+}
+
+void MoveBar(Stage& stage, const Target& bar, int value) {
+  NeedUsable(stage, bar);
+  auto* widget = qobject_cast<QScrollBar*>(&stage.WidgetOf(bar));
+  if (!widget) throw Failure(bar.control->name + " is no scroll bar");
+  if (value < widget->minimum() || value > widget->maximum())
+    throw Failure(bar.control->name + " has no place " + IntText(value));
+  widget->setValue(value);
+  stage.Settle();
+}
+
+void ClickPicture(Stage& stage, double x, double y) {
+  if (!(x >= 0 && x < 1 && y >= 0 && y < 1)) throw Failure("a place in a picture is 0 to below 1");
+  for (screen::Control* control : stage.Shown().controls) {
+    if (control->kind != screen::Kind::Picture) continue;
+    const Target picture{&stage.Shown(), control};
+    NeedUsable(stage, picture);
+    QWidget& widget = stage.WidgetOf(picture);
+    ClickAt(stage, widget, static_cast<int>(x * widget.width()),
+            static_cast<int>(y * widget.height()), control->name);
+    return;
+  }
+  throw Failure(stage.Shown().name + " has no picture");
 }
 
 void ClickTab(Stage& stage, const std::string& key) {

@@ -21,6 +21,10 @@ enum class Arrow { Up, Down };
 // The field's up-down pair, or the pair itself, may be named.
 void Step(Stage& stage, const Target& target, Arrow arrow);
 void ChooseMenu(Stage& stage, const Target& item);
+// Sets a scroll bar to the place in one move.
+void MoveBar(Stage& stage, const Target& bar, int value);
+// Clicks the picture of the shown screen at these fractions of its width and height.
+void ClickPicture(Stage& stage, double x, double y);
 void ClickTab(Stage& stage, const std::string& key);
 
 // The name of the control that has the focus; empty when none has.

@@ -8,11 +8,13 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTabBar>
 
 #include "drive/failure.h"
 #include "drive/text.h"
+#include "screen/picture.h"
 
 namespace drive {
 namespace {
@@ -60,7 +62,23 @@ void Same(const Control& control, const char* what, bool shown, bool state) {
   Same(control, what, std::string(shown ? "yes" : "no"), std::string(state ? "yes" : "no"));
 }
 
-// The state with what the frames around the widget add to it.
+const screen::DrawnText* DrawnLabel(const screen::Form& form, const std::string& label) {
+  for (const Control* control : form.controls) {
+    if (control->kind != Kind::Picture) continue;
+    for (const auto& item : static_cast<const screen::Picture*>(control)->drawing.Items()) {
+      const auto* text = std::get_if<screen::DrawnText>(&item);
+      if (text && text->label == label) return text;
+    }
+  }
+  return nullptr;
+}
+
+std::string WithoutBlanks(std::string text) {
+  std::erase_if(text, [](char c) { return c == ' ' || c == '\r'; });
+  return text;
+}
+
+// The state with what the window and the frames around the widget add to it.
 Look StateOf(Stage& stage, const Target& target, QWidget& widget) {
   const Control& control = *target.control;
   Look look{control.text,   !control.visible, !control.enabled,
@@ -100,6 +118,8 @@ Look WidgetLook(Stage& stage, const Target& target) {
   Same(control, "disabled", !widget.isEnabledTo(page), look.disabled);
   if (auto* button = qobject_cast<QAbstractButton*>(&widget))
     Same(control, "ticked", button->isChecked(), look.ticked);
+  if (auto* bar = qobject_cast<QScrollBar*>(&widget))
+    Same(control, "the place", IntText(bar->value()), IntText(control.value));
   if (auto* edit = qobject_cast<QLineEdit*>(&widget))
     Same(control, "locked", edit->isReadOnly(), look.locked);
   CompareColour(control, widget);
@@ -155,6 +175,17 @@ Look StripLook(Stage& stage, const Target& target) {
   return look;
 }
 
+// A label that is drawn in a picture: its text may stand there in more lines than in its state.
+Look PictureLabelLook(const Target& target) {
+  const Control& control = *target.control;
+  const screen::DrawnText* drawn = DrawnLabel(*target.form, control.name);
+  Same(control, "drawn", drawn != nullptr, control.visible);
+  if (drawn) Same(control, "the text", WithoutBlanks(drawn->text), WithoutBlanks(control.text));
+  Look look = TextLook(control.text);
+  look.hidden = !control.visible;
+  return look;
+}
+
 }  // namespace
 
 Look TextLook(std::string text) {
@@ -169,6 +200,8 @@ Look LookOf(Stage& stage, const Target& target) {
       return MenuLook(stage, target);
     case Kind::TabStrip:
       return StripLook(stage, target);
+    case Kind::PictureLabel:
+      return PictureLabelLook(target);
     case Kind::CommonDialog:
       return TextLook(target.control->text);
     default:

@@ -6,6 +6,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
 #include <QVariant>
 
 #include "ui/text.h"
@@ -54,6 +57,11 @@ void ControlView::Ticked(bool on) {
   if (shown_ && button) shown_->ticked = button->isChecked();
 }
 
+void ControlView::Scrolled(int value) {
+  control_.value = value;
+  if (shown_) shown_->value = value;
+}
+
 void ControlView::Push(bool onPage) {
   if (action_) {
     PushAction(control_.visible && onPage);
@@ -64,6 +72,7 @@ void ControlView::Push(bool onPage) {
     if (grid.revision != gridRevision_) view->Refresh();
     gridRevision_ = grid.revision;
   }
+  if (auto* picture = qobject_cast<PictureView*>(widget_)) picture->Refresh();
   if (!shown_ || !(*shown_ == control_)) {
     const screen::ControlState old = shown_.value_or(screen::ControlState{});
     const bool first = !shown_;
@@ -79,6 +88,7 @@ void ControlView::PushWidget(const screen::ControlState& old, bool first) {
   if (first || now.text != old.text || now.items != old.items) PushText();
   if (first || now.tip != old.tip) widget_->setToolTip(TipText(now.tip));
   if (first || now.ticked != old.ticked) PushTicked();
+  if (first || now.value != old.value) PushValue();
   if (first || now.enabled != old.enabled) widget_->setEnabled(now.enabled);
   if (first || now.visible != old.visible) widget_->setVisible(now.visible);
   if (first || now.colour != old.colour || now.locked != old.locked) PushLook();
@@ -119,6 +129,13 @@ void ControlView::PushTicked() {
   button->setAutoExclusive(false);
   button->setChecked(shown_->ticked);
   button->setAutoExclusive(exclusive);
+}
+
+void ControlView::PushValue() {
+  auto* bar = qobject_cast<QScrollBar*>(widget_);
+  if (!bar) return;
+  const QSignalBlocker noEvent(bar);
+  bar->setValue(shown_->value);
 }
 
 void ControlView::PushLook() {

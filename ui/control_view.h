@@ -28,12 +28,15 @@ class ControlView {
   void Typed(const QString& text);
   // The user ticked or unticked the button, or another one of its group.
   void Ticked(bool on);
+  // The user moved the scroll bar, which shows this place already.
+  void Scrolled(int value);
 
  private:
   void PushWidget(const screen::ControlState& old, bool first);
   void PushText();
   void PushItems();
   void PushTicked();
+  void PushValue();
   void PushLook();
   void PushAction(bool visible);
   void SelectAll();

@@ -23,6 +23,11 @@ QStringList Filters(const QString& filter) {
   return filters;
 }
 
+// What a name typed without one gets: "bmp" of "Text|*.bmp".
+QString Suffix(const QString& filter) {
+  return filter.section(QLatin1Char('|'), 1, 1).section(QLatin1Char('.'), -1);
+}
+
 }  // namespace
 
 std::string FileDialog::Ask(const Request& request) {
@@ -30,7 +35,7 @@ std::string FileDialog::Ask(const Request& request) {
   dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setNameFilters(Filters(Shown(request.filter)));
-  dialog.setDefaultSuffix(QStringLiteral("vkr"));
+  dialog.setDefaultSuffix(Suffix(Shown(request.filter)));
   if (const QFileInfo file(Shown(request.fileName)); !request.fileName.empty()) {
     if (file.isAbsolute()) dialog.setDirectory(file.absolutePath());
     dialog.selectFile(file.fileName());

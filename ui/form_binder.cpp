@@ -3,13 +3,17 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVariant>
 
 #include <stdexcept>
 
+#include "ui/picture_view.h"
 #include "ui/text.h"
 #include "ui/up_down_pair.h"
 #include "ui/vkr_grid_view.h"
@@ -19,11 +23,28 @@ namespace ui {
 using screen::Control;
 using screen::Kind;
 
+namespace {
+
+// The window has one strip for all screens; a picture carries the texts drawn in it.
+bool HasOwnWidget(const Control& control) {
+  return control.kind != Kind::TabStrip && control.kind != Kind::CommonDialog &&
+         control.kind != Kind::PictureLabel;
+}
+
+void Release(QScrollBar& bar) {
+  const QPointF place(bar.rect().center());
+  QMouseEvent release(QEvent::MouseButtonRelease, place, bar.mapToGlobal(place), Qt::LeftButton,
+                      Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&bar, &release);
+}
+
+}  // namespace
+
 FormBinder::FormBinder(screen::Form& form, QMenuBar& menuBar, EventGate& gate)
     : form_(form), page_(LoadPage(form.name, menuBar)), gate_(gate) {
   form_.captionTag = page_.captionTag;
   for (Control* control : form_.controls)
-    if (control->kind != Kind::TabStrip && control->kind != Kind::CommonDialog) Add(*control);
+    if (HasOwnWidget(*control)) Add(*control);
 }
 
 void FormBinder::Add(Control& control) {
@@ -58,6 +79,10 @@ void FormBinder::Connect(ControlView& view) {
       return ConnectButton(view);
     case Kind::UpDown:
       return ConnectSteps(view);
+    case Kind::ScrollBar:
+      return ConnectBar(view);
+    case Kind::Picture:
+      return ConnectPicture(view);
     case Kind::Grid:
       return ConnectGrid(view);
     default:
@@ -106,6 +131,30 @@ void FormBinder::ConnectSteps(ControlView& view) {
   Control& control = view.Control();
   connect(pair, &UpDownPair::SteppedUp, this, [this, &control] { Step(control.StepUp); });
   connect(pair, &UpDownPair::SteppedDown, this, [this, &control] { Step(control.StepDown); });
+}
+
+// A message box in the middle of a drag takes the release of the mouse button away from the bar,
+// which would stay pressed and go on scrolling.
+void FormBinder::ConnectBar(ControlView& view) {
+  auto* bar = qobject_cast<QScrollBar*>(view.Widget());
+  connect(bar, &QScrollBar::valueChanged, this, [this, &view, bar](int value) {
+    view.Scrolled(value);
+    Act(view.Control().Change);
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    QMetaObject::invokeMethod(
+        bar, [bar] { Release(*bar); }, Qt::QueuedConnection);
+  });
+}
+
+// A picture learns its size in the middle of the window's own layout: its screen draws behind that.
+void FormBinder::ConnectPicture(ControlView& view) {
+  auto* shown = qobject_cast<PictureView*>(view.Widget());
+  auto& picture = static_cast<screen::Picture&>(view.Control());
+  shown->Attach(picture);
+  connect(shown, &PictureView::Resized, this, [this, &picture] { gate_.Later(picture.Resized); });
+  connect(shown, &PictureView::Pressed, this, [this, &picture](QPointF twips) {
+    if (picture.MouseDown) Act([&] { picture.MouseDown(twips.x(), twips.y()); });
+  });
 }
 
 // The items with a shortcut of their own for the table act on the table only.

@@ -50,6 +50,8 @@ class FormBinder : public QObject {
   void ConnectList(ControlView& view);
   void ConnectButton(ControlView& view);
   void ConnectSteps(ControlView& view);
+  void ConnectBar(ControlView& view);
+  void ConnectPicture(ControlView& view);
   void ConnectGrid(ControlView& view);
   void Enter(ControlView& view);
   void Tick(const screen::Control& ticked, bool on);

@@ -1,0 +1,55 @@
+#include "ui/picture_view.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ui/painter_surface.h"
+#include "ui/text.h"
+
+namespace ui {
+
+PictureView::PictureView(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureView::Attach(screen::Picture& picture) { picture_ = &picture; }
+
+void PictureView::Refresh() {
+  if (!picture_ || picture_->drawing.Revision() == shownRevision_) return;
+  shownRevision_ = picture_->drawing.Revision();
+  Describe();
+  update();
+}
+
+void PictureView::Describe() {
+  QStringList texts;
+  for (const auto& item : picture_->drawing.Items())
+    if (const auto* text = std::get_if<screen::DrawnText>(&item))
+      texts += Lines(text->text).simplified();
+  setAccessibleDescription(texts.join(QLatin1String("; ")));
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::white);
+  if (picture_) PaintDrawing(painter, rect(), picture_->drawing);
+}
+
+void PictureView::resizeEvent(QResizeEvent*) { TakeSize(); }
+
+void PictureView::showEvent(QShowEvent*) { TakeSize(); }
+
+void PictureView::TakeSize() {
+  if (!picture_ || !isVisible() || size().isEmpty()) return;
+  const QPointF scale = Twips({static_cast<double>(width()), static_cast<double>(height())});
+  screen::DrawingRecord& drawing = picture_->drawing;
+  if (drawing.ScaleWidth() == scale.x() && drawing.ScaleHeight() == scale.y()) return;
+  drawing.SetScale(scale.x(), scale.y());
+  emit Resized();
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) emit Pressed(Twips(event->position()));
+}
+
+}  // namespace ui
