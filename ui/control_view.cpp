@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 #include <QVariant>
 
+#include "ui/picture_view.h"
 #include "ui/text.h"
 #include "ui/vkr_grid_view.h"
 

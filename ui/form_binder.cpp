@@ -281,7 +281,6 @@ void FormBinder::Push(bool onPage) {
   for (ControlView& view : views_) view.Push(onPage);
 }
 
-}  // namespace ui
 void FormBinder::Repaint(const Control& control) {
   for (ControlView& view : views_) {
     if (&view.Control() != &control || !view.Widget()) continue;
@@ -290,3 +289,4 @@ void FormBinder::Repaint(const Control& control) {
   }
 }
 
+}  // namespace ui
