@@ -15,10 +15,7 @@ namespace {
 using analysis::RankitsForSampleSize;
 using analysis::Score;
 
-class Rankits : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class Rankits : public table::Delivered {};
 
 TEST_F(Rankits, AreThoseOfTheReferenceTable) {
   for (const support::Row& row : support::ReadTable("rankits.csv")) {

@@ -15,10 +15,7 @@ using analysis::ProbabilityRegression;
 using analysis::Regression;
 using support::Row;
 
-class RegressionTables : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class RegressionTables : public table::Delivered {};
 
 // The record with the limits of the row in force.
 ExposureSession Before(const Row& row) {

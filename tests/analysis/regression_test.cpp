@@ -19,10 +19,7 @@ using analysis::FitState;
 using analysis::ProbabilityRegression;
 using analysis::Regression;
 
-class RegressionLine : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class RegressionLine : public table::Delivered {};
 
 TEST_F(RegressionLine, ThroughThreeOutcomesUsesAllOfThem) {
   ExposureSession s = fit_data::Opened({2, 1, 2, 6});

@@ -19,10 +19,7 @@ using analysis::ShapiroWeights;
 using analysis::ShapiroWilk;
 using support::Row;
 
-class ShapirosTables : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class ShapirosTables : public table::Delivered {};
 
 // A test with two or fewer in range tells nothing; the plain steps show their start values for it.
 bool TooFewInRange(const Row& row) {

@@ -21,10 +21,7 @@ using analysis::ShapiroText;
 using analysis::ShapiroWeights;
 using analysis::ShapiroWilk;
 
-class ShapirosTest : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class ShapirosTest : public table::Delivered {};
 
 ShapiroResult OfPowers(int M, int first, int last) {
   ShapiroWeights weights;

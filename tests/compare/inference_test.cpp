@@ -20,10 +20,8 @@ using compare::Answer;
 using compare::InferenceResult;
 using support::Row;
 
-class Comparison : public ::testing::Test {
+class Comparison : public table::Delivered {
  protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-
   // Statistics of the current data and of the reference.
   void Given(double M, double GM, double GSD, double M2, double GM2, double GSD2) {
     s.M = M;

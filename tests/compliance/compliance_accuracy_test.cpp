@@ -8,51 +8,35 @@
 #include "compliance/wilks.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/record.h"
 
 // How far the compliance tests are from the mathematical values. The bounds are the errors last
 // seen with a little room; they only ever get smaller.
 namespace {
 
 using support::Row;
+using table::WorstAbsolute;
 
-class ComplianceAccuracy : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class ComplianceAccuracy : public table::Delivered {};
 
-// The largest absolute difference.
-struct Largest {
-  double error = 0;
-  std::string where = "none";
-  int rows = 0;
+std::string Where(const Row& row) {
+  return row.Where() + " df " + row.Text("df") + ", " + row.Text("a") + ", " + row.Text("b");
+}
 
-  void Take(double result, double truth, const Row& row) {
-    ++rows;
-    const double now = std::abs(result - truth);
-    if (now <= error) return;
-    error = now;
-    where = row.Where() + " df " + row.Text("df") + ", " + row.Text("a") + ", " + row.Text("b");
-  }
-  void Hold(const std::string& what, double ratchet) const {
-    EXPECT_GT(rows, 0) << what;
-    EXPECT_LE(error, ratchet) << what << ": largest error " << error << " at " << where;
-  }
-};
-
-ExposureSession SessionOf(const Row& row) {
-  ExposureSession s;
-  s.df = row.Number("df");
-  s.GM = 1;
-  s.GSD = 2;
-  s.U = 95;
-  s.D = row.Number("b");
+// With these, a tolerance limit is 2 to the power of its factor.
+ExposureSession Session(double df, double U, double D) {
+  ExposureSession s = support::SampleRecord(df + 1, 1, 2, 1);
+  s.U = U;
+  s.D = D;
   return s;
 }
 
+double ToleranceFactor(double df, double U, double D) {
+  return std::log2(compliance::En689ToleranceLimit(Session(df, U, D)).UTL);
+}
+
 double Factor(const Row& row) {
-  ExposureSession s = SessionOf(row);
-  s.U = row.Number("a");
-  return std::log2(compliance::En689ToleranceLimit(s).UTL);
+  return ToleranceFactor(row.Number("df"), row.Number("a"), row.Number("b"));
 }
 
 double LogLimit(const Row& row) {
@@ -65,8 +49,8 @@ double LogLimit(const Row& row) {
 // Starts next to the answer: from a coverage far off, the confidence is all or nothing, and the
 // search ends with its text at once.
 double Fraction(const Row& row) {
-  ExposureSession s = SessionOf(row);
-  s.U = std::floor(row.Number("true") * 10) / 10 - 0.1;
+  const double U = std::floor(row.Number("true") * 10) / 10 - 0.1;
+  const ExposureSession s = Session(row.Number("df"), U, row.Number("b"));
   const compliance::FractionSearch search = compliance::En689Fraction(s, row.Number("a"));
   EXPECT_EQ(search.text, nullptr) << row.Where();
   return search.u;
@@ -89,9 +73,9 @@ std::string Region(const Row& row) {
 }
 
 TEST_F(ComplianceAccuracy, HoldsAgainstArbitraryPrecision) {
-  std::map<std::string, Largest> regions;
+  std::map<std::string, WorstAbsolute> regions;
   for (const Row& row : support::ReadTable("compliance_truth.csv"))
-    regions[Region(row)].Take(Measured(row), row.Number("true"), row);
+    regions[Region(row)].Take(Measured(row), row.Number("true"), Where(row));
   const std::map<std::string, double> ratchets{
       {"wilks", 7e-13},     {"wilks, many degrees of freedom", 7e-13},
       {"wilksutl", 1.7e-5}, {"wilksutl, many degrees of freedom", 5.2e-13},
@@ -104,37 +88,26 @@ TEST_F(ComplianceAccuracy, HoldsAgainstArbitraryPrecision) {
 
 // The search stops within 0.001 percent of the confidence, so the factor is as good as that.
 TEST_F(ComplianceAccuracy, TheTabulatedToleranceFactorsComeOutWithinTheStopOfTheSearch) {
-  Largest exact;
-  Largest approximate;
+  WorstAbsolute exact;
+  WorstAbsolute approximate;
   for (const Row& row : support::ReadTable("tolerance_k_derived.csv")) {
-    const Row inputs(
-        {{"df", row.Text("n")}, {"a", row.Text("coverage")}, {"b", row.Text("confidence")}},
-        row.Where());
-    ExposureSession s;
-    s.df = row.Number("n") - 1;
-    s.GM = 1;
-    s.GSD = 2;
-    s.U = 100 * row.Number("coverage");
-    s.D = 100 * row.Number("confidence");
-    const double k = std::log2(compliance::En689ToleranceLimit(s).UTL);
-    (s.df <= 200 ? exact : approximate).Take(k / row.Number("k"), 1, inputs);
+    const double df = row.Number("n") - 1;
+    const double k =
+        ToleranceFactor(df, 100 * row.Number("coverage"), 100 * row.Number("confidence"));
+    (df <= 200 ? exact : approximate)
+        .Take(k / row.Number("k"), 1,
+              row.Where() + " n " + row.Text("n") + ", " + row.Text("coverage") + ", " +
+                  row.Text("confidence"));
   }
   exact.Hold("factors, relative", 5.2e-4);
   approximate.Hold("factors, relative, many degrees of freedom", 1.9e-3);
 }
 
 TEST_F(ComplianceAccuracy, TheFactorsOfTheStandardComeOutToItsLastDecimal) {
-  Largest factors;
+  WorstAbsolute factors;
   for (const Row& row : support::ReadTable("en689_2018_table_UT.csv")) {
-    const Row inputs({{"df", row.Text("n")}, {"a", ""}, {"b", ""}}, row.Where());
-    ExposureSession s;
-    s.df = row.Number("n") - 1;
-    s.GM = 1;
-    s.GSD = 2;
-    s.U = 95;
-    s.D = 70;
-    factors.Take(std::log2(compliance::En689ToleranceLimit(s).UTL), row.Number("UT_published"),
-                 inputs);
+    factors.Take(ToleranceFactor(row.Number("n") - 1, 95, 70), row.Number("UT_published"),
+                 row.Where() + " n " + row.Text("n"));
   }
   factors.Hold("factors UT", 5e-4);
 }

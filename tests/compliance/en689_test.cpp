@@ -9,6 +9,7 @@
 #include "stats/student.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/record.h"
 
 // The EN 689 test: its confidence, its two searches, its verdict.
 namespace {
@@ -17,32 +18,17 @@ using compliance::En689Box;
 using compliance::En689Result;
 using support::Row;
 
-class En689 : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class En689 : public table::Delivered {};
 
 ExposureSession Session(double M, double GM, double GSD, double OELV, double U = 95,
                         double D = 70) {
-  ExposureSession s;
-  s.M = M;
-  s.df = M - 1;
-  s.GM = GM;
-  s.GSD = GSD;
-  s.OELV = OELV;
+  ExposureSession s = support::SampleRecord(M, GM, GSD, OELV);
   s.U = U;
   s.D = D;
   return s;
 }
 
 double Distance(const ExposureSession& s) { return std::log(*s.OELV / s.GM) / std::log(s.GSD); }
-
-ExposureSession SessionOf(const Row& row) {
-  ExposureSession s = Session(row.Number("M"), row.Number("GM"), row.Number("GSD"),
-                              row.Number("OELV"), row.Number("U"), row.Number("D"));
-  s.df = row.Number("df");
-  return s;
-}
 
 // Rows whose plain search never ends, or ends in a text that speaks of the other end. What they
 // give here has its own tests below.
@@ -67,7 +53,7 @@ void ExpectFraction(const Row& row, const compliance::FractionSearch& fraction) 
 TEST_F(En689, EverySessionOfTheTableGetsItsConfidenceItsLimitItsFractionAndItsVerdict) {
   int fractions = 0;
   for (const Row& row : support::ReadTable("sessions_tests.csv")) {
-    ExposureSession s = SessionOf(row);
+    ExposureSession s = support::RecordOf(row);
     const En689Result result = compliance::En689Test(s, row.Number("Ur"));
     EXPECT_EQ(s.TestTag, "Tu");
     if (row.Text("Tu_margin").empty() || !(row.Number("Tu_margin") > 1e-7)) continue;
@@ -91,7 +77,7 @@ TEST_F(En689, ASearchThatCanMoveNoMoreStandsOnItsLastCandidate) {
   int hangs = 0;
   for (const Row& row : support::ReadTable("sessions_tests.csv")) {
     if (row.Text("note").find("too coarse") == std::string::npos) continue;
-    ExposureSession s = SessionOf(row);
+    ExposureSession s = support::RecordOf(row);
     const En689Result result = compliance::En689Test(s, row.Number("Ur"));
     ExpectFraction(row, result.fraction);
     EXPECT_LT(result.fraction.evaluations, 110) << row.Where();
@@ -201,7 +187,7 @@ TEST_F(En689, ASearchMisledAt50PercentRunsOnceMore) {
   int misled = 0;
   for (const Row& row : support::ReadTable("sessions_tests.csv")) {
     if (row.Text("note").find("p = 0.5") == std::string::npos) continue;
-    ExposureSession s = SessionOf(row);
+    ExposureSession s = support::RecordOf(row);
     const compliance::FractionSearch search = compliance::En689Fraction(s, row.Number("Ur"));
     EXPECT_TRUE(search.ranTwice) << row.Where();
     EXPECT_EQ(search.text, nullptr);

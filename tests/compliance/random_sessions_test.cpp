@@ -16,10 +16,8 @@
 // the tuned stepping finds what single steps find.
 namespace {
 
-class RandomSessions : public ::testing::Test {
+class RandomSessions : public table::Delivered {
  protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-
   double Part() { return std::uniform_real_distribution<double>(0, 1)(rng); }
   double Between(double low, double high) { return low * std::pow(high / low, Part()); }
   double Percent() {

@@ -13,6 +13,7 @@
 #include "catalog/catalog.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/record.h"
 
 // The optimisation of the sample size: its cases, its boxes, its words.
 namespace {
@@ -22,21 +23,13 @@ using compliance::SampleSizeCase;
 using compliance::SampleSizeResult;
 using support::Row;
 
-class SampleSize : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class SampleSize : public table::Delivered {};
 
 ExposureSession Session(double M, double GM, double GSD, double OELV, double U = 95) {
-  ExposureSession s;
+  ExposureSession s = support::SampleRecord(M, GM, GSD, OELV);
   s.TestTag = "Wi";
   s.CR = "\r\n";
-  s.M = M;
-  s.df = M - 1;
   s.NInRange = static_cast<std::int16_t>(M);
-  s.GM = GM;
-  s.GSD = GSD;
-  s.OELV = OELV;
   s.U = U;
   return s;
 }

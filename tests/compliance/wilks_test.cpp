@@ -9,6 +9,7 @@
 #include "session/global_bas.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/record.h"
 
 // The Wilks test: its exceedance, its tolerance limit, its bounds.
 namespace {
@@ -17,23 +18,9 @@ using compliance::Clamp;
 using compliance::WilksResult;
 using support::Row;
 
-class Wilks : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class Wilks : public table::Delivered {};
 
 const std::vector<std::string> kInputs{"note", "df", "GM", "GSD", "OELV", "U"};
-
-ExposureSession SessionOf(const Row& row) {
-  ExposureSession s;
-  s.M = row.Number("M");
-  s.df = row.Number("df");
-  s.GM = row.Number("GM");
-  s.GSD = row.Number("GSD");
-  s.OELV = row.Number("OELV");
-  s.U = row.Number("U");
-  return s;
-}
 
 Clamp ClampOf(const Row& row) {
   if (row.Text("Wi_clamp").empty()) return Clamp::None;
@@ -43,7 +30,7 @@ Clamp ClampOf(const Row& row) {
 TEST_F(Wilks, EverySessionOfTheTableGetsItsExceedanceItsLimitAndItsVerdict) {
   for (const Row& row : support::ReadTable("sessions_tests.csv")) {
     ASSERT_EQ(row.Text("Wi_state"), "ok") << row.Where();
-    ExposureSession s = SessionOf(row);
+    ExposureSession s = support::RecordOf(row);
     const WilksResult result = compliance::WilksTest(s, row.Number("Ur"));
     EXPECT_EQ(s.TestTag, "Wi");
     // Far out the finite series cancels: the last digit of 100 is all that is left.
@@ -79,9 +66,7 @@ TEST_F(Wilks, HalfThePopulationStaysBelowTheGeometricMean) {
 
 // ln GM + g ln GSD beyond 700, while ln GM - g ln GSD is still above -700.
 ExposureSession JustAbove() {
-  ExposureSession s;
-  s.df = 1;
-  s.GM = 100;
+  ExposureSession s = support::SampleRecord(2, 100, 1, 1);
   s.U = 99.99;
   const double g = compliance::WilksToleranceLimit(1, 1.001, s.U, s.df).WilksFactor *
                    compliance::WilksSpread(s.df);
@@ -129,11 +114,8 @@ TEST_F(Wilks, ALimitBelowAllNumbersForACoverageBelow50IsShownAs0WithoutAMessage)
 }
 
 TEST_F(Wilks, RegressionEstimatesAndReducedDegreesOfFreedomAreTakenAsTheyStand) {
-  ExposureSession s;
-  s.M = 20;
+  ExposureSession s = support::SampleRecord(20, 0.3, 2, 1);
   s.df = 6;
-  s.GM = 0.3;
-  s.GSD = 2;
   s.U = 95;
   compliance::WilksTest(s, 1.7);
   EXPECT_EQ(s.PercEx, compliance::WilksExceedance(6, 1.7));

@@ -16,10 +16,7 @@ using StatFWinBAS::NormalUpper;
 using StatFWinBAS::NormalUpperHill;
 using StatFWinBAS::NormalUpperInverse;
 
-class NormalFunctions : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class NormalFunctions : public table::Delivered {};
 
 using NormalArea = NormalFunctions;
 using HillsArea = NormalFunctions;

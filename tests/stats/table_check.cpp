@@ -1,7 +1,6 @@
 #include "tests/stats/table_check.h"
 
-#include <gtest/gtest.h>
-
+#include <cmath>
 #include <iomanip>
 
 #include "base/fault.h"
@@ -43,19 +42,25 @@ void Expect(const support::Row& row, const std::vector<std::string>& inputs,
   }
 }
 
-void Worst::Take(double result, double truth, const std::string& row) {
+void Seen::Note(double now, const std::string& row) {
   ++rows;
-  const double now = support::RelativeError(result, truth);
-  if (!(now <= error)) {
-    error = now;
-    where = row;
-  }
+  if (now <= error || std::isnan(error)) return;
+  error = now;
+  where = row;
 }
 
-void Worst::Hold(const std::string& what, double ratchet) const {
+void Seen::Hold(const std::string& what, double ratchet) const {
   EXPECT_GT(rows, 0) << what << ": no row in this region";
-  EXPECT_LE(error, ratchet) << what << ": largest relative error " << error << " at " << where
+  EXPECT_LE(error, ratchet) << what << ": largest error " << error << " at " << where
                             << ", last seen below " << ratchet;
+}
+
+void Worst::Take(double result, double truth, const std::string& row) {
+  Note(support::RelativeError(result, truth), row);
+}
+
+void WorstAbsolute::Take(double result, double truth, const std::string& row) {
+  Note(std::abs(result - truth), row);
 }
 
 void LoadDelivered() { StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"}); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -15,18 +17,32 @@ namespace table {
 void Expect(const support::Row& row, const std::vector<std::string>& inputs,
             const std::string& column, double tolerance, const std::function<double()>& routine);
 
-// The largest relative error seen, with the row that gave it.
-struct Worst {
+// The largest error seen, with the row that gave it. An error that is no number is the largest.
+struct Seen {
   double error = 0;
   std::string where = "none";
   int rows = 0;
 
-  void Take(double result, double truth, const std::string& row);
+  void Note(double now, const std::string& row);
   // Fails when the error exceeds `ratchet`, and when no row came.
   void Hold(const std::string& what, double ratchet) const;
 };
 
+struct Worst : Seen {  // relative
+  void Take(double result, double truth, const std::string& row);
+};
+
+struct WorstAbsolute : Seen {
+  void Take(double result, double truth, const std::string& row);
+};
+
 // Loads the delivered coefficient files.
 void LoadDelivered();
+
+// Tests that need them.
+class Delivered : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { LoadDelivered(); }
+};
 
 }  // namespace table

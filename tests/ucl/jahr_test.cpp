@@ -7,31 +7,18 @@
 #include "base/fault.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/record.h"
 #include "ucl/mean_limit.h"
 
 namespace {
 
 using ucl::JahrUCL;
 
-ExposureSession Sample(const support::Row& row) {
-  ExposureSession s;
-  s.M = row.Number("M");
-  s.df = row.Number("df");
-  s.GM = row.Number("GM");
-  s.GSD = row.Number("GSD");
-  s.OELV = row.Number("OELV");
-  s.D = row.Number("D");
-  return s;
-}
-
-class Jahr : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class Jahr : public table::Delivered {};
 
 TEST_F(Jahr, FollowsTheMethodsOwnSteps) {
   for (const support::Row& row : support::ReadTable("jahr.csv")) {
-    ExposureSession s = Sample(row);
+    ExposureSession s = support::RecordOf(row);
     ucl::MeanStatistics(s);
     EXPECT_NEAR(s.AMu, row.Number("AMu"), 1e-13 * row.Number("AMu")) << row.Where();
     ucl::JahrLimits(s);
@@ -77,30 +64,33 @@ TEST_F(Jahr, TheLimitRisesWithTheConfidenceAndTheExceedanceFallsWithTheLimitValu
   }
 }
 
-TEST_F(Jahr, AGSDOf1OrAMeanOf0IsAFaultAndLeavesTheRecord) {
-  ExposureSession s;
-  s.df = 9;
+// Ten samples whose mean is known.
+ExposureSession Ten(double AMu, double GSD) {
+  ExposureSession s = support::SampleRecord(10, 1, GSD, 5);
+  s.AMu = AMu;
   s.D = 95;
-  s.OELV = 5;
   s.UCL = 1.25;
   s.PercEx = 12.5;
-  s.GSD = 1;
-  s.AMu = 2;
-  EXPECT_THROW(ucl::JahrLimits(s), RunTimeError);
-  s.GSD = 2;
-  s.AMu = 0;
+  return s;
+}
+
+void ExpectFaultLeavesTheRecord(ExposureSession s) {
   EXPECT_THROW(ucl::JahrLimits(s), RunTimeError);
   EXPECT_EQ(s.UCL, 1.25);
   EXPECT_EQ(s.PercEx, 12.5);
 }
 
+TEST_F(Jahr, AGSDOf1OrAMeanOf0IsAFaultAndLeavesTheRecord) {
+  ExpectFaultLeavesTheRecord(Ten(2, 1));
+  ExpectFaultLeavesTheRecord(Ten(0, 2));
+}
+
 TEST_F(Jahr, WithoutALimitValueThereIsAFault) {
-  ExposureSession s;
-  s.df = 9;
-  s.D = 95;
-  s.GSD = 2;
-  s.AMu = 2;
-  EXPECT_THROW(ucl::JahrLimits(s), RunTimeError);
+  ExposureSession s = Ten(2, 2);
+  EXPECT_NO_THROW(ucl::JahrLimits(s));
+  ExposureSession without = Ten(2, 2);
+  without.OELV.reset();
+  ExpectFaultLeavesTheRecord(without);
 }
 
 }  // namespace

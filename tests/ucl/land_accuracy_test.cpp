@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
@@ -28,22 +29,24 @@ TEST(LandAccuracy, OfTheDensityIsAsStated) {
   worst.Hold("LandIntegrand", 5.5e-12);
 }
 
+std::vector<support::Row> RowsOf(const std::string& function, double from, double to) {
+  std::vector<support::Row> rows = support::ReadTable("land_truth.csv");
+  std::erase_if(rows, [&](const support::Row& row) {
+    return row.Text("function") != function || row.Number("nu") < from || row.Number("nu") > to;
+  });
+  return rows;
+}
+
+std::string Described(const support::Row& row) {
+  return row.Where() + " nu " + row.Text("nu") + " s " + row.Text("a2") + ", " + row.Text("a3");
+}
+
 void HoldProbability(double from, double to, double ratchet) {
-  double worst = 0;
-  std::string where = "no row";
-  for (const support::Row& row : support::ReadTable("land_truth.csv")) {
-    const double nu = row.Number("nu");
-    if (row.Text("function") != "LandProbability" || nu < from || nu > to) continue;
-    const double H = UCLBAS::LandProbability(nu, row.Number("a2"), row.Number("a3"));
-    const double error = std::abs(H - row.Number("true"));
-    if (!(error <= worst)) {
-      worst = error;
-      where =
-          row.Where() + " nu " + row.Text("nu") + " s " + row.Text("a2") + " c " + row.Text("a3");
-    }
-  }
-  EXPECT_GT(worst, 0) << where;
-  EXPECT_LE(worst, ratchet) << where;
+  table::WorstAbsolute worst;
+  for (const support::Row& row : RowsOf("LandProbability", from, to))
+    worst.Take(UCLBAS::LandProbability(row.Number("nu"), row.Number("a2"), row.Number("a3")),
+               row.Number("true"), Described(row));
+  worst.Hold("LandProbability", ratchet);
 }
 
 // With one degree of freedom the density falls off like 1 / x squared, and what lies beyond the
@@ -58,23 +61,14 @@ TEST(LandAccuracy, OfTheProbabilityIsAsStated) {
 // The error of the root as a fraction of the root, or of s / sqrt(nu) where the root is smaller:
 // the stop is relative and so is the scale of H.
 void HoldRoot(double from, double to, double ratchet) {
-  double worst = 0;
-  std::string where = "no row";
-  for (const support::Row& row : support::ReadTable("land_truth.csv")) {
-    const double nu = row.Number("nu");
-    if (row.Text("function") != "LandExactUCL" || nu < from || nu > to) continue;
-    const double s = row.Number("a2");
-    const double truth = row.Number("true");
+  table::WorstAbsolute worst;
+  for (const support::Row& row : RowsOf("LandExactUCL", from, to)) {
+    const double nu = row.Number("nu"), s = row.Number("a2"), truth = row.Number("true");
     const LandLimit limit = LandExactUCL(0.5, nu, s, 0, row.Number("a3"));
-    const double error = std::abs(limit.C - truth) / std::max(std::abs(truth), s / std::sqrt(nu));
-    if (!(error <= worst)) {
-      worst = error;
-      where = row.Where() + " nu " + row.Text("nu") + " s " + row.Text("a2") + " confidence " +
-              row.Text("a3");
-    }
+    const double unit = std::max(std::abs(truth), s / std::sqrt(nu));
+    worst.Take(limit.C / unit, truth / unit, Described(row));
   }
-  EXPECT_GT(worst, 0) << where;
-  EXPECT_LE(worst, ratchet) << where;
+  worst.Hold("Land's root", ratchet);
 }
 
 TEST(LandAccuracy, OfTheRootIsAsStated) {

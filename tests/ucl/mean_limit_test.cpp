@@ -9,6 +9,7 @@
 #include "base/fault.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/record.h"
 
 namespace {
 
@@ -19,12 +20,7 @@ using ucl::LandResult;
 using UCLBAS::LandWatch;
 
 ExposureSession Sample(double M, double GM, double GSD, double OELV, double D) {
-  ExposureSession s;
-  s.M = M;
-  s.df = M - 1;
-  s.GM = GM;
-  s.GSD = GSD;
-  s.OELV = OELV;
+  ExposureSession s = support::SampleRecord(M, GM, GSD, OELV);
   s.D = D;
   ucl::MeanStatistics(s);
   return s;
@@ -35,10 +31,7 @@ ExposureSession Sample(const support::Row& row) {
                 row.Number("D"));
 }
 
-class LandClick : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class LandClick : public table::Delivered {};
 
 TEST(LandGate, OffersTheMethodFrom3To1000SamplesOnly) {
   EXPECT_FALSE(LandIsOffered(2, 95));
