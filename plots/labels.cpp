@@ -8,18 +8,33 @@ namespace {
 
 constexpr double kTwipsPerPoint = 20;
 
-constexpr double kLetterWidth = 0.56;  // mean width of a letter; the widest stand-in has this
+// An upper estimate of a letter's width, in font sizes, for the fonts that stand in for Arial.
+double LetterWidth(char letter) {
+  constexpr std::string_view kNarrow = " .,:;'|!()[]/\\-Ifijlrt";
+  constexpr std::string_view kWide = "MW%@mw&";
+  if (kNarrow.find(letter) != std::string_view::npos) return 0.36;
+  if (kWide.find(letter) != std::string_view::npos) return 0.92;
+  // The second byte of a letter beyond ASCII takes no room of its own.
+  if ((static_cast<unsigned char>(letter) & 0xC0) == 0x80) return 0;
+  return letter >= 'A' && letter <= 'Z' ? 0.74 : 0.6;
+}
+
+double LineWidth(std::string_view line) {
+  double width = 0;
+  for (const char letter : line) width += LetterWidth(letter);
+  return width;
+}
 
 std::string_view WithoutLastLineEnd(std::string_view text) {
   while (text.ends_with('\r')) text.remove_suffix(1);
   return text;
 }
 
-std::size_t LongestLine(std::string_view text) {
-  std::size_t longest = 0;
+double LongestLine(std::string_view text) {
+  double longest = 0;
   while (true) {
     const std::size_t end = text.find('\r');
-    longest = std::max(longest, std::min(end, text.size()));
+    longest = std::max(longest, LineWidth(text.substr(0, end)));
     if (end == std::string_view::npos) return longest;
     text.remove_prefix(end + 1);
   }
@@ -42,7 +57,7 @@ double RowHeight(const screen::TextStyle& style) {
 }
 
 double TextWidth(const std::string& text, double size) {
-  return kTwipsPerPoint * kLetterWidth * size * static_cast<double>(LongestLine(text));
+  return kTwipsPerPoint * size * LongestLine(text);
 }
 
 int RowCount(const std::string& text) {
