@@ -1,0 +1,54 @@
+#include "plots/labels.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using PlotWBas::Label;
+using PlotWBas::Labels;
+using PlotWBas::SpreadOut;
+using Centres = std::vector<double>;
+
+// Labels that fall on each other can't be read.
+TEST(PlotLabels, ThatAreFarEnoughApartStayWhereTheyAre) {
+  EXPECT_EQ(SpreadOut({{100, 10}, {300, 10}, {200, 10}}, 0, 400), (Centres{100, 300, 200}));
+}
+
+TEST(PlotLabels, ThatOverlapMoveApartInTheirOrder) {
+  EXPECT_EQ(SpreadOut({{100, 10}, {105, 10}, {90, 10}}, 0, 400), (Centres{110, 130, 90}));
+}
+
+TEST(PlotLabels, StayWithinTheirRoom) {
+  EXPECT_EQ(SpreadOut({{395, 10}, {390, 10}}, 0, 400), (Centres{390, 370}));
+  EXPECT_EQ(SpreadOut({{2, 10}, {1, 10}}, 0, 400), (Centres{30, 10}));
+}
+
+TEST(PlotLabels, TakeNoMoreThanTheirWidth) {
+  EXPECT_EQ(PlotWBas::FittingSize("short", 10000, 8, 6), 8);
+  const std::string text(100, 'x');
+  const double size = PlotWBas::FittingSize(text, 8000, 8, 6);
+  EXPECT_LT(size, 8);
+  EXPECT_NEAR(PlotWBas::TextWidth(text, size), 8000, 1e-6);
+  EXPECT_EQ(PlotWBas::FittingSize(std::string(1000, 'x'), 8000, 8, 6), 6);
+}
+
+TEST(PlotLabels, CountTheLinesThatAreShown) {
+  EXPECT_EQ(PlotWBas::RowCount(""), 0);
+  EXPECT_EQ(PlotWBas::RowCount("a"), 1);
+  EXPECT_EQ(PlotWBas::RowCount("a\rb\r"), 2);
+  EXPECT_EQ(PlotWBas::TextWidth("ab\rabcd\rabc", 9), PlotWBas::TextWidth("abcd", 9));
+}
+
+TEST(PlotLabels, AreDrawnWithoutALineEndBehindThem) {
+  screen::DrawingRecord drawing(1000, 1000);
+  const Labels labels = {{"One", "a\rb\r", {1, 2}, {}}, {"Two", "", {3, 4}, {}}};
+  PlotWBas::WriteLabels(drawing, labels);
+  ASSERT_EQ(drawing.Items().size(), 2U);
+  const auto& one = std::get<screen::DrawnText>(drawing.Items()[0]);
+  EXPECT_EQ(one.label, "One");
+  EXPECT_EQ(one.text, "a\rb");
+  EXPECT_EQ(PlotWBas::FindLabel(labels, "Two"), &labels[1]);
+  EXPECT_EQ(PlotWBas::FindLabel(labels, "Three"), nullptr);
+}
+
+}  // namespace
