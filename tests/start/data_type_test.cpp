@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "tests/support/program_session.h"
+#include "tests/support/start_screen.h"
 
 // The choice between a raw series and known descriptive statistics.
 namespace {
@@ -8,18 +8,10 @@ namespace {
 using screen::Answer;
 using support::ProgramSession;
 
-// Name of the field that the screen has moved the focus to since the last call.
-std::string Focus(ProgramSession& user) {
-  screen::Control* wanted = std::exchange(user.Shown().focusWanted, nullptr);
-  return wanted ? wanted->name : "";
-}
-
 // A series with one outcome changed since it was read.
 void OpenAndEdit(ProgramSession& user) {
   user.OpenSeries({1, 2, 4, 8});
-  auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
-  ASSERT_TRUE(grid.Write(0, 2, "1.5"));
-  grid.CommitRow();
+  support::EditOutcome(user, 0, "1.5");
   ASSERT_TRUE(user.Tab("basis"));
 }
 
@@ -32,12 +24,8 @@ void MouseClick(ProgramSession& user, const std::string& name) {
 TEST(DataType, RawDataAsksForTheFile) {
   ProgramSession user;
   user.Click("RawOpt");
-  EXPECT_EQ(user.Record().Mode, "R");
-  EXPECT_TRUE(user.At("RawOpt").ticked);
-  EXPECT_FALSE(user.At("DesOpt").ticked);
-  EXPECT_EQ(user.Text("WindnrLbl"), "8");
-  EXPECT_EQ(user.Text("BoodschLbl"),
-            "Analyze a series sampling outcome. Click on &File and make your choice.\r");
+  ExpectKindOfData(user, "R", "8",
+                   "Analyze a series sampling outcome. Click on &File and make your choice.\r");
   EXPECT_TRUE(user.At("menuopen").enabled);
   EXPECT_TRUE(user.At("MenuNewVkrFil").enabled);
   EXPECT_FALSE(user.At("menuExtrPol").enabled);
@@ -47,13 +35,9 @@ TEST(DataType, RawDataAsksForTheFile) {
 TEST(DataType, KnownStatisticsAskForNameAndSampleSize) {
   ProgramSession user;
   user.Click("DesOpt");
-  EXPECT_EQ(user.Record().Mode, "D");
-  EXPECT_TRUE(user.At("DesOpt").ticked);
-  EXPECT_FALSE(user.At("RawOpt").ticked);
-  EXPECT_EQ(user.Text("WindnrLbl"), "7");
-  EXPECT_EQ(user.Text("BoodschLbl"),
-            "Analyze a Lognormal distribution using his descriptive statistics. "
-            "Enter a name and the sample size.\r");
+  ExpectKindOfData(user, "D", "7",
+                   "Analyze a Lognormal distribution using his descriptive statistics. "
+                   "Enter a name and the sample size.\r");
   for (const char* menu : {"menuopen", "MenuNewVkrFil", "menuExtrPol", "MenuPlot"})
     EXPECT_FALSE(user.At(menu).enabled) << menu;
   EXPECT_TRUE(user.At("IdentFrame").visible);
@@ -76,37 +60,30 @@ TEST(DataType, RawDataEndsEnteredStatisticsWithoutAQuestion) {
   user.EnterStatistics("Welders", "12", "1.5", "2.5");
   user.Click("RawOpt");
   EXPECT_EQ(user.Record().Mode, "R");
-  EXPECT_EQ(user.Record().Name, "");
-  EXPECT_EQ(user.Record().M, 0);
   EXPECT_EQ(user.Record().GM, 0);
   EXPECT_EQ(user.Text("WindnrLbl"), "8");
   EXPECT_THAT(user.Text("BoodschLbl"), testing::StartsWith("Analyze a series"));
   EXPECT_FALSE(user.At("TabBasis").visible);
-  EXPECT_TRUE(user.box.shown.empty());
+  ExpectNoSeries(user);
 }
 
 TEST(DataType, KnownStatisticsEndASavedSeriesWithoutAQuestion) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Click("DesOpt");
   EXPECT_EQ(user.Record().Mode, "D");
-  EXPECT_EQ(user.Record().Name, "");
-  EXPECT_EQ(user.Record().M, 0);
   EXPECT_EQ(user.Text("NameTxB"), "");
   EXPECT_EQ(user.Record().C.size(), 1u);
-  EXPECT_TRUE(user.box.shown.empty());
+  ExpectNoSeries(user);
 }
 
 TEST(DataType, RawDataEndsASavedSeriesWithoutAQuestion) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Click("RawOpt");
   EXPECT_EQ(user.Record().Mode, "R");
-  EXPECT_EQ(user.Record().M, 0);
   EXPECT_FALSE(user.At("IdentFrame").visible);
-  EXPECT_TRUE(user.box.shown.empty());
+  ExpectNoSeries(user);
 }
 
 TEST(DataType, EitherChoiceAsksBeforeUnsavedOutcomesGo) {

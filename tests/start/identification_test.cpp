@@ -1,16 +1,11 @@
 #include <gmock/gmock.h>
 
-#include "tests/support/program_session.h"
+#include "tests/support/start_screen.h"
 
 // Name, sample size, and in mode "D" the geometric mean and standard deviation.
 namespace {
 
 using support::ProgramSession;
-
-std::string Focus(ProgramSession& user) {
-  screen::Control* wanted = std::exchange(user.Shown().focusWanted, nullptr);
-  return wanted ? wanted->name : "";
-}
 
 TEST(KnownStatistics, EachValidEntryOpensTheNextStep) {
   ProgramSession user;
@@ -164,8 +159,7 @@ TEST(Identification, TheUpDownPairStepsTheSampleSizeByOneWithinItsLimits) {
 
 TEST(Identification, InModeRALargerSampleLeavesTheSeriesIncompleteUntilItIsFilled) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Type("SampSizTxB", "6");
   EXPECT_EQ(user.Record().C.size(), 7u);
   EXPECT_EQ(user.Record().LnC.size(), 7u);
@@ -179,8 +173,7 @@ TEST(Identification, InModeRALargerSampleLeavesTheSeriesIncompleteUntilItIsFille
 
 TEST(Identification, InModeRASmallerSampleDropsNoOutcomeYet) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Type("SampSizTxB", "3");
   EXPECT_EQ(user.Record().M, 3);
   EXPECT_FALSE(user.Record().RawIncomplete);
@@ -191,8 +184,7 @@ TEST(Identification, InModeRASmallerSampleDropsNoOutcomeYet) {
 
 TEST(Identification, ARefusedSampleSizeLeavesTheSeriesAloneAndHidesContinue) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Type("SampSizTxB", "1");
   EXPECT_EQ(user.Record().C.size(), 5u);
   EXPECT_FALSE(user.Record().IdentOk);
@@ -206,8 +198,7 @@ TEST(Identification, ARefusedSampleSizeLeavesTheSeriesAloneAndHidesContinue) {
 
 TEST(Identification, InModeRNameAndSampleSizeShowAndCanBeChanged) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   EXPECT_EQ(user.Text("NameTxB"), user.Record().Name);
   EXPECT_EQ(user.Text("SampSizTxB"), "4");
   for (const char* field : {"NameTxB", "SampSizTxB"}) EXPECT_FALSE(user.At(field).locked) << field;

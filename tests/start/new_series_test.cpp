@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "tests/support/program_session.h"
+#include "tests/support/start_screen.h"
 
 // A series without a file: named, sized and then typed.
 namespace {
@@ -10,37 +10,28 @@ using support::ProgramSession;
 TEST(NewSeries, AsksForNameAndSampleSize) {
   ProgramSession user;
   user.Click("MenuNewVkrFil");
-  EXPECT_EQ(user.Record().Mode, "R");
+  ExpectKindOfData(user, "R", "6", "Create a Raw data file. Enter a name and the sample size.\r");
   EXPECT_TRUE(user.Record().RawIncomplete);
   EXPECT_FALSE(user.Record().DetecOn);
-  EXPECT_TRUE(user.At("RawOpt").ticked);
-  EXPECT_FALSE(user.At("DesOpt").ticked);
-  EXPECT_EQ(user.Text("WindnrLbl"), "6");
   EXPECT_TRUE(user.At("IdentFrame").visible);
   EXPECT_TRUE(user.At("BoodschFrame").visible);
-  EXPECT_EQ(user.Text("BoodschLbl"), "Create a Raw data file. Enter a name and the sample size.\r");
   for (const char* name : {"DesRawFrame", "menuopen", "MenuNewVkrFil"})
     EXPECT_FALSE(user.At(name).enabled) << name;
-  ASSERT_NE(user.Shown().focusWanted, nullptr);
-  EXPECT_EQ(user.Shown().focusWanted->name, "NameTxB");
+  EXPECT_EQ(Focus(user), "NameTxB");
 }
 
 TEST(NewSeries, ClosesAnOpenSeriesFirst) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Click("MenuNewVkrFil");
-  EXPECT_EQ(user.Record().Name, "");
-  EXPECT_EQ(user.Record().M, 0);
   EXPECT_EQ(user.Text("NameTxB"), "");
   EXPECT_FALSE(user.At("TabBasis").visible);
-  EXPECT_TRUE(user.box.shown.empty());
+  ExpectNoSeries(user);
 }
 
 TEST(NewSeries, AsksBeforeUnsavedOutcomesGoAndNoKeepsThem) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Type("SampSizTxB", "3");
   user.Click("MenuNewVkrFil");
   EXPECT_EQ(user.box.shown.size(), 1u);
@@ -75,9 +66,7 @@ TEST(NewSeries, BeforeAnyLimitOnlyTheTableCanBeReached) {
 
 TEST(NewSeries, ContinueLeadsToATableOfThatManyRows) {
   ProgramSession user;
-  user.Click("MenuNewVkrFil");
-  user.Type("NameTxB", "Solvent");
-  user.Type("SampSizTxB", "3");
+  support::NewSeries(user, "Solvent", "3");
   user.Click("CmdContinu");
   EXPECT_EQ(user.Shown().name, "DataCtrlForm");
   EXPECT_EQ(user.Record().C, (std::vector<double>{0, 0, 0, 0}));
@@ -89,8 +78,7 @@ TEST(NewSeries, ContinueLeadsToATableOfThatManyRows) {
 
 TEST(NewSeries, ContinueKeepsTheOutcomesTypedBefore) {
   ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
+  OpenAndReturn(user);
   user.Type("SampSizTxB", "5");
   user.Click("CmdContinu");
   EXPECT_EQ(user.Shown().name, "DataCtrlForm");
@@ -99,9 +87,7 @@ TEST(NewSeries, ContinueKeepsTheOutcomesTypedBefore) {
 
 TEST(NewSeries, TypedToTheEndItHasStatisticsAndGoesByItsName) {
   ProgramSession user;
-  user.Click("MenuNewVkrFil");
-  user.Type("NameTxB", "Solvent");
-  user.Type("SampSizTxB", "3");
+  support::NewSeries(user, "Solvent", "3");
   user.Click("CmdContinu");
   auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
   for (const auto& [row, text] : {std::pair{0, "4"}, {1, "1"}, {2, "2"}}) {

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "tests/support/program_session.h"
+#include "tests/support/start_screen.h"
 
 // Whether the series differs from its file, and the question before it goes.
 namespace {
@@ -10,15 +10,9 @@ namespace {
 using screen::Answer;
 using support::ProgramSession;
 
-void Edit(ProgramSession& user, int row, const std::string& text) {
-  auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
-  ASSERT_TRUE(grid.Write(row, 2, text));
-  grid.CommitRow();
-}
-
 void OpenAndEdit(ProgramSession& user) {
   user.OpenSeries({1, 2, 4, 8});
-  Edit(user, 0, "1.5");
+  EditOutcome(user, 0, "1.5");
 }
 
 void Save(ProgramSession& user, const std::string& path) {
@@ -37,7 +31,7 @@ TEST(Unsaved, AnEditMakesItUnsavedAndTakingItBackSavedAgain) {
   ProgramSession user;
   OpenAndEdit(user);
   EXPECT_TRUE(user.program.Unsaved());
-  Edit(user, 0, "1");
+  EditOutcome(user, 0, "1");
   EXPECT_FALSE(user.program.Unsaved());
 }
 
@@ -71,12 +65,10 @@ TEST(Unsaved, ACancelledSaveLeavesItUnsaved) {
 
 TEST(Unsaved, ANewSeriesWithNothingTypedHasNothingToLose) {
   ProgramSession user;
-  user.Click("MenuNewVkrFil");
-  user.Type("NameTxB", "Solvent");
-  user.Type("SampSizTxB", "3");
+  support::NewSeries(user, "Solvent", "3");
   user.Click("CmdContinu");
   EXPECT_FALSE(user.program.Unsaved());
-  Edit(user, 1, "2.5");
+  EditOutcome(user, 1, "2.5");
   EXPECT_TRUE(user.program.Unsaved());
 }
 
