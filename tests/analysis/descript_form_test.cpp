@@ -7,28 +7,16 @@
 #include "base/fault.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
-#include "tests/support/program_session.h"
+#include "tests/analysis/descriptive_screen.h"
 
 // The descriptive statistics screen as the user meets it.
 namespace {
 
-using navigation::ScreenId;
-using support::ProgramSession;
+using descriptive::kFive;
 using Keys = std::vector<std::string>;
 
-const std::vector<double> kFive = {0.4, 0.9, 1.3, 2.2, 5.1};
-
-class DescriptiveScreen : public testing::Test {
+class DescriptiveScreen : public descriptive::Screen {
  protected:
-  void Enter(const std::string& m) {
-    p.EnterStatistics("Welders", m, "0.3", "2");
-    ASSERT_TRUE(p.Tab("descript"));
-  }
-  void OpenSeries(const std::vector<double>& outcomes) {
-    p.OpenSeries(outcomes);
-    ASSERT_TRUE(p.Tab("descript"));
-  }
-  void Reopen() { p.program.Open(ScreenId::Descript); }
   // The whole series lies within the detection range.
   void SetWholeRange() {
     ExposureSession& s = p.Record();
@@ -40,8 +28,6 @@ class DescriptiveScreen : public testing::Test {
     DegreesOfFreedom(s);
   }
   std::string Number(double value) { return GlobalBAS::Shown(p.Record(), value); }
-
-  ProgramSession p;
 };
 
 const Keys kValueBoxes = {"GMTxB",  "GMuTxB", "GSDTxB",   "AMmlTxb",

@@ -3,32 +3,15 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/program_session.h"
+#include "tests/analysis/descriptive_screen.h"
 
 // Tabs and menus of the descriptive statistics screen.
 namespace {
 
-using navigation::ScreenId;
-using support::ProgramSession;
+using descriptive::kFive;
 using Keys = std::vector<std::string>;
 
-const std::vector<double> kFive = {0.4, 0.9, 1.3, 2.2, 5.1};
-
-class DescriptiveScreenTabs : public testing::Test {
- protected:
-  void Enter(const std::string& m) {
-    p.EnterStatistics("Welders", m, "0.3", "2");
-    ASSERT_TRUE(p.Tab("descript"));
-  }
-  void OpenSeries(const std::vector<double>& outcomes) {
-    p.OpenSeries(outcomes);
-    p.Tab("basis");  // the start screen's flags take the default limit as set
-    ASSERT_TRUE(p.Tab("descript"));
-  }
-  void Reopen() { p.program.Open(ScreenId::Descript); }
-
-  ProgramSession p;
-};
+class DescriptiveScreenTabs : public descriptive::Screen {};
 
 }  // namespace
 
@@ -43,7 +26,7 @@ TEST_F(DescriptiveScreenTabs, OfStatisticsHasNoTabForOutcomesOrTheirPlot) {
 }
 
 TEST_F(DescriptiveScreenTabs, OfTwoOutcomesHasNoPlotAndComparesAtTheFifthOrSeventhTab) {
-  OpenSeries({0.4, 0.9});
+  OpenSeriesWithLimit({0.4, 0.9});
   EXPECT_FALSE(p.At("MenuPlot").visible);
   EXPECT_EQ(p.TabKeys(),
             (Keys{"basis", "raw", "grenzen", "descript", "extrapolation", "mean", "Compare"}));
@@ -54,7 +37,7 @@ TEST_F(DescriptiveScreenTabs, OfTwoOutcomesHasNoPlotAndComparesAtTheFifthOrSeven
 }
 
 TEST_F(DescriptiveScreenTabs, WithoutValidLimitsTheTestsAreNotOffered) {
-  OpenSeries(kFive);
+  OpenSeriesWithLimit(kFive);
   EXPECT_EQ(p.TabKeys(), (Keys{"basis", "raw", "grenzen", "descript", "plot", "extrapolation",
                                "mean", "Compare"}));
   EXPECT_TRUE(p.At("menuExtrPol").visible);

@@ -2,23 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "base/fault.h"
+#include "tests/analysis/fit_data.h"
 #include "tests/support/csv.h"
 
 namespace {
-
-// Sorted series with the median in front, by name.
-const std::map<std::string, std::vector<double>>& SortedSeries() {
-  static const auto all = [] {
-    std::map<std::string, std::vector<double>> series;
-    for (const support::Row& row : support::ReadTable("series_sorted.csv"))
-      series[row.Text("series")].push_back(row.Number("C"));
-    return series;
-  }();
-  return all;
-}
 
 ExposureSession WithSeries(const std::vector<double>& c) {
   ExposureSession s;
@@ -37,7 +25,7 @@ ExposureSession WithSeries(const std::vector<double>& c) {
 ExposureSession Nine() { return WithSeries({50, 10, 20, 30, 40, 50, 60, 70, 80, 90}); }
 
 ExposureSession Before(const support::Row& row) {
-  ExposureSession s = WithSeries(SortedSeries().at(row.Text("series")));
+  ExposureSession s = WithSeries(fit_data::SortedSeries().at(row.Text("series")));
   s.DetecOn = row.Text("DetecOn") == "1";
   s.FirstInRange = static_cast<std::int16_t>(row.Number("First_before"));
   s.LastInRange = static_cast<std::int16_t>(row.Number("Last_before"));
@@ -81,7 +69,7 @@ TEST(LimitChecks, EveryEnteredLimitGivesTheRangeAndTheMessageOfTheTable) {
   for (const support::Row& row : support::ReadTable("controle.csv")) {
     // Where rule 2 fires or asks, the two readings part; see the tests on three outcomes.
     const bool parts = AsksInFrontOfTheFirst(row) &&
-                       row.Number("value") > SortedSeries().at(row.Text("series"))[1] &&
+                       row.Number("value") > fit_data::SortedSeries().at(row.Text("series"))[1] &&
                        row.Text("rules") != "1745";
     if (parts) continue;
     ++rows;
