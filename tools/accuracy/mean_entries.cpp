@@ -1,6 +1,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "tests/support/record.h"
 #include "tools/accuracy/entries.h"
 #include "ucl/jahr.h"
 #include "ucl/land_exact.h"
@@ -168,34 +169,29 @@ std::function<bool(const Row&)> NuBetween(double from, double to) {
   return [from, to](const Row& row) { return row.Number("nu") >= from && row.Number("nu") <= to; };
 }
 
-Entry RootEntry(const std::string& domain, double from, double to) {
+// Of what a whole limit gives as `column` of its table, among nu of `from` to `to`.
+Entry CaseEntry(Entry entry, const std::string& column, double (*call)(const Row&), double from,
+                double to) {
   const auto takes = NuBetween(from, to);
-  return {"LandRootSearch",
-          domain + ", the searches of a limit: C",
-          "the same, in the intervals of `LandExactUCL`",
-          Measure::Relative,
-          {"land_cases.csv", "true_C", kLand, Root, takes},
-          {"land_cases.csv", "fixed_C", kLand, Root, takes}};
+  entry.truth = {"land_cases.csv", "true_" + column, kLand, call, takes};
+  entry.steps = {"land_cases.csv", "fixed_" + column, kLand, call, takes};
+  return entry;
+}
+
+Entry RootEntry(const std::string& domain, double from, double to) {
+  return CaseEntry({"LandRootSearch", domain + ", the searches of a limit: C",
+                    "the same, in the intervals of `LandExactUCL`"},
+                   "C", Root, from, to);
 }
 
 Entry LimitEntry(const std::string& domain, double from, double to) {
-  const auto takes = NuBetween(from, to);
-  return {"LandExactUCL",
-          domain + ", natural logarithm",
-          "`LandRootSearch` on `LandProbability`, Land (1975)",
-          Measure::Absolute,
-          {"land_cases.csv", "true_UCL", kLand, LimitUCL, takes},
-          {"land_cases.csv", "fixed_UCL", kLand, LimitUCL, takes}};
+  return CaseEntry({"LandExactUCL", domain + ", natural logarithm",
+                    "`LandRootSearch` on `LandProbability`, Land (1975)", Measure::Absolute},
+                   "UCL", LimitUCL, from, to);
 }
 
 ucl::LandResult Pressed(const Row& row) {
-  ExposureSession s;
-  s.M = row.Number("M");
-  s.df = row.Number("df");
-  s.GM = row.Number("GM");
-  s.GSD = row.Number("GSD");
-  s.OELV = row.Number("OELV");
-  s.D = row.Number("D");
+  ExposureSession s = support::RecordOf(row);
   ucl::MeanStatistics(s);
   return ucl::LandCmb(s);
 }
