@@ -10,6 +10,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QVariant>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -36,15 +37,16 @@ QLineEdit& EditOf(Stage& stage, const Target& target) {
   return *edit;
 }
 
-// The pair that belongs to a field stands under the field's name without its kind.
+// The pair that names the field as its own.
 Target PairOf(Stage& stage, const Target& target) {
   if (target.control->kind == screen::Kind::UpDown) return target;
-  constexpr std::pair<const char*, const char*> kPairs[] = {{"SampSizTxB", "SampSize_UpD"},
-                                                            {"VkrValTxB", "VkrVal_UpD"},
-                                                            {"AlphaTxb", "Alpha_UpD"},
-                                                            {"DeltaTxb", "Delta_UpD"}};
-  for (const auto& [field, pair] : kPairs)
-    if (target.control->name == field) return stage.Find(target.form->name + "." + pair);
+  const QString field = stage.WidgetOf(target).objectName();
+  for (screen::Control* control : target.form->controls) {
+    const Target pair{target.form, control};
+    if (control->kind == screen::Kind::UpDown &&
+        stage.WidgetOf(pair).property("Field").toString() == field)
+      return pair;
+  }
   throw Failure(target.control->name + " has no up-down pair");
 }
 

@@ -5,6 +5,7 @@
 
 #include "analysis/descript_form.h"
 #include "catalog/catalog.h"
+#include "compare/two_samp_comp_form.h"
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
 #include "rawdata/data_ctrl_form.h"
@@ -25,7 +26,8 @@ struct Program::Parts {
         grenzen(session, program, formPorts),
         descript(session, program, formPorts),
         percEx(session, program, formPorts),
-        forms{&basis, &dataCtrl, &grenzen, &descript, &percEx} {
+        compare(session, program, formPorts),
+        forms{&basis, &dataCtrl, &grenzen, &descript, &percEx, &compare} {
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
 
@@ -37,6 +39,7 @@ struct Program::Parts {
   limits::GrenzenForm grenzen;
   analysis::DescriptForm descript;
   compliance::PercExForm percEx;
+  compare::TwoSampCompForm compare;
   std::vector<navigation::SessionForm*> forms;
   std::vector<screen::Form*> allForms{forms.begin(), forms.end()};
 
@@ -103,7 +106,7 @@ void Program::Start() {
   step([&] { p.basis.caption = p.session.VersionText + LoadResString(3); });
   for (screen::Form* form : p.allForms) step([&] { screen::ApplyCatalogue(*form); });
   for (screen::Form* form : p.allForms)
-    if (form != &p.basis && form != &p.percEx) step([&] { form->Load(); });
+    if (form != &p.basis && form != &p.percEx && form != &p.compare) step([&] { form->Load(); });
   step([&] { StatFWinBAS::LoadCoefficients(p.coefficientFolders); });
   step([&] { p.basis.Load(); });
   step([&] { p.basis.EnterOwnTab(); });
@@ -145,6 +148,7 @@ void Program::Open(ScreenId target) {
   p.shown = form;
   form->focusWanted = nullptr;
   if (form == &p.percEx && !p.percEx.loaded) p.percEx.Load();
+  if (form == &p.compare && !p.compare.loaded) p.compare.Load();
   if (onShow) onShow(*form);
   form->Activate();
 }

@@ -13,6 +13,7 @@
 #include "ui_descript_form.h"
 #include "ui_grenzen_form.h"
 #include "ui_perc_ex_form.h"
+#include "ui_two_samp_comp_form.h"
 
 namespace ui {
 namespace {
@@ -30,7 +31,7 @@ const std::map<std::string, Shell (*)()>& Designs() {
   static const std::map<std::string, Shell (*)()> designs = {
       {"BasisForm", &Lay<Ui::BasisForm>},     {"DataCtrlForm", &Lay<Ui::DataCtrlForm>},
       {"GrenzenForm", &Lay<Ui::GrenzenForm>}, {"DescriptForm", &Lay<Ui::DescriptForm>},
-      {"PercExForm", &Lay<Ui::PercExForm>},
+      {"PercExForm", &Lay<Ui::PercExForm>},   {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
   };
   return designs;
 }

@@ -61,8 +61,9 @@ TEST(Menus, WhatTheProgramLacksIsDisabled) {
     ProgramSession user;
     OpenOn(user, key);
     EXPECT_TRUE(user.At("MenuLeid").enabled);
+    EXPECT_TRUE(user.At("MenuComp").enabled);
     for (const char* menu : {"MenuWilks", "MenuTugg", "MenuJahr", "MenuLand", "MenuAM", "MenuVerd",
-                             "MenuComp", "MenuPlot"})
+                             "MenuPlot"})
       EXPECT_FALSE(user.At(menu).enabled) << menu;
   }
 }

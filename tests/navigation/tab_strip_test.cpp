@@ -82,7 +82,7 @@ TEST(TabStrip, TabsOfScreensThatTheProgramLacksAreDisabled) {
   user.OpenSeries({1, 2, 4, 8});
   user.Tab("basis");
   for (const screen::Tab& tab : user.Shown().strip->tabs) {
-    const bool lacks = tab.key == "plot" || tab.key == "mean" || tab.key == "Compare";
+    const bool lacks = tab.key == "plot" || tab.key == "mean";
     EXPECT_EQ(tab.enabled, !lacks) << tab.key;
   }
 }
@@ -96,6 +96,7 @@ TEST(TabClick, LeadsToItsScreenWhichTakesTheCurrentTab) {
       {"descript", "DescriptForm", "Descriptive statistics"},
       {"raw", "DataCtrlForm", "Raw data"},
       {"extrapolation", "PercExForm", "Statistical tests (Comparison with OELV)"},
+      {"Compare", "TwoSampCompForm", "Compare"},
       {"basis", "BasisForm", "Start"}};
   for (const auto& [key, form, caption] : tabs) {
     EXPECT_TRUE(user.Tab(key)) << key;

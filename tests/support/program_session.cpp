@@ -23,6 +23,7 @@ Value Next(Queue& queue, Value otherwise) {
 
 screen::Answer RecordingBox::Show(const screen::Message& message) {
   shown.push_back(message);
+  if (watch) watch();
   return Next(answers, message.defaultAnswer);
 }
 

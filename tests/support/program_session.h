@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ class RecordingBox final : public screen::MessageBox {
   screen::Answer Show(const screen::Message& message) override;
   std::deque<screen::Answer> answers;
   std::vector<screen::Message> shown;
+  // Looks at the screen while a box stands over it.
+  std::function<void()> watch;
 };
 
 // A file dialog that answers from a queue; empty means cancelled.
