@@ -16,31 +16,9 @@ namespace {
 
 using support::Row;
 using table::Worst;
+using table::WorstAbsolute;  // for values that pass through 0
 
-class FitAccuracy : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
-
-// Largest absolute error, for values that pass through 0.
-struct WorstAbsolute {
-  double error = 0;
-  std::string where = "none";
-  int rows = 0;
-
-  void Take(double result, double truth, const std::string& row) {
-    ++rows;
-    if (!(std::abs(result - truth) <= error)) {
-      error = std::abs(result - truth);
-      where = row;
-    }
-  }
-  void Hold(const std::string& what, double ratchet) const {
-    EXPECT_GT(rows, 0) << what << ": no row in this region";
-    EXPECT_LE(error, ratchet) << what << ": largest error " << error << " at " << where
-                              << ", last seen below " << ratchet;
-  }
-};
+class FitAccuracy : public table::Delivered {};
 
 void HoldRankits(const std::string& tableName, const std::string& column, double tabledError) {
   WorstAbsolute three, tabled, small, middle, large;

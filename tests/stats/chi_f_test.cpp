@@ -17,10 +17,7 @@ using StatFWinBAS::ChiUpper;
 using StatFWinBAS::FUpper;
 using StatFWinBAS::NormalUpper;
 
-class VarianceTails : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class VarianceTails : public table::Delivered {};
 
 using ChiSquareArea = VarianceTails;
 using FArea = VarianceTails;

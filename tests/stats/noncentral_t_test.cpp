@@ -22,10 +22,7 @@ using StatFWinBAS::NormalUpperInverse;
 using StatFWinBAS::OwenT;
 using StatFWinBAS::StudentUpper;
 
-class TailFunctions : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class TailFunctions : public table::Delivered {};
 
 using NoncentralArea = TailFunctions;
 using OwensFunction = TailFunctions;

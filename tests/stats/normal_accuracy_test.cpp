@@ -34,10 +34,7 @@ void Hold(const char* name, const char* function, const Region& region, Routine 
   worst.Hold(title.str(), region.ratchet);
 }
 
-class NormalAccuracy : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class NormalAccuracy : public table::Delivered {};
 
 TEST_F(NormalAccuracy, OfTheAreaIsAsStated) {
   const Region regions[] = {{-37, 0, 1.3e-15},

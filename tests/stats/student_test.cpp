@@ -21,10 +21,7 @@ using StatFWinBAS::StudentUpperInverse;
 using StatFWinBAS::StudentUpperInverseSearch;
 using StatFWinBAS::StudentUpperInverseSeries;
 
-class StudentFunctions : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class StudentFunctions : public table::Delivered {};
 
 using StudentArea = StudentFunctions;
 using StudentDeviate = StudentFunctions;

@@ -45,20 +45,10 @@ void HoldRelative(const char* name, const Truth& truth, double ratchet, const Ta
 }
 
 void HoldAbsolute(const char* name, const Truth& truth, double ratchet, const Takes& takes) {
-  double largest = 0;
-  int rows = 0;
-  std::string where = "none";
-  for (const Row& row : support::ReadTable(truth.table)) {
-    if (!takes(row)) continue;
-    ++rows;
-    const double error = std::abs(truth.routine(row) - Number(row, "true"));
-    if (error <= largest) continue;
-    largest = error;
-    where = Shown(row, truth.inputs);
-  }
-  EXPECT_GT(rows, 0) << name << ": no row in this region";
-  EXPECT_LE(largest, ratchet) << name << ": largest absolute error " << largest << " at " << where
-                              << ", last seen below " << ratchet;
+  table::WorstAbsolute worst;
+  for (const Row& row : support::ReadTable(truth.table))
+    if (takes(row)) worst.Take(truth.routine(row), Number(row, "true"), Shown(row, truth.inputs));
+  worst.Hold(name, ratchet);
 }
 
 Truth StudentTruth(double (*routine)(const double&, const double&), bool dfFirst) {
@@ -90,10 +80,7 @@ Takes Deviates(double from, double to, double span, Parity parity = Parity::Both
 
 constexpr double kMiddle = 0.475;
 
-class TailsAccuracy : public ::testing::Test {
- protected:
-  static void SetUpTestSuite() { table::LoadDelivered(); }
-};
+class TailsAccuracy : public table::Delivered {};
 
 TEST_F(TailsAccuracy, OfStudentsAreaIsAsStated) {
   const Truth truth = StudentTruth(StatFWinBAS::StudentUpper, true);
