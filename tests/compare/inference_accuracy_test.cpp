@@ -36,18 +36,22 @@ TEST_F(ComparisonAccuracy, TheProbabilitiesAreThoseOfArbitraryPrecision) {
   table::WorstAbsolute exact;  // in percent, as all of them
   table::WorstAbsolute approximate;
   table::WorstAbsolute locations;
+  table::Worst both;
   for (const Row& row : support::ReadTable("comparison_truth.csv")) {
     ExposureSession s = SessionOf(row);
     const InferenceResult pooled = Answered(s, Answer::No);
     (Exact(s) ? exact : approximate)
         .Take(pooled.dispersion.A, row.Number("dispersion"), row.Where());
     locations.Take(pooled.location.A, row.Number("pooled"), row.Where());
-    if (s.CompareMode == "S")
-      locations.Take(Answered(s, Answer::Yes).location.A, row.Number("separate"), row.Where());
+    if (s.CompareMode != "S") continue;
+    locations.Take(Answered(s, Answer::Yes).location.A, row.Number("separate"), row.Where());
+    both.Take(pooled.both.GM, row.Number("both_GM"), row.Where());
+    both.Take(pooled.both.GSD, row.Number("both_GSD"), row.Where());
   }
   exact.Hold("dispersions", 1.2e-11);
   approximate.Hold("dispersions, many degrees of freedom", 3.4e-2);
   locations.Hold("locations", 3.4e-12);
+  both.Hold("GM and GSD of both", 1.3e-14);
 }
 
 TEST_F(ComparisonAccuracy, TheWorkedExamplesOfOtherProgramsComeOutAlike) {

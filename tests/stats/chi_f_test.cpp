@@ -101,6 +101,14 @@ TEST_F(ChiSquareArea, From200To201DegreesOfFreedomGoesOn) {
   }
 }
 
+// Beyond a chi of 24 the cube root takes over, where no area is above 1E-36.
+TEST_F(ChiSquareArea, ThroughAChiOf24GoesOn) {
+  for (int df = 1; df <= 200; ++df) {
+    EXPECT_LT(ChiUpper(df + 0.0, 24.0), 1e-36) << df;
+    EXPECT_LT(ChiUpper(df + 0.0, std::nextafter(24.0, 25.0)), 1e-36) << df;
+  }
+}
+
 // Two degrees of freedom more add one term of Poisson's law.
 TEST_F(ChiSquareArea, OfTwoDegreesOfFreedomMoreHasOneTermMore) {
   for (int df = 1; df <= 198; ++df) {
@@ -180,6 +188,40 @@ TEST_F(FArea, StaysWithin0And1AndNeverRisesWithTheRatio) {
         EXPECT_LE(area, before + 2e-14) << d1 << " " << d2 << " " << F;
         before = area;
       }
+    }
+  }
+}
+
+// Both samples from 2 to 2000, by the sums and by the cube root.
+TEST_F(FArea, OfEverySampleSizeStaysWithin0And1FallsAndHasItsRestOnTheOtherSide) {
+  const double freedoms[] = {1,   2,   3,   16,   17,   31,   32,   99,
+                             180, 181, 182, 1023, 1024, 1057, 1998, 1999};
+  for (const double d1 : freedoms) {
+    for (const double d2 : freedoms) {
+      double before = 1;
+      for (int k = -80; k <= 80; ++k) {
+        const double F = std::exp(k / 16.0);
+        const double area = FUpper(d1, d2, F);
+        EXPECT_TRUE(0 <= area && area <= 1) << d1 << " " << d2 << " " << F << ": " << area;
+        EXPECT_LE(area, before + 5e-13) << d1 << " " << d2 << " " << F;
+        EXPECT_NEAR(area + FUpper(d2, d1, 1 / F), 1, 3e-12) << d1 << " " << d2 << " " << F;
+        before = area;
+      }
+    }
+  }
+}
+
+// The cube root lies up to 7.2E-4 beside the sums where both numbers are below 2000.
+TEST_F(FArea, FromTheSumsToTheCubeRootGoesOn) {
+  for (int d1 = 17; d1 < 2000; d1 += d1 < 200 ? 1 : 37) {
+    const double first = d1;
+    const double last = std::ceil(32768 / first) - 1;
+    for (int k = -40; k <= 40; ++k) {
+      const double F = std::exp(k / 20.0);
+      const double before = FUpper(first, last, F) - FUpper(first, last - 1, F);
+      const double across = FUpper(first, last + 1, F) - FUpper(first, last, F);
+      const double after = FUpper(first, last + 2, F) - FUpper(first, last + 1, F);
+      EXPECT_NEAR(across, (before + after) / 2, 7.5e-4) << first << " " << last << " " << F;
     }
   }
 }

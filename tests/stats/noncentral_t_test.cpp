@@ -179,6 +179,22 @@ TEST_F(NoncentralArea, From200To201DegreesOfFreedomJumpsByLessThan27TenThousandt
   EXPECT_GT(largest, 1e-3);
 }
 
+// From a noncentrality of 37 on one exponential counts as 0.
+TEST_F(NoncentralArea, ThroughANoncentralityOf37GoesOn) {
+  for (const double f : {99.0, 100.0, 199.0, 200.0}) {
+    for (const double side : {1.0, -1.0}) {
+      const double inside = NormalUpper(side * 37 / std::sqrt(f + 1) * (1 - 1e-10));
+      const double outside = NormalUpper(side * 37 / std::sqrt(f + 1) * (1 + 1e-10));
+      ASSERT_NE(inside, outside);
+      for (int k = -500; k <= 500; ++k) {
+        const double K = k / 100.0;
+        EXPECT_NEAR(NoncentralTUpper(f, inside, K), NoncentralTUpper(f, outside, K), 1e-8)
+            << f << " " << K;
+      }
+    }
+  }
+}
+
 TEST_F(NoncentralArea, WithoutDegreesOfFreedomOrOfNoNumberIsAFault) {
   const double none = std::numeric_limits<double>::quiet_NaN();
   EXPECT_THROW(NoncentralTUpper(0.0, 0.1, 1.0), RunTimeError);
@@ -261,6 +277,14 @@ TEST_F(OwensFunction, AtTheShortCutJumpsByLessThan42HundredMillionths) {
   }
   EXPECT_LT(largest, 4.2e-7);
   EXPECT_GT(largest, 4e-7);
+}
+
+// Beyond a distance of 37 the exponential counts as 0, and so does the area.
+TEST_F(OwensFunction, ThroughADistanceOf37GoesOn) {
+  for (const double a : {1e-6, 0.001, 0.05, 0.1, 0.108}) {
+    EXPECT_NEAR(OwenT(37.0, a), 0, 1e-10) << a;
+    EXPECT_NEAR(OwenT(std::nextafter(37.0, 38.0), a), 0, 1e-10) << a;
+  }
 }
 
 TEST_F(OwensFunction, GoesOnThroughAnAngleOf1) {

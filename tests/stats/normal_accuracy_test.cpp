@@ -55,10 +55,18 @@ TEST_F(NormalAccuracy, OfHillsAreaIsAsStated) {
 
 TEST_F(NormalAccuracy, OfTheDeviateIsAsStated) {
   // One step corrects the start value of AS 111 less and less the farther out it is.
-  const Region regions[] = {
-      {0, 1e-280, 0.02},      {1e-280, 1e-20, 0.005}, {1e-20, 2.8e-7, 1.5e-11},
-      {2.8e-7, 1e-3, 6e-11},  {1e-3, 0.08, 3e-14},    {0.08, 0.499, 7e-15},
-      {0.501, 0.92, 2.5e-15}, {0.92, 0.999, 1.1e-14}, {0.999, 1, 6e-11}};
+  const Region regions[] = {{1.1e-300, 1e-280, 0.02},
+                            {1e-280, 1e-20, 0.005},
+                            {1e-20, 2.8e-7, 1.5e-11},
+                            {2.8e-7, 1e-3, 6e-11},
+                            {1e-3, 0.08, 3e-14},
+                            {0.08, 0.499, 7e-15},
+                            {0.501, 0.92, 2.5e-15},
+                            {0.92, 0.999, 1.1e-14},
+                            {0.999, 0.9999999999999998, 6e-11},
+                            // Beyond, one value for all.
+                            {0, 1e-300, 0.012},
+                            {0.9999999999999999, 1, 0.002}};
   for (const Region& region : regions)
     Hold("NormalUpperInverse", "inverse", region, [](double p) { return NormalUpperInverse(p); });
 }

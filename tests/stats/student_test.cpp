@@ -60,6 +60,16 @@ TEST_F(StudentArea, UpTo30000DegreesOfFreedomIsThatOfTheSum) {
   EXPECT_NEAR(StudentUpper(30000.0, 1.645), normal, 1.2e-10);
 }
 
+// The sum and the normal tail lie up to 1E-10 apart, over the whole range.
+TEST_F(StudentArea, From30000To30001DegreesOfFreedomGoesOn) {
+  for (int k = -1500; k <= 1500; ++k) {
+    const double t = k / 100.0;
+    const double across = StudentUpper(30001.0, t) - StudentUpper(30000.0, t);
+    const double after = StudentUpper(30002.0, t) - StudentUpper(30001.0, t);
+    EXPECT_NEAR(across, after, 1e-10) << t;
+  }
+}
+
 // A sum with one pass too many shows here first.
 TEST_F(StudentArea, With3DegreesOfFreedomHasOneTerm) {
   for (const double t : {-4.0, -0.3, 0.7, 2.5, 11.0}) {
@@ -162,6 +172,18 @@ TEST_F(StudentDeviate, Of1000DegreesOfFreedomIsSearchedAndOf1001Expanded) {
   EXPECT_EQ(StudentUpperInverseSearch(p, expanded).passes, 0);
   EXPECT_EQ(StudentUpperInverse(p, expanded), StudentUpperInverseSeries(p, expanded));
   EXPECT_NEAR(StudentUpperInverse(p, searched), StudentUpperInverse(p, expanded), 2e-6);
+}
+
+// From the search to the expansion: the deviate nears the normal one by 1 / df, before and after.
+TEST_F(StudentDeviate, From1000To1001DegreesOfFreedomGoesOn) {
+  for (int k = 1; k < 1000; ++k) {
+    const double p = k / 1000.0;
+    const double before = StudentUpperInverse(p, 1000.0) - StudentUpperInverse(p, 998.0);
+    const double across = StudentUpperInverse(p, 1001.0) - StudentUpperInverse(p, 1000.0);
+    const double after = StudentUpperInverse(p, 1002.0) - StudentUpperInverse(p, 1001.0);
+    EXPECT_NEAR(across, before * 998 / 2002, 8e-11) << p;
+    EXPECT_NEAR(across, after * 1002 / 1000, 8e-11) << p;
+  }
 }
 
 TEST_F(StudentDeviate, AboveAHalfIsTheNegativeOfThatBelow) {

@@ -40,18 +40,25 @@ InferenceResult Answered(const Row& row) {
 using Result = double (*)(const InferenceResult&);
 
 Source Truth(const std::string& column, compare::Answer answer, Result result) {
-  const bool separate = column == "separate";
   return {"comparison_truth.csv", column, kInputs,
-          [answer, result](const Row& row) { return result(Compared(row, answer)); },
-          [separate](const Row& row) { return !separate || row.Text("mode") == "S"; }};
+          [answer, result](const Row& row) { return result(Compared(row, answer)); }};
 }
 
-// `safe`: only where the whole number of degrees of freedom does not hang on the last digit.
-Source Steps(const std::string& column, bool safe, Result result) {
+bool OfTwoSamples(const Row& row) { return row.Text("mode") == "S"; }
+
+using Takes = bool (*)(const Row&);
+
+Source Steps(const std::string& column, Takes takes, Result result) {
   return {"comparison.csv", column, kInputs,
-          [result](const Row& row) { return result(Answered(row)); },
-          [safe](const Row& row) { return !safe || row.Text("v_safe") != "0"; }};
+          [result](const Row& row) { return result(Answered(row)); }, takes};
 }
+
+bool IsSeparate(const Row& row) {
+  return row.Text("GSDChoice") == "N" || row.Text("GSDChoice") == "A";
+}
+bool IsPooled(const Row& row) { return !IsSeparate(row); }
+// Where the whole number of degrees of freedom does not hang on the last digit.
+bool IsSafelySeparate(const Row& row) { return IsSeparate(row) && row.Text("v_safe") != "0"; }
 
 double OfDispersions(const InferenceResult& result) { return result.dispersion.A; }
 double OfLocations(const InferenceResult& result) { return result.location.A; }
@@ -77,37 +84,39 @@ std::vector<Entry> ComparisonEntries() {
   using compare::Answer;
   return {
       {"Inference: A of the dispersions", "percent", "`FUpper`, `ChiUpper`", Measure::Absolute,
-       Truth("dispersion", Answer::No, OfDispersions), Steps("GSDInfTxb", false, OfDispersions)},
+       Truth("dispersion", Answer::No, OfDispersions), Steps("GSDInfTxb", nullptr, OfDispersions)},
       {"Inference: A of the locations", "pooled, or a population, percent", "`StudentUpper`",
        Measure::Absolute, Truth("pooled", Answer::No, OfLocations),
-       Steps("GMInfTxb", true, OfLocations)},
+       Steps("GMInfTxb", IsPooled, OfLocations)},
       {"Inference: A of the locations", "separate variances, percent",
        "`StudentUpper`, Satterthwaite (1946), df cut to a whole number", Measure::Absolute,
-       Truth("separate", Answer::Yes, OfLocations)},
-      {"Inference: GM of both",
-       "two samples",
-       "weighted mean of the logarithms",
-       Measure::Relative,
-       {},
-       Steps("GMTxb3", false, CombinedGM)},
-      {"Inference: GSD of both",
-       "two samples",
-       "sums of squares of the logarithms",
-       Measure::Relative,
-       {},
-       Steps("GSDTxb3", false, CombinedGSD)},
+       Truth("separate", Answer::Yes, OfLocations),
+       Steps("GMInfTxb", IsSafelySeparate, OfLocations)},
+      {"Inference: GM of both", "two samples", "weighted mean of the logarithms", Measure::Relative,
+       Truth("both_GM", Answer::No, CombinedGM), Steps("GMTxb3", nullptr, CombinedGM)},
+      {"Inference: GSD of both", "two samples, the weights as they are",
+       "sums of squares of the logarithms", Measure::Relative,
+       Truth("both_GSD", Answer::No, CombinedGSD), Steps("GSDTxb3", nullptr, CombinedGSD)},
   };
 }
 
 std::vector<Entry> ComparisonPeculiarities() {
+  using compare::Answer;
   return {
+      {"Inference", "the question whether the GSDs are from the same population",
+       "Yes separates the variances and No pools them: what Yes costs where they are the same, "
+       "percent",
+       Measure::Absolute, Truth("pooled", Answer::Yes, OfLocations)},
+      {"Inference", "separate variances",
+       "the degrees of freedom are cut to a whole number, percent", Measure::Absolute,
+       Truth("uncut", Answer::Yes, OfLocations)},
       {"Inference",
        "GSD of both",
        "the second squared mean has the weight df2 + 2, not df2 + 1",
        Measure::Relative,
        {"comparison_truth.csv", "pooled", kInputs,
-        [](const Row& row) { return Compared(row, compare::Answer::No).both.GSD; },
-        [](const Row& row) { return row.Text("mode") == "S"; }, United}},
+        [](const Row& row) { return Compared(row, compare::Answer::No).both.GSD; }, OfTwoSamples,
+        United}},
   };
 }
 

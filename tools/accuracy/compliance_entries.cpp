@@ -74,7 +74,7 @@ ExposureSession Session(const Row& row) {
 using Press = double (*)(ExposureSession& s, double Ur);
 
 // Whole tests, by a column of sessions_tests.csv.
-Source Steps(const std::string& column, Press press) {
+Source Steps(const std::string& column, Press press, double from = 1, double to = 1e9) {
   const bool search = column.starts_with("Tu_");
   return {"sessions_tests.csv",
           column,
@@ -85,7 +85,8 @@ Source Steps(const std::string& column, Press press) {
             return press(s, row.Number("Ur"));
           },
           // Where a trial confidence lies within rounding of the mark, either way is right.
-          [search](const Row& row) {
+          [search, from, to](const Row& row) {
+            if (row.Number("df") < from || row.Number("df") > to) return false;
             if (!search) return row.Text("Wi_state") == "ok";
             return row.Text("Tu_state") == "ok" && row.Number("U") > 50 &&
                    !row.Text("Tu_margin").empty() && row.Number("Tu_margin") > 1e-7;
@@ -95,6 +96,10 @@ Source Steps(const std::string& column, Press press) {
 double WilksPercEx(ExposureSession& s, double Ur) {
   compliance::WilksTest(s, Ur);
   return s.PercEx;
+}
+double WilksUTL(ExposureSession& s, double Ur) {
+  compliance::WilksTest(s, Ur);
+  return s.UTL;
 }
 double En689PercEx(ExposureSession& s, double Ur) {
   compliance::En689Test(s, Ur);
@@ -125,7 +130,7 @@ std::vector<Entry> ComplianceEntries() {
       {"WilksExceedance", "percent", "`StudentUpper`, Wilks (1941), Proschan (1953)",
        Measure::Absolute, Truth("wilks", 1, kAll, Exceedance), Steps("Wi_PercEx", WilksPercEx)},
       {"WilksToleranceLimit", "ln(UTL / GM)", "`StudentUpperInverse`", Measure::Absolute,
-       Truth("wilksutl", 1, kAll, LogLimit)},
+       Truth("wilksutl", 1, kAll, LogLimit), Steps("Wi_UTL", WilksUTL)},
       {"OptimiseSampleSize",
        "the exceedance, percent",
        "`StudentUpper` at each df to 99",
@@ -139,13 +144,13 @@ std::vector<Entry> ComplianceEntries() {
           return row.Text("state") == "ok" && row.Text("TestTag") == "Wi" && row.Number("U") > 50;
         }}},
       {"En689ConfidenceAt", "df to 200", kConfidence, Measure::Absolute,
-       Truth("conf", 1, 200, Confidence), Steps("Tu_PercEx", En689PercEx)},
+       Truth("conf", 1, 200, Confidence), Steps("Tu_PercEx", En689PercEx, 1, 200)},
       {"En689ConfidenceAt", "df above 200", kConfidence, Measure::Absolute,
-       Truth("conf", 201, kAll, Confidence)},
+       Truth("conf", 201, kAll, Confidence), Steps("Tu_PercEx", En689PercEx, 201, kAll)},
       {"En689ToleranceLimit", "df to 200, ln(UTL / GM) / ln GSD", kSearch, Measure::Relative,
-       Truth("factor", 1, 200, Factor), Steps("Tu_UTL", En689UTL)},
+       Truth("factor", 1, 200, Factor), Steps("Tu_UTL", En689UTL, 1, 200)},
       {"En689ToleranceLimit", "df above 200, ln(UTL / GM) / ln GSD", kSearch, Measure::Relative,
-       Truth("factor", 201, kAll, Factor)},
+       Truth("factor", 201, kAll, Factor), Steps("Tu_UTL", En689UTL, 201, kAll)},
       {"En689Fraction", "df to 200, percent", kSearch, Measure::Absolute,
        Truth("fraction", 1, 200, Fraction)},
       {"En689Fraction", "df above 200, percent", kSearch, Measure::Absolute,

@@ -22,8 +22,8 @@ std::vector<Entry> Routines() {
 }
 
 std::vector<Entry> Peculiarities() {
-  return Joined({DistributionPeculiarities, FitPeculiarities, CompliancePeculiarities,
-                 ComparisonPeculiarities});
+  return Joined({NormalPeculiarities, DistributionPeculiarities, EstimatorPeculiarities,
+                 FitPeculiarities, CompliancePeculiarities, ComparisonPeculiarities});
 }
 
 }  // namespace accuracy

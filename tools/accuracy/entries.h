@@ -31,7 +31,9 @@ std::vector<Entry> ComplianceEntries();
 std::vector<Entry> ComparisonEntries();
 std::vector<Entry> MeanEntries();
 
+std::vector<Entry> NormalPeculiarities();
 std::vector<Entry> DistributionPeculiarities();
+std::vector<Entry> EstimatorPeculiarities();
 std::vector<Entry> FitPeculiarities();
 std::vector<Entry> CompliancePeculiarities();
 std::vector<Entry> ComparisonPeculiarities();

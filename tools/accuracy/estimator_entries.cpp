@@ -1,4 +1,5 @@
 #include "session/exposure_session.h"
+#include "session/global_bas.h"
 #include "stats/estimators.h"
 #include "tools/accuracy/entries.h"
 #include "tools/accuracy/series.h"
@@ -25,6 +26,52 @@ ExposureSession Linear(double df, double GM, double GSD) {
   s.GSD = GSD;
   StatFWinBAS::LinearMoments(s);
   return s;
+}
+
+// The session of a row of linear_moments.csv; a sample without outcomes is named "M=n".
+ExposureSession Whole(const Row& row) {
+  const std::string& name = row.Text("series");
+  const auto found = Series().find(name);
+  ExposureSession s = found == Series().end() ? ExposureSession{} : found->second;
+  if (found == Series().end()) s.M = GlobalBAS::Val(name.substr(2));
+  s.Mode = row.Text("Mode");
+  s.DetecOn = row.Text("DetecOn") == "1";
+  s.GM = row.Number("GM");
+  s.GSD = row.Number("GSD");
+  StatFWinBAS::LinearMoments(s);
+  return s;
+}
+
+ExposureSession OfOutcomes(const Row& row) {
+  ExposureSession s = Series().at(row.Text("series"));
+  s.Mode = "R";
+  StatFWinBAS::LinearMoments(s);
+  return s;
+}
+
+using Result = double ExposureSession::*;
+
+// From the outcomes themselves, or from GM and GSD.
+Source LinearSteps(const std::string& column, bool outcomes, Result result) {
+  return {"linear_moments.csv",
+          column,
+          {"series", "Mode", "DetecOn", "GM", "GSD"},
+          [result](const Row& row) { return Whole(row).*result; },
+          [outcomes](const Row& row) {
+            return outcomes == (row.Text("Mode") == "R" && row.Text("DetecOn") == "0") &&
+                   row.Text("InputState_after") != "4";
+          }};
+}
+
+// Without the series whose outcomes are equal to the seventh digit, or all alike.
+bool Differs(const Row& row) { return row.Text("series") != "NearEqual10"; }
+
+Source LinearTruth(const std::string& column, bool alike, Result result) {
+  return {"linear_moments_truth.csv",
+          column,
+          {"series"},
+          [result](const Row& row) { return OfOutcomes(row).*result; },
+          [alike](const Row& row) { return Differs(row) != alike; }};
 }
 
 std::function<double(const Row&)> Called(Estimator estimator) {
@@ -108,14 +155,32 @@ std::vector<Entry> EstimatorEntries() {
       {"GMUnbiased", "GSD / (df + 1) squared at most 6", "series, Finney (1941)", Measure::Relative,
        Truth("GMUnbiased", 1, 1e4, Unbiased), Steps("gm_unbiased.csv", 1, 1e4, Unbiased)},
       {"LinearMoments: XM", "from GM and GSD", "GM exp(L squared / 2)", Measure::Relative,
-       Truth("LinearMoments XM", 1, 1e4, xm)},
+       Truth("LinearMoments XM", 1, 1e4, xm), LinearSteps("XM", false, &ExposureSession::XM)},
       {"LinearMoments: SDlin", "from GM and GSD, GSD 1.05 and more",
        "sqrt(GM squared e (e - 1) M / (M - 1))", Measure::Relative,
-       Truth("LinearMoments SDlin", 1.05, 1e4, sd)},
+       Truth("LinearMoments SDlin", 1.05, 1e4, sd),
+       LinearSteps("SDlin", false, &ExposureSession::SDlin)},
       {"LinearMoments: SDlin", "from GM and GSD, GSD to 1.05", "the same; e - 1 loses digits",
        Measure::Relative, Truth("LinearMoments SDlin", 1, 1.05, sd)},
+      {"LinearMoments: XM", "from the outcomes, the reference series", "mean", Measure::Relative,
+       LinearTruth("XM", false, &ExposureSession::XM),
+       LinearSteps("XM", true, &ExposureSession::XM)},
+      {"LinearMoments: SDlin", "from the outcomes, the reference series", "sums of squares",
+       Measure::Relative, LinearTruth("SDlin", false, &ExposureSession::SDlin),
+       LinearSteps("SDlin", true, &ExposureSession::SDlin)},
       Moments(true),
       Moments(false),
+  };
+}
+
+std::vector<Entry> EstimatorPeculiarities() {
+  return {
+      {"LinearMoments", "SDlin from GM and GSD",
+       "e is exp(L squared / 2), where the standard deviation of a lognormal population has exp(L "
+       "squared)",
+       Measure::Relative,
+       Truth("population deviation", 1, 1e4,
+             [](double df, double GM, double GSD) { return Linear(df, GM, GSD).SDlin; })},
   };
 }
 

@@ -36,6 +36,8 @@ Entry RankitEntry(const std::string& domain, double from, double to, const std::
           {"rankits.csv", "R", {"M", "i"}, Rankit("M", "i"), of("M")}};
 }
 
+bool IsThree(const Row& row) { return row.Number("n") == 3; }
+
 double Weight(const Row& row) {
   analysis::ShapiroWeights weights;
   analysis::FillShapiroWeights(Index(row, "M"), weights);
@@ -57,6 +59,8 @@ analysis::Regression Fit(const Row& row, const std::string& first, const std::st
   s.CR = "\r";
   s.df = s.M - 1;
   s.SigDigits = 4;
+  // A series without a spread gets no GSD of its own, and a record without one ends by a fault.
+  s.GSD = 1.1;
   s.FirstInRange = Index(row, first);
   s.LastInRange = Index(row, last);
   analysis::FitState state;
@@ -69,39 +73,79 @@ analysis::Regression Fit(const Row& row, const std::string& first, const std::st
 
 using Result = double (*)(const analysis::Regression&);
 
-// Equal outcomes have a GSD of 1, at which the update of the record ends by a fault.
-bool Differs(const Row& row) { return row.Text("series") != "NearEqual10"; }
+// The outcomes of this series differ in their seventh digit only.
+bool Alike(const Row& row) { return row.Text("series") == "NearEqual10"; }
 
-Entry FitEntry(const std::string& routine, const std::string& method, const std::string& column,
-               Measure measure, Result result) {
-  const bool test = column == "W" || column == "PW";
-  return {routine,
-          "the reference series, whole and in a range",
-          method,
-          measure,
-          {"fit_truth.csv",
-           column,
-           {"series", "Transformation", "first", "last"},
-           [result](const Row& row) { return result(Fit(row, "first", "last")); },
-           Differs},
-          {"regression.csv",
-           column,
-           {"series", "menu", "First", "Last"},
-           [result](const Row& row) { return result(Fit(row, "First", "Last")); },
-           [test](const Row& row) {
-             return row.Text("fault_kind").empty() && (!test || row.Number("fault") < 3);
-           }}};
+Source FitTruth(const std::string& column, bool alike, Result result) {
+  return {"fit_truth.csv",
+          column,
+          {"series", "Transformation", "first", "last"},
+          [result](const Row& row) { return result(Fit(row, "first", "last")); },
+          [alike](const Row& row) { return Alike(row) == alike; }};
 }
 
-Entry ScaleEntry(const std::string& column, double (*routine)(std::string_view, double)) {
-  return {column,
-          "seven scales",
+Source FitSteps(const std::string& column, Result result) {
+  const bool test = column == "W" || column == "PW";
+  return {"regression.csv",
+          column,
+          {"series", "menu", "First", "Last"},
+          [result](const Row& row) { return result(Fit(row, "First", "Last")); },
+          [test](const Row& row) {
+            return row.Text("fault_kind").empty() && (!test || row.Number("fault") < 3);
+          }};
+}
+
+struct Fitted {
+  const char* routine;
+  const char* method;
+  const char* column;
+  Measure measure;
+  Result result;
+};
+
+constexpr const char* kLine = "least squares by one-pass sums";
+constexpr const char* kRoyston = "Royston (1995), AS R94; (1993) for censored samples";
+
+constexpr Fitted kFitted[] = {
+    {"ProbabilityRegression: a", kLine, "a", Measure::Relative,
+     [](const analysis::Regression& fit) { return fit.a; }},
+    {"ProbabilityRegression: b", kLine, "b", Measure::Relative,
+     [](const analysis::Regression& fit) { return fit.b; }},
+    {"ShapiroWilk: W", kRoyston, "W", Measure::Absolute,
+     [](const analysis::Regression& fit) { return fit.test.W; }},
+    {"ShapiroWilk: probability", kRoyston, "PW", Measure::Absolute,
+     [](const analysis::Regression& fit) { return fit.test.PW; }},
+};
+
+Entry FitEntry(const Fitted& fitted, bool alike) {
+  return {fitted.routine,
+          alike ? "the one series whose outcomes differ in their seventh digit only"
+                : "the reference series, whole and in a range",
+          fitted.method,
+          fitted.measure,
+          FitTruth(fitted.column, alike, fitted.result),
+          alike ? Source{} : FitSteps(fitted.column, fitted.result)};
+}
+
+using Scale = double (*)(std::string_view, double);
+
+bool IsDouble(const Row& row) { return row.Text("name") == "Lg(Lg(x))"; }
+
+Entry ScaleEntry(const std::string& routine, const std::string& way, bool doubled, Scale scale) {
+  return {routine,
+          doubled ? "the double logarithm, away from 0" : "all scales but the double logarithm",
           "closed form",
           Measure::Relative,
-          {},
-          {"transform_values.csv", column, {"name", "x"}, [routine](const Row& row) {
-             return routine(row.Text("name"), row.Number("x"));
-           }}};
+          {"transform_truth.csv",
+           "true",
+           {"name", "argument"},
+           [scale](const Row& row) { return scale(row.Text("name"), row.Number("argument")); },
+           [=](const Row& row) { return row.Text("way") == way && IsDouble(row) == doubled; }},
+          {"transform_values.csv",
+           routine,
+           {"name", "x"},
+           [scale](const Row& row) { return scale(row.Text("name"), row.Number("x")); },
+           [doubled](const Row& row) { return IsDouble(row) == doubled; }}};
 }
 
 double PublishedForThree(double W) {
@@ -111,31 +155,42 @@ double PublishedForThree(double W) {
 }  // namespace
 
 std::vector<Entry> FitEntries() {
-  return {
-      RankitEntry("M 3 to 20", 3, 20, "published tables, Harter (1961)"),
-      RankitEntry("M 21 to 2000", 21, 2000, "Royston (1982), AS 177.3"),
-      ScaleEntry("TransformValue", analysis::TransformValue),
-      ScaleEntry("InverseTransform", analysis::InverseTransform),
+  std::vector<Entry> all = {
+      {"RankitsForSampleSize",
+       "M 3",
+       "five decimals",
+       Measure::Absolute,
+       {"rankit_truth.csv", "true", {"n", "r"}, Rankit("n", "r"), IsThree}},
+      RankitEntry("M 4 to 20", 4, 20, "published tables, Harter (1961)"),
+      RankitEntry("M 21 to 39", 21, 39, "Royston (1982), AS 177.3"),
+      RankitEntry("M 40 to 2000", 40, 2000, "Royston (1982), AS 177.3"),
+      ScaleEntry("TransformValue", "there", false, analysis::TransformValue),
+      ScaleEntry("TransformValue", "there", true, analysis::TransformValue),
+      ScaleEntry("InverseTransform", "back", false, analysis::InverseTransform),
+      ScaleEntry("InverseTransform", "back", true, analysis::InverseTransform),
       {"FillShapiroWeights",
        "M 3 to 2000",
        "Royston (1995), AS R94",
        Measure::Relative,
        {"shapiro_weight_truth.csv", "true", {"M", "i"}, Weight},
        {"shapiro_weights.csv", "a", {"M", "i"}, Weight}},
-      FitEntry("ProbabilityRegression: a", "least squares by one-pass sums", "a", Measure::Relative,
-               [](const analysis::Regression& fit) { return fit.a; }),
-      FitEntry("ProbabilityRegression: b", "least squares by one-pass sums", "b", Measure::Relative,
-               [](const analysis::Regression& fit) { return fit.b; }),
-      FitEntry("ShapiroWilk: W", "Royston (1995), AS R94", "W", Measure::Absolute,
-               [](const analysis::Regression& fit) { return fit.test.W; }),
-      FitEntry("ShapiroWilk: probability", "Royston (1995), AS R94; (1993) for censored samples",
-               "PW", Measure::Absolute,
-               [](const analysis::Regression& fit) { return fit.test.PW; }),
   };
+  for (const Fitted& fitted : kFitted)
+    for (const bool alike : {false, true}) all.push_back(FitEntry(fitted, alike));
+  return all;
 }
 
 std::vector<Entry> FitPeculiarities() {
   return {
+      {"RankitsForSampleSize",
+       "order 4 from M 40 on",
+       "without the correction that the approximation has for it at smaller samples",
+       Measure::Absolute,
+       {"rankit_truth.csv",
+        "true",
+        {"n", "r"},
+        Rankit("n", "r"),
+        [](const Row& row) { return row.Number("n") >= 40 && row.Number("r") == 4; }}},
       {"ShapiroWilk",
        "M 3",
        "the arc tangent of sqrt W where the publication has the arc sine",

@@ -63,6 +63,13 @@ Entry InverseEntry(const std::string& domain, double from, double to) {
           Steps("normal_upper_inverse.csv", "p", from, to, Inverse)};
 }
 
+Source Polynomials(const std::string& table, const std::string& column) {
+  return {table, column, {"x", "degree", "column"}, [](const Row& row) {
+            return StatFWinBAS::RoystonPoly(row.Number("x"), static_cast<int>(row.Number("degree")),
+                                            static_cast<int>(row.Number("column")));
+          }};
+}
+
 }  // namespace
 
 std::vector<Entry> NormalEntries() {
@@ -80,19 +87,19 @@ std::vector<Entry> NormalEntries() {
       InverseEntry("p to 0.001", 1e-20, 1e-3),
       InverseEntry("p to 0.499", 1e-3, 0.499),
       InverseEntry("p from 0.501 to 0.999", 0.501, 0.999),
-      InverseEntry("p to 1 - 1E-15", 0.999, 1),
-      {"RoystonPoly",
-       "degree to 6, column 1 to 10",
-       "polynomial, Royston (1995), AS R94",
-       Measure::Relative,
-       {},
-       {"royston_poly.csv",
-        "result",
-        {"x", "degree", "column"},
-        [](const Row& row) {
-          return StatFWinBAS::RoystonPoly(row.Number("x"), static_cast<int>(row.Number("degree")),
-                                          static_cast<int>(row.Number("column")));
-        }}},
+      InverseEntry("p to 1 - 2E-16", 0.999, 0.9999999999999998),
+      {"RoystonPoly", "degree to 6, column 1 to 10", "polynomial, Royston (1995), AS R94",
+       Measure::Relative, Polynomials("royston_poly_truth.csv", "true"),
+       Polynomials("royston_poly.csv", "result")},
+  };
+}
+
+std::vector<Entry> NormalPeculiarities() {
+  return {
+      {"NormalUpperInverse", "p to 1E-300", "37, whatever p", Measure::Relative,
+       Truth("inverse", 0, 1e-300, Inverse)},
+      {"NormalUpperInverse", "p from 0.9999999999999999 on", "-8.22208221613044, whatever p",
+       Measure::Relative, Truth("inverse", 0.9999999999999998, 1, Inverse)},
   };
 }
 

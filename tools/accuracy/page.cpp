@@ -13,7 +13,9 @@ How good each routine is. Written by `valkorin-accuracy`; a test measures every 
 tools/build release valkorin-accuracy && build/release/bin/valkorin-accuracy
 ```
 
-Two truths. The *error against truth* is that against the mathematical value, reckoned in arbitrary precision or by quadrature: it tells how good the method is. The *error against the steps* is that against the method's own steps, carried out independently in doubles: it tells whether the method is the one that is meant. A figure is the largest of all rows of the tables in `tests/data/`, relative (r) or absolute (a), rounded up, and behind it stands the input that gave it. A dash stands where there is no such table.
+Two truths. The *error against truth* is that against the mathematical value, reckoned in arbitrary precision or by quadrature: it tells how good the method is. The *error against the steps* is that against the method's own steps, carried out independently in doubles: it tells whether the method is the one that is meant. A figure is the largest of all rows of the tables in `tests/data/`, relative (r) or absolute (a), rounded up, and behind it stands the input that gave it. The rows lie on both sides of each border between methods, and where a scan of a dense grid found the error at its largest. A dash stands where there is no such table.
+
+An area is an upper tail, P(X > x), and a deviate is that of an upper tail, whatever the sign; only `NoncentralTUpper` gives the lower area, in spite of its name. A domain "to x" begins where that of the row above ends.
 
 ## Routines
 

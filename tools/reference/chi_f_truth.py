@@ -23,6 +23,18 @@ PAIRS = [(1, 1), (1, 2), (2, 1), (2, 2), (3, 3), (1, 9), (9, 1), (4, 5), (5, 4),
          (19, 29), (20, 29), (29, 20), (99, 99), (100, 100), (3, 1001), (2, 1999), (1999, 2),
          (1001, 3), (181, 181), (180, 182), (181, 182), (182, 181), (200, 200), (3, 12001),
          (1999, 1999), (499, 1500), (17, 1999), (1999, 17)]
+# Pairs whose product is 32767, 32768 or a little more, and the longest sums of either kind.
+BORDER_PAIRS = [(31, 1057), (1057, 31), (32, 1024), (1024, 32), (17, 1928), (1928, 17), (16, 1999),
+                (1999, 16), (1, 1999), (1999, 1), (15, 1989)]
+BORDER_CHI_DFS = [198, 202]
+# Where a scan of a dense grid found the errors at their largest.
+WORST_CHI = [(180, 8.24), (181, 8.8), (201, 13.6608), (201, 16.3774)]
+WORST_F = [(1, 1692, 0.060810062625217973), (2, 1989, 0.049787068367863944),
+           (2, 1989, 2.1170000166126748), (15, 1989, 0.38674102345450123),
+           (1989, 17, 1.2840254166877414), (2, 1982, 0.0016615572731739339),
+           (1, 1994, 2.2115664858298806e-13), (1, 1994, 1.0721362989003941e-09),
+           (1, 1994, 0.00010185913880541169), (1, 1994, 0.010025360539605233),
+           (3, 1994, 0.33527409584841628), (1999, 1999, 1.0000000000999)]
 
 
 def chi_upper(df, chi):
@@ -41,21 +53,31 @@ def ratios(rng):
     return values + [10 ** rng.uniform(-1.5, 1.5) for _ in range(8)]
 
 
+def chi_rows(pairs):
+    for df, chi in pairs:
+        value = chi_upper(mp.mpf(df), mp.mpf(chi))
+        if value > mp.mpf(10) ** -300:  # below lie no doubles
+            yield ["chi", df, 0, repr(chi), mp.nstr(value, 20)]
+
+
+def f_rows(triples):
+    for d1, d2, ratio in triples:
+        value = f_upper(mp.mpf(d1), mp.mpf(d2), mp.mpf(ratio))
+        if value > mp.mpf(10) ** -300:
+            yield ["f", d1, d2, repr(ratio), mp.nstr(value, 20)]
+
+
 def main():
     rng = random.Random(268)
     with open(TABLE, "w", encoding="ascii", newline="") as table:
         out = csv.writer(table, lineterminator="\n")
         out.writerow(["function", "d1", "d2", "argument", "true"])
-        for df in CHI_DFS:
-            for chi in chis(df, rng):
-                value = chi_upper(mp.mpf(df), mp.mpf(chi))
-                if value > mp.mpf(10) ** -300:
-                    out.writerow(["chi", df, 0, repr(chi), mp.nstr(value, 20)])
-        for d1, d2 in PAIRS:
-            for ratio in ratios(rng):
-                value = f_upper(mp.mpf(d1), mp.mpf(d2), mp.mpf(ratio))
-                if value > mp.mpf(10) ** -300:  # below lie no doubles
-                    out.writerow(["f", d1, d2, repr(ratio), mp.nstr(value, 20)])
+        out.writerows(chi_rows((df, chi) for df in CHI_DFS for chi in chis(df, rng)))
+        out.writerows(f_rows((*pair, ratio) for pair in PAIRS for ratio in ratios(rng)))
+        out.writerows(chi_rows((df, chi) for df in BORDER_CHI_DFS for chi in chis(df, rng)))
+        out.writerows(chi_rows(WORST_CHI))
+        out.writerows(f_rows((*pair, ratio) for pair in BORDER_PAIRS for ratio in ratios(rng)))
+        out.writerows(f_rows(WORST_F))
 
 
 if __name__ == "__main__":

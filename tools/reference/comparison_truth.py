@@ -7,8 +7,9 @@ how good its distribution functions are. Method: F and t by the incomplete beta 
 by the incomplete gamma function, with 40 digits, on the statistics of the exact doubles whose
 decimal text stands in the row; the degrees of freedom of separate variances are cut to a whole
 number. Columns: the inputs, then the two-sided probabilities in percent for the dispersions and,
-with pooled and with separate variances (or with the population), for the locations. Needs mpmath
-(python3-mpmath).
+with pooled (or with the population) and with separate variances, for the locations; of two samples
+also that of separate variances with the degrees of freedom uncut, and GM and GSD of both by the
+method's own weights. Needs mpmath (python3-mpmath).
 """
 
 import csv
@@ -43,15 +44,25 @@ def sample(df, gm, gsd, df2, gm2, gsd2):
     v = df + df2
     pooled = distance / mp.sqrt((df * x + df2 * y) / v) * mp.sqrt((df + 1) * (df2 + 1) / (v + 2))
     a, b = x / (df + 1), y / (df2 + 1)
-    w = mp.floor((a + b) ** 2 / (a * a / df + b * b / df2))
+    w = (a + b) ** 2 / (a * a / df + b * b / df2)
+    separate = distance / mp.sqrt(a + b)
     return (percent(f_upper(df, df2, x / y)), percent(student_upper(v, pooled)),
-            percent(student_upper(w, distance / mp.sqrt(a + b))))
+            percent(student_upper(mp.floor(w), separate)), percent(student_upper(w, separate)))
 
 
 def population(df, gm, gsd, gm2, gsd2):
     t = mp.sqrt(df + 1) * mp.log(gm / gm2) / mp.log(gsd)
     return percent(chi_upper(df, mp.sqrt(df) * mp.log(gsd) / mp.log(gsd2))), percent(
-        student_upper(df, t)), mp.mpf(0)
+        student_upper(df, t))
+
+
+def both(df, gm, gsd, df2, gm2, gsd2):
+    """GM and GSD of both samples together; the second squared mean has the method's df2 + 2."""
+    m, m2, count = mp.log(gm), mp.log(gm2), df + df2 + 2
+    mean = ((df + 1) * m + (df2 + 1) * m2) / count
+    squares = df * mp.log(gsd) ** 2 + df2 * mp.log(gsd2) ** 2
+    squares += (df + 1) * m * m + (df2 + 2) * m2 * m2 - count * mean * mean
+    return mp.exp(mean), mp.exp(mp.sqrt(squares / (count - 1)))
 
 
 def main():
@@ -59,7 +70,7 @@ def main():
     with open(TABLE, "w", encoding="ascii", newline="") as table:
         out = csv.writer(table, lineterminator="\n")
         out.writerow(["mode", "M", "GM", "GSD", "M2", "GM2", "GSD2", "dispersion", "pooled",
-                      "separate"])
+                      "separate", "uncut", "both_GM", "both_GSD"])
         sizes = [2, 3, 4, 5, 9, 10, 30, 60, 101, 201, 202, 999, 2000]
         for k in range(120):
             mode = "P" if k % 4 == 0 else "S"
@@ -70,9 +81,12 @@ def main():
             gm2 = round(gm * gsd ** (rng.uniform(-1, 1) * spread), 5)
             gsd2 = round(1.001 + (gsd - 1) * 2 ** (rng.uniform(-1, 1) * spread), 4)
             exact = [mp.mpf(value) for value in (size - 1, gm, gsd, size2 - 1, gm2, gsd2)]
-            truth = sample(*exact) if mode == "S" else population(*exact[:3], *exact[4:])
+            if mode == "S":
+                truth = sample(*exact) + both(*exact)
+            else:
+                truth = population(*exact[:3], *exact[4:])
             out.writerow([mode, size, repr(gm), repr(gsd), size2, repr(gm2), repr(gsd2)] +
-                         [mp.nstr(value, 20) for value in truth])
+                         [mp.nstr(value, 20) for value in truth] + [""] * (6 - len(truth)))
 
 
 if __name__ == "__main__":

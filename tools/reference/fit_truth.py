@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes tests/data/rankit_truth.csv, shapiro_weight_truth.csv, fit_truth.csv and
-transform_truth.csv: expected normal order statistics, the fitted line and Shapiro's test, and the
-transformations of single values, in arbitrary precision.
+"""Writes tests/data/rankit_truth.csv, shapiro_weight_truth.csv, fit_truth.csv, transform_truth.csv
+and royston_poly_truth.csv: expected normal order statistics, the fitted line and Shapiro's test, the
+transformations of single values, and the test's polynomials, in arbitrary precision.
 
 Reason: the tables of the method's own steps tell whether the method was built; these tell how good
 it is. Method: rankits by quadrature of x times the density of an order statistic (mpmath, 30
@@ -172,6 +172,8 @@ def ranges(M):
     found = [(1, M)]
     if M >= 8:
         found += [(M // 4 + 1, M), (1, M - M // 3), (M // 5 + 1, M - M // 5)]
+    if M >= 20:  # one censored, and four fifths of them
+        found += [(2, M), (1, M - 4 * M // 5), (4 * M // 5 + 1, M)]
     return found
 
 
@@ -187,7 +189,7 @@ def table(name, header, rows):
 
 
 def rankit_rows():
-    for n in [*range(3, 25), 30, 38, 39, 40, 41, 60, 100, 200, 500, 1000, 1999, 2000]:
+    for n in [*range(3, 25), 26, 30, 38, 39, 40, 41, 60, 100, 200, 500, 1000, 1999, 2000]:
         wanted = range(1, n // 2 + 1)
         if n > 41:
             parts = {n // 20, n // 8, n // 4, n // 3, n // 2 - 1, n // 2}
@@ -216,7 +218,7 @@ def fit_rows():
 
 
 def weight_rows():
-    for M in (3, 4, 5, 6, 7, 11, 12, 20, 21, 50, 201, 500, 1001, 2000):
+    for M in (3, 4, 5, 6, 7, 10, 11, 12, 13, 19, 20, 21, 22, 50, 201, 500, 1001, 2000):
         half = weights(M)
         for i in sorted({1, 2, 3, 4, M // 4, M // 3, M // 2} & set(range(1, M // 2 + 1))):
             yield M, i, digits(half[i - 1])
@@ -244,7 +246,19 @@ def transform_rows():
             yield name, "back", repr(x), digits(back(mp.mpf(x)))
 
 
+def polynomial_rows():
+    with open(DATA / "royston_poly.csv", encoding="ascii", newline="") as rows:
+        for row in csv.DictReader(rows):
+            x, degree = mp.mpf(float(row["x"])), int(row["degree"])
+            if int(row["column"]) not in POLY or degree > 6:
+                continue
+            terms = POLY[int(row["column"])][:degree + 1]
+            value = sum((c * x ** k for k, c in enumerate(terms)), mp.mpf(0))
+            yield repr(float(row["x"])), degree, row["column"], digits(value)
+
+
 def main():
+    table("royston_poly_truth.csv", ["x", "degree", "column", "true"], polynomial_rows())
     table("transform_truth.csv", ["name", "way", "argument", "true"], transform_rows())
     table("shapiro_weight_truth.csv", ["M", "i", "true"], weight_rows())
     table("fit_truth.csv", ["series", "Transformation", "first", "last", "a", "b", "W", "PW"],

@@ -26,6 +26,24 @@ PS = [0.001, 0.01, 0.05, 0.2, 0.4, 0.7, 0.95]
 # Where a method that takes T(h, a) for Q(h) / 2 beyond h a = 4 is worst.
 CROSSING = [(1, 0.00182, 2.971), (1, 0.00182, 2.98), (3, 0.0182, 3.64), (1, 0.00182, -2.971)]
 CROSSING_OWEN = [(0.95, 4.2111), (0.9496, 4.2124), (0.9, 4.4445)]
+# The same for more degrees of freedom, as a scan of a dense grid found them.
+MORE_CROSSING = [(1, 0.0017855788383832616, -2.8891314272407369),
+                 (3, 0.018705514564201775, 3.0079529857150424),
+                 (5, 0.047956377911735681, 4.6079075129248626),
+                 (7, 0.93056337666666822, -3.0366083924674161),
+                 (9, 0.097660114741274562, 4.3321830896064961),
+                 (15, 0.14372098365096775, 2.6800281599502078),
+                 (29, 0.21586051935737427, 2.4661017039812481)]
+# Where a series that ends at a small term is worst, and both sides of the borders at h a = 4, h =
+# 37, a = 1 and the smallest a.
+BORDER_OWEN = [(6.7786444816632434, 0.57543993733715659), (8 * (1 - 1e-12), 0.5),
+               (8 * (1 + 1e-12), 0.5), (2 * (1 - 1e-12), 2.0), (2 * (1 + 1e-12), 2.0),
+               (36.9999999, 0.1), (37.0, 0.1), (37.0000001, 0.1), (1.0, 1 - 1e-12),
+               (1.0, 1 + 1e-12), (1.0, 3.9e-8), (1.0, 4.1e-8)]
+# Neighbours of the border between series and approximation, and the outermost proportions.
+BORDER_FS = [198, 202, 203]
+OUTER_FS = [1, 2, 3, 10, 199, 200, 201, 1999]
+OUTER_PS = [0.0001, 0.9999]
 
 
 def noncentral_lower(f, z, K):
@@ -71,7 +89,22 @@ def owen_arguments(rng):
     pairs = [(h, a) for h in (1e-6, 0.1, 0.7, 1.0, 2.5, 4.0, 5.0, 10.0, 35.0)
              for a in (4e-8, 1e-6, 0.1, 0.5, 0.79, 0.9999999, 1.0, 1.0000001, 2.0, 30.0)]
     pairs += [(10 ** rng.uniform(-2, 1), 10 ** rng.uniform(-2, 1)) for _ in range(150)]
-    return pairs + CROSSING_OWEN
+    return pairs + CROSSING_OWEN + BORDER_OWEN
+
+
+def deviate(p):
+    with mp.workdps(60):
+        return normal_inverse(mp.mpf(p))
+
+
+def lower(f, p, K):
+    return noncentral_lower(mp.mpf(f), deviate(p), mp.mpf(K))
+
+
+def border_arguments(rng):
+    pairs = [(f, p) for f in BORDER_FS for p in PS] + [(f, p) for f in OUTER_FS for p in OUTER_PS]
+    return [(f, p, K) for f, p in pairs
+            for K in factors(float(deviate(p)), f, rng)]
 
 
 def main():
@@ -80,19 +113,19 @@ def main():
         out = csv.writer(table, lineterminator="\n")
         out.writerow(["f", "p", "K", "true"])
         for f, p, K in CROSSING:
-            with mp.workdps(60):
-                z = normal_inverse(mp.mpf(p))
-            value = noncentral_lower(mp.mpf(f), z, mp.mpf(K))
-            out.writerow([f, repr(p), repr(K), mp.nstr(value, 20)])
+            out.writerow([f, repr(p), repr(K), mp.nstr(lower(f, p, K), 20)])
         for f in FS:
             for p in PS:
-                with mp.workdps(60):
-                    z = normal_inverse(mp.mpf(p))
+                z = deviate(p)
                 for K in factors(float(z), f, rng):
                     value = noncentral_lower(mp.mpf(f), z, mp.mpf(K))
                     if value < mp.mpf(10) ** -300:  # below the doubles
                         continue
                     out.writerow([f, repr(p), repr(K), mp.nstr(value, 20)])
+        for f, p, K in MORE_CROSSING + border_arguments(random.Random(200)):
+            value = lower(f, p, K)
+            if value > mp.mpf(10) ** -300:
+                out.writerow([f, repr(p), repr(K), mp.nstr(value, 20)])
     with open(DATA / "owen_t_truth.csv", "w", encoding="ascii", newline="") as table:
         out = csv.writer(table, lineterminator="\n")
         out.writerow(["h", "a", "true"])

@@ -49,7 +49,8 @@ def deviates():
 def probabilities():
     rng = random.Random(111)
     values = [0.5, 0.05, 0.95, 0.01, 0.99, 0.08, 0.92, 0.0799999, 0.0800001, 0.9200001, 1e-3,
-              1e-16, 1e-100, 1e-200, 1.1e-300, 1e-299, 1 - 1e-15, 0.9999999999999998]
+              1e-16, 1e-100, 1e-200, 1e-305, 1e-300, 1.1e-300, 1e-299, 1 - 1e-15, 0.9999999999999998,
+              0.9999999999999999]
     values += [rng.uniform(0, 1) for _ in range(120)]
     values += [10 ** rng.uniform(-300, -1) for _ in range(120)]
     values += [1 - 10 ** rng.uniform(-15, -1) for _ in range(60)]

@@ -21,6 +21,14 @@ mp.mp.dps = 60
 TABLE = Path(__file__).resolve().parents[2] / "tests" / "data" / "student_truth.csv"
 DFS = [1, 2, 3, 4, 5, 6, 7, 10, 19, 20, 49, 99, 200, 201, 500, 999, 1000, 1001, 1999]
 LARGE_DFS = [10000, 29999, 30000, 30001, 100000]
+# Where a scan of a dense grid found the errors of a sum, of one normal tail and of Newton's steps
+# under a loose stopping rule at their largest, and the neighbours of the borders between them.
+WORST_AREAS = [(30000, 1.38), (30000, 3.07), (30001, 2.165), (30001, 3.09), (30002, 2.165)]
+WORST_DEVIATES = [(5, 0.045852073963018491), (10, 0.035973962118275402),
+                  (3, 0.025048518689717938), (5, 0.0010013165311513054),
+                  (6, 0.0010316153156897975), (3, 0.00064852080923808537),
+                  (2, 0.00010569228934534443)]
+BORDER_DFS = [998, 1002]
 
 
 def density(df, t):
@@ -69,6 +77,11 @@ def main():
             for p in probabilities(rng):
                 t = mp.mpf(0) if p == 0.5 else inverse(mp.mpf(df), mp.mpf(p))
                 out.writerow(["inverse", df, repr(p), mp.nstr(t, 20)])
+        for df, t in WORST_AREAS:
+            out.writerow(["upper", df, repr(t), mp.nstr(student_upper(mp.mpf(df), mp.mpf(t)), 20)])
+        border = [(df, p) for df in BORDER_DFS for p in probabilities(rng) if p != 0.5]
+        for df, p in WORST_DEVIATES + border:
+            out.writerow(["inverse", df, repr(p), mp.nstr(inverse(mp.mpf(df), mp.mpf(p)), 20)])
 
 
 if __name__ == "__main__":
