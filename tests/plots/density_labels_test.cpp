@@ -1,0 +1,136 @@
+// Nobody can read two texts on top of each other: the labels of the density picture keep clear of
+// each other, of the curve and of the edge, whatever the numbers.
+#include "plots/density_labels.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "catalog/catalog.h"
+#include "plots/density_view.h"
+#include "plots/labels.h"
+
+namespace {
+
+using PlotWBas::Box;
+using PlotWBas::BoxOf;
+using PlotWBas::Wrapped;
+using screen::DrawingRecord;
+using screen::DrawnDot;
+using screen::DrawnText;
+
+struct Size {
+  double width;
+  double height;
+};
+// The window as it opens, at 1280 by 720, small, and tall.
+constexpr Size kSizes[] = {{11580, 8330}, {18780, 9930}, {9000, 6000}, {9000, 14000}};
+
+ExposureSession Sample(double GSD, int tab, const char* TestTag) {
+  ExposureSession s;
+  s.CR = "\r";
+  s.CurrentTab = LoadResString(tab);
+  s.TestTag = TestTag;
+  s.Name = "Welding fume, hall 3";
+  s.Unit = "mg/m3";
+  s.M = 12;
+  s.df = 11;
+  s.SigDigits = 4;
+  s.GM = 0.7811;
+  s.GSD = GSD;
+  s.U = 95;
+  s.D = 70;
+  s.UTL = s.GM * std::pow(GSD, 1.645);
+  s.AMu = s.GM * std::exp(0.5 * std::log(GSD) * std::log(GSD));
+  s.UCL = std::log(1.2 * s.AMu);
+  s.PercEx = 2.26;
+  s.OELV = 5;
+  return s;
+}
+
+bool Touch(const Box& a, const Box& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+bool Holds(const Box& box, screen::Point at) {
+  return at.x > box.left && at.x < box.right && at.y > box.top && at.y < box.bottom;
+}
+
+// What stands in each other's way; empty when nothing does.
+std::string Trouble(const DrawingRecord& drawing) {
+  std::vector<std::pair<std::string, Box>> boxes;
+  for (const auto& item : drawing.Items())
+    if (const auto* text = std::get_if<DrawnText>(&item))
+      boxes.push_back({text->label, BoxOf(*text)});
+  std::string trouble;
+  for (std::size_t i = 0; i < boxes.size(); ++i) {
+    const auto& [name, box] = boxes[i];
+    if (box.left < 0 || box.top < 0 || box.right > drawing.ScaleWidth() ||
+        box.bottom > drawing.ScaleHeight())
+      trouble += name + " leaves the surface; ";
+    for (std::size_t k = i + 1; k < boxes.size(); ++k)
+      if (Touch(box, boxes[k].second)) trouble += name + " touches " + boxes[k].first + "; ";
+    for (const auto& item : drawing.Items())
+      if (const auto* dot = std::get_if<DrawnDot>(&item); dot && Holds(box, dot->at)) {
+        trouble += name + " stands on the curve; ";
+        break;
+      }
+  }
+  return trouble;
+}
+
+struct Caller {
+  int tab;
+  const char* TestTag;
+};
+class DensityLabels : public testing::TestWithParam<Caller> {};
+
+TEST_P(DensityLabels, KeepClearOfEachOtherTheCurveAndTheEdge) {
+  for (const double GSD : {1.001, 1.05, 1.1, 1.2, 1.3, 1.5, 1.8, 2.5, 4.0, 8.0, 20.0, 200.0})
+    for (const double OELV : {0.3, 0.7, 0.8, 1.0, 2.0, 5.0, 40.0, 900.0})
+      for (const Size& size : kSizes) {
+        ExposureSession s = Sample(GSD, GetParam().tab, GetParam().TestTag);
+        s.OELV = OELV;
+        DrawingRecord drawing(size.width, size.height);
+        PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(s, {}));
+        EXPECT_EQ(Trouble(drawing), "")
+            << "GSD " << GSD << " OELV " << OELV << " on " << size.width << " by " << size.height;
+      }
+}
+
+INSTANTIATE_TEST_SUITE_P(Callers, DensityLabels,
+                         testing::Values(Caller{84, ""}, Caller{90, "Le"}, Caller{90, "Wi"},
+                                         Caller{90, "Tu"}, Caller{92, "Ap"}, Caller{92, "Ex"}));
+
+TEST(DensityLabels, TakeALongNameAndALongUnit) {
+  ExposureSession s = Sample(1.8, 92, "Ex");
+  s.Name = "/home/hygiene/measurements/2024/Foundry west, moulders and core makers, March.vkr";
+  s.Unit = "fibres/ml, eight-hour mean";
+  DrawingRecord drawing(11580, 8330);
+  PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(s, {}));
+  EXPECT_EQ(Trouble(drawing), "");
+}
+
+// The check above would be worth nothing if it saw no trouble at all.
+TEST(DensityLabels, TroubleIsSeen) {
+  DrawingRecord drawing(10000, 10000);
+  drawing.Text({100, 100}, "one", {}, "One");
+  EXPECT_EQ(Trouble(drawing), "");
+  drawing.Text({150, 100}, "two", {}, "Two");
+  drawing.Dot({200, 200}, {});
+  drawing.Text({9990, 9990}, "out", {}, "Three");
+  EXPECT_EQ(Trouble(drawing),
+            "One touches Two; One stands on the curve; Two stands on the curve; "
+            "Three leaves the surface; ");
+}
+
+TEST(DensityLabels, AreBrokenAtBlanks) {
+  const double width = PlotWBas::TextWidth("abc abc", 9);
+  EXPECT_EQ(Wrapped("abc abc abc", width, 9), "abc abc\rabc");
+  EXPECT_EQ(Wrapped("abc\rabc abc", width, 9), "abc\rabc abc");
+  EXPECT_EQ(Wrapped("abc  abc", width, 9), "abc abc");
+  EXPECT_EQ(Wrapped("abcabcabcabc abc", width, 9), "abcabcabcabc\rabc");
+  EXPECT_EQ(Wrapped("", width, 9), "");
+}
+
+}  // namespace
