@@ -166,7 +166,10 @@ TEST_F(FArea, OfNextToNothingIs1AndOfHugeRatiosIs0) {
   EXPECT_EQ(FUpper(2.0, 2.0, 0.0), 1);
   EXPECT_EQ(FUpper(2.0, 2.0, -4.0), 1);
   EXPECT_EQ(FUpper(2.0, 2.0, 1E+32), 0);
-  EXPECT_EQ(FUpper(2.0, 2.0, 1E+30), 1 / (1 + 1E+30));
+  EXPECT_EQ(FUpper(2.0, 2.0, 1E+31), 1 / (1 + 1E+31));
+  EXPECT_EQ(FUpper(2.0, 2.0, std::nextafter(1E+31, 1E+32)), 0);
+  EXPECT_LT(FUpper(1.0, 1.0, 1E-31), 1);
+  EXPECT_EQ(FUpper(1.0, 1.0, std::nextafter(1E-31, 0.0)), 1);
 }
 
 TEST_F(FArea, FromAProductOf32768DegreesOfFreedomOnGoesByTheCubeRoot) {
