@@ -142,6 +142,10 @@ BENCHMARK_CAPTURE(Activate, PercExForm, ScreenId::PercEx)
     ->Arg(40)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, TwoSampCompForm, ScreenId::TwoSamp)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
