@@ -65,6 +65,7 @@ TEST_F(FitSweeps, ABetterFitHasTheHigherProbabilityAtEverySampleSize) {
   for (int M = 4; M <= 2000; M += M < 40 ? 1 : 97) {
     ShapiroWeights weights;
     std::vector<ShapiroResult> found;
+    found.reserve(24);
     for (int k = 0; k < 24; ++k)
       found.push_back(ShapiroWilk(Skew(M, 0.01 + 0.08 * k), M, 1, M, weights));
     std::ranges::sort(found, {}, &ShapiroResult::W);

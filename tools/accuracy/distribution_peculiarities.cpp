@@ -85,8 +85,8 @@ std::vector<Entry> VariancePeculiarities() {
          return row.Number("d1") == row.Number("d2") &&
                 std::abs(row.Number("argument") - 1) <= 1e-10;
        })},
-      {"FUpper", "d1 d2 from 32768 on", "the cube root in place of the sum", Measure::Absolute,
-       FTruth([](const Row& row) {
+      {"FUpper", "both below 2000, d1 d2 from 32768 on", "the cube root in place of the sum",
+       Measure::Absolute, FTruth([](const Row& row) {
          const double d1 = row.Number("d1");
          const double d2 = row.Number("d2");
          return d1 * d2 >= 32768 && d1 < 2000 && d2 < 2000;
