@@ -75,7 +75,8 @@ void TwoSampCompForm::StartCompare() {
 bool TwoSampCompForm::AskForReference() {
   using namespace screen;
   IntroFrame.Show();
-  CalcCmb.Hide();
+  for (screen::Control* control : {&PopSampFrame, &DescrSecond, &GSDEqualFrm, &CalcCmb})
+    control->Hide();
   const Message question{LoadResString(2820), LoadResString(2818), Icon::Question, Buttons::YesNo,
                          screen::Answer::Yes};
   if (ports.messageBox.Show(question) != screen::Answer::Yes) return false;

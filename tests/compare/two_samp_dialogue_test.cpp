@@ -50,6 +50,17 @@ TEST_F(ComparisonScreen, ANoOnTheFirstQuestionLeavesTheIntroductionAlone) {
   EXPECT_EQ(TakeBox().text, "Are reference data available ?");
 }
 
+TEST_F(ComparisonScreen, TheQuestionStandsOverTheIntroductionAndTheCurrentData) {
+  bool introduction = false;
+  p.box.watch = [&] { introduction = form.IntroFrame.visible && !form.DescrSecond.visible; };
+  Start();
+  EXPECT_TRUE(introduction);
+  p.Record().CompareMode.clear();
+  introduction = false;
+  Start();
+  EXPECT_TRUE(introduction) << "whatever stood there before";
+}
+
 TEST_F(ComparisonScreen, AYesStartsWithTheDataAgainstThemselves) {
   Start();
   EXPECT_EQ(p.Record().CompareMode, "S");
