@@ -83,6 +83,8 @@ Look StateOf(Stage& stage, const Target& target, QWidget& widget) {
   const Control& control = *target.control;
   Look look{control.text,   !control.visible, !control.enabled,
             control.locked, control.ticked,   control.colour};
+  if (const auto* side = dynamic_cast<const screen::SideWindow*>(target.form))
+    look.hidden |= !side->shown;
   for (QWidget* at = widget.parentWidget(); at; at = at->parentWidget()) {
     const Control* around = stage.ControlOf(*target.form, at);
     if (!around) continue;
@@ -102,8 +104,9 @@ void CompareText(const Control& control, const QWidget& widget, const Look& stat
 }
 
 void CompareColour(const Control& control, const QWidget& widget) {
-  if (control.kind != Kind::Label || !control.colour) return;
-  const QColor shown = widget.palette().color(widget.foregroundRole());
+  const bool button = control.kind == Kind::CommandButton;
+  if ((control.kind != Kind::Label && !button) || !control.colour) return;
+  const QColor shown = widget.palette().color(button ? QPalette::Button : widget.foregroundRole());
   const QColor state(control.colour->red, control.colour->green, control.colour->blue);
   Same(control, "the colour", shown.name().toStdString(), state.name().toStdString());
 }

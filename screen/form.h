@@ -40,6 +40,13 @@ struct Form {
   void Complain(const std::string& text, const std::string& title);
 };
 
+// A small window beside the main one, which tells of work in progress: it is never the shown
+// screen, takes no input, and stands there while `shown`.
+struct SideWindow : Form {
+  using Form::Form;
+  bool shown = false;
+};
+
 // Replaces the design-time ids in tag and toolTipText of every control by catalogue texts.
 void ApplyCatalogue(Form& form);
 

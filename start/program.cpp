@@ -12,6 +12,7 @@
 #include "start/basis_form.h"
 #include "start/version.h"
 #include "stats/coefficients.h"
+#include "ucl/ucl_form.h"
 
 namespace start {
 
@@ -26,8 +27,10 @@ struct Program::Parts {
         grenzen(session, program, formPorts),
         descript(session, program, formPorts),
         percEx(session, program, formPorts),
+        mean(session, program, formPorts),
         compare(session, program, formPorts),
-        forms{&basis, &dataCtrl, &grenzen, &descript, &percEx, &compare} {
+        forms{&basis, &dataCtrl, &grenzen, &descript, &percEx, &mean, &compare} {
+    allForms.push_back(&mean.landHulp);
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
 
@@ -39,6 +42,7 @@ struct Program::Parts {
   limits::GrenzenForm grenzen;
   analysis::DescriptForm descript;
   compliance::PercExForm percEx;
+  ucl::UCLForm mean;
   compare::TwoSampCompForm compare;
   std::vector<navigation::SessionForm*> forms;
   std::vector<screen::Form*> allForms{forms.begin(), forms.end()};
@@ -65,6 +69,15 @@ struct Program::Parts {
   bool NothingTyped() const {
     const std::vector<double> series = Series();
     return std::none_of(series.begin(), series.end(), [](double c) { return c > 0; });
+  }
+
+  void StartExtrapolation(const std::string& tag) {
+    if (tag == "Ap")
+      mean.JahrCmb_Click();
+    else if (tag == "Ex")
+      mean.LandCmb_Click();
+    else
+      percEx.LeidelCmb_Click();
   }
 
   // What to ask before the program ends; the words follow the kind of data.
@@ -145,6 +158,8 @@ void Program::Open(ScreenId target) {
   Parts& p = *parts_;
   navigation::SessionForm* form = p.ById(target);
   if (!form) return;
+  // Whichever way the mean is left, what it showed is no test of another screen.
+  if (p.shown == &p.mean && form != &p.mean) p.session.TestTag.clear();
   p.shown = form;
   form->focusWanted = nullptr;
   if (form == &p.percEx && !p.percEx.loaded) p.percEx.Load();
@@ -155,21 +170,25 @@ void Program::Open(ScreenId target) {
 
 bool Program::Has(ScreenId target) const { return parts_->ById(target) != nullptr; }
 
-bool Program::HasExtrapolation(const std::string& tag) const { return tag == "Le"; }
+bool Program::HasExtrapolation(const std::string& tag) const {
+  return tag == "Le" || tag == "Ap" || tag == "Ex";
+}
 
 bool Program::HasPicture() const { return false; }
 
 void Program::RunExtrapolation(const std::string& tag) {
   Parts& p = *parts_;
   if (!HasExtrapolation(tag)) return;
-  if (p.shown != &p.percEx) {
-    auto& from = *static_cast<navigation::SessionForm*>(p.shown);
+  const bool ofMean = tag == "Ap" || tag == "Ex";
+  const ScreenId target = ofMean ? ScreenId::UCL : ScreenId::PercEx;
+  auto& from = *static_cast<navigation::SessionForm*>(p.shown);
+  if (from.id != target) {
     from.BeforeTabClick();
-    if (!workflow::GateOpen(p.session, from.id, ScreenId::PercEx)) return;
-    p.session.TestTag = tag;
-    Open(ScreenId::PercEx);
+    if (!workflow::GateOpen(p.session, from.id, target)) return;
+    workflow::PassGate(p.session, from.id, target);
+    Open(target);
   }
-  p.percEx.LeidelCmb_Click();
+  p.StartExtrapolation(tag);
 }
 
 bool Program::MayDropSeries() {

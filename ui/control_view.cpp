@@ -106,7 +106,7 @@ void ControlView::PushText() {
   } else if (auto* box = qobject_cast<QComboBox*>(widget_)) {
     if (box->currentText() != text) box->setEditText(text);
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
-    button->setText(text);
+    button->setText(Lines(shown_->text));
   } else if (auto* frame = qobject_cast<QGroupBox*>(widget_)) {
     frame->setTitle(text);
   } else if (auto* grid = qobject_cast<VkrGridView*>(widget_)) {
@@ -144,7 +144,9 @@ void ControlView::PushLook() {
   if (shown_->colour) {
     const screen::Colour& c = *shown_->colour;
     palette.setColor(QPalette::WindowText, QColor(c.red, c.green, c.blue));
+    palette.setColor(QPalette::Button, QColor(c.red, c.green, c.blue));
   }
+  if (auto* button = qobject_cast<QPushButton*>(widget_)) PushFace(*button);
   if (auto* edit = qobject_cast<QLineEdit*>(widget_)) {
     edit->setReadOnly(shown_->locked);
     if (shown_->locked) palette.setColor(QPalette::Base, palette.color(QPalette::Window));
@@ -152,6 +154,22 @@ void ControlView::PushLook() {
   if (widget_->property("Quiet").toBool())
     palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
   widget_->setPalette(palette);
+}
+
+// The style would lighten a palette's colour until white text on it is hard to read.
+void ControlView::PushFace(QPushButton& button) {
+  if (!shown_->colour) {
+    button.setStyleSheet({});
+    return;
+  }
+  const QColor face(shown_->colour->red, shown_->colour->green, shown_->colour->blue);
+  button.setStyleSheet(
+      QStringLiteral("QPushButton { background-color: %1; color: white; border: 2px solid %1;"
+                     " border-radius: 3px; padding: 3px; }"
+                     "QPushButton:focus { border-color: palette(highlight); }"
+                     "QPushButton:pressed { background-color: %2; }"
+                     "QPushButton:disabled { color: lightgray; }")
+          .arg(face.name(), face.darker(170).name()));
 }
 
 void ControlView::PushAction(bool visible) {

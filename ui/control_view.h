@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QPushButton>
 #include <QWidget>
 
 #include <optional>
@@ -38,6 +39,7 @@ class ControlView {
   void PushTicked();
   void PushValue();
   void PushLook();
+  void PushFace(QPushButton& button);
   void PushAction(bool visible);
   void SelectAll();
   void NameForReaders();

@@ -12,6 +12,7 @@
 #include <QVariant>
 
 #include <stdexcept>
+#include <utility>
 
 #include "ui/picture_view.h"
 #include "ui/text.h"
@@ -57,6 +58,12 @@ void FormBinder::Add(Control& control) {
   ControlView& view = views_.emplace_back(control, widget, action);
   if (widget) byWidget_[widget] = &view;
   view.ReadDesign();
+}
+
+QWidget* FormBinder::TakeContent() {
+  page_.area->takeWidget();
+  delete std::exchange(page_.area, nullptr);
+  return page_.content;
 }
 
 void FormBinder::Connect(FocusWatch& focus) {

@@ -29,6 +29,8 @@ class FormBinder : public QObject {
 
   screen::Form& Form() const { return form_; }
   QScrollArea* Area() const { return page_.area; }
+  // The laid-out controls for a window of their own; there is no area any more.
+  QWidget* TakeContent();
   QWidget* WidgetOf(const screen::Control& control) const;
   QAction* ActionOf(const screen::Control& control) const;
   // The control that `widget` is, or is a part of.
@@ -38,6 +40,7 @@ class FormBinder : public QObject {
 
   // Brings one widget up to date and paints it at once.
   void Repaint(const screen::Control& control);
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

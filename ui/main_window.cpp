@@ -12,6 +12,7 @@
 #include "ui/event_gate.h"
 #include "ui/focus_watch.h"
 #include "ui/form_binder.h"
+#include "ui/side_view.h"
 #include "ui/strip_view.h"
 #include "ui/text.h"
 
@@ -29,7 +30,9 @@ class MainWindow::Private {
 
   FormBinder* BinderOf(const screen::Form& form) const;
   screen::Control* ControlOf(QWidget* widget) const;
+  void Add(screen::Form& form);
   void Push();
+  bool RepaintSide(const screen::Form& form);
   void Settle();
   void End();
   void Choose(const QString& key);
@@ -43,6 +46,7 @@ class MainWindow::Private {
   StripView* strip_;
   QStackedWidget* pages_;
   std::vector<std::unique_ptr<FormBinder>> binders_;
+  std::vector<SideView*> sides_;  // the window owns them
   bool pointerBusy_ = false;
   bool ending_ = false;
 };
@@ -61,12 +65,18 @@ MainWindow::Private::Private(MainWindow& window, start::Program& program, screen
   column->addWidget(strip_);
   column->addWidget(pages_);
   window.setCentralWidget(middle);
-  for (screen::Form* form : program.Forms()) {
-    binders_.push_back(std::make_unique<FormBinder>(*form, *window.menuBar(), gate_));
-    pages_->addWidget(binders_.back()->Area());
-  }
+  for (screen::Form* form : program.Forms()) Add(*form);
   for (auto& binder : binders_) binder->Connect(focus_);
   connect(strip_, &StripView::Chosen, &window, [this](const QString& key) { Choose(key); });
+}
+
+void MainWindow::Private::Add(screen::Form& form) {
+  binders_.push_back(std::make_unique<FormBinder>(form, *window_.menuBar(), gate_));
+  FormBinder& binder = *binders_.back();
+  if (const auto* side = dynamic_cast<const screen::SideWindow*>(&form))
+    sides_.push_back(new SideView(window_, *side, *binder.TakeContent()));
+  else
+    pages_->addWidget(binder.Area());
 }
 
 FormBinder* MainWindow::Private::BinderOf(const screen::Form& form) const {
@@ -86,6 +96,7 @@ void MainWindow::Private::Push() {
   QWidget* before = window_.focusWidget();
   const screen::Form& shown = program_.Shown();
   for (auto& binder : binders_) binder->Push(&binder->Form() == &shown);
+  for (SideView* side : sides_) side->Push();
   strip_->Push(shown.strip);
   const QWidget* oldPage = pages_->currentWidget();
   if (const FormBinder* binder = BinderOf(shown)) pages_->setCurrentWidget(binder->Area());
@@ -94,6 +105,20 @@ void MainWindow::Private::Push() {
   window_.setWindowModified(program_.Unsaved());
   PushPointer(shown.busyPointer);
   if (window_.focusWidget() != before) focus_.Adopt();
+}
+
+// The small window alone: painting the whole one at each step of a search would cost more than the
+// search.
+bool MainWindow::Private::RepaintSide(const screen::Form& form) {
+  for (SideView* side : sides_) {
+    if (&side->Form() != &form) continue;
+    BinderOf(form)->Push(true);
+    side->Push();
+    PushPointer(program_.Shown().busyPointer);
+    side->PaintNow();
+    return true;
+  }
+  return false;
 }
 
 void MainWindow::Private::PushPointer(bool busy) {
@@ -155,9 +180,16 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::ShowState() { private_->Push(); }
 
-void MainWindow::Repaint(screen::Form&) {
+void MainWindow::Repaint(screen::Form& form) {
+  if (private_->RepaintSide(form)) return;
   private_->Push();
+  // What a hidden control leaves to the others is theirs before they are painted.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   repaint();
+}
+
+void MainWindow::RepaintControl(screen::Form& form, screen::Control& control) {
+  if (FormBinder* binder = private_->BinderOf(form)) binder->Repaint(control);
 }
 
 QWidget* MainWindow::WidgetOf(const screen::Form& form, const screen::Control& control) const {
@@ -180,9 +212,3 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 }  // namespace ui
-  // What a hidden control leaves to the others is theirs before they are painted.
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-void MainWindow::RepaintControl(screen::Form& form, screen::Control& control) {
-  if (FormBinder* binder = private_->BinderOf(form)) binder->Repaint(control);
-}
-

@@ -12,8 +12,10 @@
 #include "ui_data_ctrl_form.h"
 #include "ui_descript_form.h"
 #include "ui_grenzen_form.h"
+#include "ui_land_hulp_form.h"
 #include "ui_perc_ex_form.h"
 #include "ui_two_samp_comp_form.h"
+#include "ui_ucl_form.h"
 
 namespace ui {
 namespace {
@@ -32,6 +34,7 @@ const std::map<std::string, Shell (*)()>& Designs() {
       {"BasisForm", &Lay<Ui::BasisForm>},     {"DataCtrlForm", &Lay<Ui::DataCtrlForm>},
       {"GrenzenForm", &Lay<Ui::GrenzenForm>}, {"DescriptForm", &Lay<Ui::DescriptForm>},
       {"PercExForm", &Lay<Ui::PercExForm>},   {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
+      {"UCLForm", &Lay<Ui::UCLForm>},         {"LandHulpForm", &Lay<Ui::LandHulpForm>},
   };
   return designs;
 }

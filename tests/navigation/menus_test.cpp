@@ -7,11 +7,9 @@ namespace {
 
 using support::ProgramSession;
 
-const char* const kScreens[][2] = {{"basis", "BasisForm"},
-                                   {"raw", "DataCtrlForm"},
-                                   {"grenzen", "GrenzenForm"},
-                                   {"descript", "DescriptForm"},
-                                   {"extrapolation", "PercExForm"}};
+const char* const kScreens[][2] = {{"basis", "BasisForm"},          {"raw", "DataCtrlForm"},
+                                   {"grenzen", "GrenzenForm"},      {"descript", "DescriptForm"},
+                                   {"extrapolation", "PercExForm"}, {"mean", "UCLForm"}};
 
 void OpenOn(ProgramSession& user, const std::string& key) {
   user.OpenSeries({1, 2, 4, 8});
@@ -34,13 +32,31 @@ TEST(Menus, TheLeidelTestRunsFromEveryScreen) {
   }
 }
 
+TEST(Menus, BothMethodsOfTheMeanRunFromEveryScreen) {
+  for (const auto& [key, form] : kScreens) {
+    for (const auto& [menu, tag] : {std::pair("MenuJahr", "Ap"), std::pair("MenuLand", "Ex")}) {
+      SCOPED_TRACE(std::string(form) + " " + menu);
+      ProgramSession user;
+      OpenOn(user, key);
+      user.Click(menu);
+      EXPECT_EQ(user.Shown().name, "UCLForm");
+      EXPECT_EQ(user.Record().TestTag, tag);
+      EXPECT_EQ(user.Record().CurrentTab, "Mean UCL");
+      EXPECT_NE(user.Text("UCLTxB"), "");
+      EXPECT_TRUE(user.box.shown.empty());
+    }
+  }
+}
+
 TEST(Menus, NoTestRunsWhileTheSeriesIsIncomplete) {
-  ProgramSession user;
-  OpenOn(user, "basis");
-  user.Type("SampSizTxB", "6");
-  user.Click("MenuLeid");
-  EXPECT_EQ(user.Shown().name, "BasisForm");
-  EXPECT_EQ(user.Record().TestTag, "");
+  for (const char* menu : {"MenuLeid", "MenuJahr", "MenuLand"}) {
+    ProgramSession user;
+    OpenOn(user, "basis");
+    user.Type("SampSizTxB", "6");
+    user.Click(menu);
+    EXPECT_EQ(user.Shown().name, "BasisForm") << menu;
+    EXPECT_EQ(user.Record().TestTag, "") << menu;
+  }
 }
 
 // The limits screen judges its fields before it is left, whichever way.
@@ -60,10 +76,9 @@ TEST(Menus, WhatTheProgramLacksIsDisabled) {
     SCOPED_TRACE(form);
     ProgramSession user;
     OpenOn(user, key);
-    EXPECT_TRUE(user.At("MenuLeid").enabled);
-    EXPECT_TRUE(user.At("MenuComp").enabled);
-    for (const char* menu : {"MenuWilks", "MenuTugg", "MenuJahr", "MenuLand", "MenuAM", "MenuVerd",
-                             "MenuPlot"})
+    for (const char* menu : {"MenuLeid", "MenuJahr", "MenuLand", "MenuAM", "MenuComp"})
+      EXPECT_TRUE(user.At(menu).enabled) << menu;
+    for (const char* menu : {"MenuWilks", "MenuTugg", "MenuVerd", "MenuPlot"})
       EXPECT_FALSE(user.At(menu).enabled) << menu;
   }
 }

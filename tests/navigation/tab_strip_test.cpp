@@ -82,7 +82,7 @@ TEST(TabStrip, TabsOfScreensThatTheProgramLacksAreDisabled) {
   user.OpenSeries({1, 2, 4, 8});
   user.Tab("basis");
   for (const screen::Tab& tab : user.Shown().strip->tabs) {
-    const bool lacks = tab.key == "plot" || tab.key == "mean";
+    const bool lacks = tab.key == "plot";
     EXPECT_EQ(tab.enabled, !lacks) << tab.key;
   }
 }
@@ -96,6 +96,7 @@ TEST(TabClick, LeadsToItsScreenWhichTakesTheCurrentTab) {
       {"descript", "DescriptForm", "Descriptive statistics"},
       {"raw", "DataCtrlForm", "Raw data"},
       {"extrapolation", "PercExForm", "Statistical tests (Comparison with OELV)"},
+      {"mean", "UCLForm", "Mean UCL"},
       {"Compare", "TwoSampCompForm", "Compare"},
       {"basis", "BasisForm", "Start"}};
   for (const auto& [key, form, caption] : tabs) {
