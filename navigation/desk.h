@@ -16,11 +16,15 @@ class Desk {
   virtual void Open(ScreenId target) = 0;
   // Whether the program has that screen.
   virtual bool Has(ScreenId target) const = 0;
-  // Whether the program has the extrapolation `tag`, and the frequency picture.
+  // Whether the program has the extrapolation `tag`.
   virtual bool HasExtrapolation(const std::string& tag) const = 0;
-  virtual bool HasPicture() const = 0;
   // Opens the screen of the extrapolation `tag` ("Le", "Wi", "Tu", "Ap", "Ex") and starts it.
   virtual void RunExtrapolation(const std::string& tag) = 0;
+  // Shows the frequency distribution picture in place of the present screen; then goes back to
+  // that screen, which stands as it was left.
+  virtual void ShowPicture() = 0;
+  virtual void ClosePicture() = 0;
+  virtual bool ShowsPicture() const = 0;
   // Whether the series differs from its file.
   virtual bool Unsaved() const = 0;
   // The series now in the record is what its file holds.

@@ -34,6 +34,7 @@ SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string st
   Menuclose.Click = [this] { desk.CloseAllData(); };
   MenuExit.Click = [this] { desk.Exit(); };
   MenuPlot.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::Plot).key); };
+  MenuVerd.Click = [this] { desk.ShowPicture(); };
   MenuComp.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::TwoSamp).key); };
   for (screen::Control* menu : {&MenuLeid, &MenuWilks, &MenuTugg, &MenuJahr, &MenuLand})
     menu->Click = [this, menu] { desk.RunExtrapolation(TagOfMenu(*menu)); };
@@ -45,7 +46,6 @@ void SessionForm::OfferMenus() {
   for (screen::Control* menu : {&MenuLeid, &MenuWilks, &MenuTugg, &MenuJahr, &MenuLand})
     menu->enabled = desk.HasExtrapolation(TagOfMenu(*menu));
   MenuAM.enabled = MenuJahr.enabled || MenuLand.enabled;
-  MenuVerd.enabled = desk.HasPicture();
 }
 
 void SessionForm::RebuildStrip() {

@@ -8,6 +8,7 @@
 #include "compare/two_samp_comp_form.h"
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
+#include "plots/verdeling_form.h"
 #include "rawdata/data_ctrl_form.h"
 #include "start/basis_form.h"
 #include "start/version.h"
@@ -29,7 +30,9 @@ struct Program::Parts {
         percEx(session, program, formPorts),
         mean(session, program, formPorts),
         compare(session, program, formPorts),
+        verdeling(session, program, formPorts),
         forms{&basis, &dataCtrl, &grenzen, &descript, &percEx, &mean, &compare} {
+    allForms.push_back(&verdeling);
     allForms.push_back(&mean.landHulp);
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
@@ -44,10 +47,12 @@ struct Program::Parts {
   compliance::PercExForm percEx;
   ucl::UCLForm mean;
   compare::TwoSampCompForm compare;
+  plots::VerdelingForm verdeling;
   std::vector<navigation::SessionForm*> forms;
   std::vector<screen::Form*> allForms{forms.begin(), forms.end()};
 
   screen::Form* shown = &basis;
+  screen::Form* behindPicture = nullptr;  // the screen that the picture was called from
   bool endRequested = false;
   std::vector<double> savedSeries;  // C(1) to C(M) as the file holds them
 
@@ -158,6 +163,7 @@ void Program::Open(ScreenId target) {
   Parts& p = *parts_;
   navigation::SessionForm* form = p.ById(target);
   if (!form) return;
+  if (ShowsPicture()) p.shown = p.behindPicture;
   // Whichever way the mean is left, what it showed is no test of another screen.
   if (p.shown == &p.mean && form != &p.mean) p.session.TestTag.clear();
   p.shown = form;
@@ -174,8 +180,6 @@ bool Program::HasExtrapolation(const std::string& tag) const {
   return tag == "Le" || tag == "Ap" || tag == "Ex";
 }
 
-bool Program::HasPicture() const { return false; }
-
 void Program::RunExtrapolation(const std::string& tag) {
   Parts& p = *parts_;
   if (!HasExtrapolation(tag)) return;
@@ -190,6 +194,23 @@ void Program::RunExtrapolation(const std::string& tag) {
   }
   p.StartExtrapolation(tag);
 }
+
+void Program::ShowPicture() {
+  Parts& p = *parts_;
+  p.behindPicture = p.shown;
+  p.shown = &p.verdeling;
+  if (onShow) onShow(p.verdeling);
+  p.verdeling.Activate();
+}
+
+void Program::ClosePicture() {
+  Parts& p = *parts_;
+  if (!ShowsPicture()) return;
+  p.shown = p.behindPicture;
+  if (onShow) onShow(*p.shown);
+}
+
+bool Program::ShowsPicture() const { return parts_->shown == &parts_->verdeling; }
 
 bool Program::MayDropSeries() {
   using namespace screen;

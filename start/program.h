@@ -44,10 +44,12 @@ class Program final : public navigation::Desk {
   void Open(navigation::ScreenId target) override;
   bool Has(navigation::ScreenId target) const override;
   bool HasExtrapolation(const std::string& tag) const override;
-  bool HasPicture() const override;
   bool Unsaved() const override;
   void MarkSaved() override;
   void RunExtrapolation(const std::string& tag) override;
+  void ShowPicture() override;
+  void ClosePicture() override;
+  bool ShowsPicture() const override;
   bool MayDropSeries() override;
   bool CloseAllData() override;
   void Exit() override;

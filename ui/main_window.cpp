@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -31,6 +32,7 @@ class MainWindow::Private {
   FormBinder* BinderOf(const screen::Form& form) const;
   screen::Control* ControlOf(QWidget* widget) const;
   void Add(screen::Form& form);
+  void FocusNewPage(QWidget* before);
   void Push();
   bool RepaintSide(const screen::Form& form);
   void Settle();
@@ -47,6 +49,8 @@ class MainWindow::Private {
   QStackedWidget* pages_;
   std::vector<std::unique_ptr<FormBinder>> binders_;
   std::vector<SideView*> sides_;  // the window owns them
+  QPointer<QWidget> beforeDetour_;
+  bool onDetour_ = false;
   bool pointerBusy_ = false;
   bool ending_ = false;
 };
@@ -91,6 +95,18 @@ screen::Control* MainWindow::Private::ControlOf(QWidget* widget) const {
   return nullptr;
 }
 
+// A screen without a strip is a detour: behind it the focus is where it was before.
+void MainWindow::Private::FocusNewPage(QWidget* before) {
+  if (program_.Shown().strip == nullptr) {
+    beforeDetour_ = before;
+    onDetour_ = true;
+  } else if (std::exchange(onDetour_, false) && beforeDetour_ && beforeDetour_->isVisible()) {
+    beforeDetour_->setFocus();
+  } else if (strip_->isVisible()) {
+    strip_->setFocus();
+  }
+}
+
 // Showing and hiding may move the focus; that is no event for the controls.
 void MainWindow::Private::Push() {
   QWidget* before = window_.focusWidget();
@@ -100,7 +116,7 @@ void MainWindow::Private::Push() {
   strip_->Push(shown.strip);
   const QWidget* oldPage = pages_->currentWidget();
   if (const FormBinder* binder = BinderOf(shown)) pages_->setCurrentWidget(binder->Area());
-  if (oldPage != pages_->currentWidget() && strip_->isVisible()) strip_->setFocus();
+  if (oldPage != pages_->currentWidget()) FocusNewPage(before);
   window_.setWindowTitle(Shown(program_.Title()) + QLatin1String("[*]"));
   window_.setWindowModified(program_.Unsaved());
   PushPointer(shown.busyPointer);

@@ -16,6 +16,7 @@
 #include "ui_perc_ex_form.h"
 #include "ui_two_samp_comp_form.h"
 #include "ui_ucl_form.h"
+#include "ui_verdeling_form.h"
 
 namespace ui {
 namespace {
@@ -35,6 +36,7 @@ const std::map<std::string, Shell (*)()>& Designs() {
       {"GrenzenForm", &Lay<Ui::GrenzenForm>}, {"DescriptForm", &Lay<Ui::DescriptForm>},
       {"PercExForm", &Lay<Ui::PercExForm>},   {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
       {"UCLForm", &Lay<Ui::UCLForm>},         {"LandHulpForm", &Lay<Ui::LandHulpForm>},
+      {"VerdelingForm", &Lay<Ui::VerdelingForm>},
   };
   return designs;
 }

@@ -76,9 +76,10 @@ TEST(Menus, WhatTheProgramLacksIsDisabled) {
     SCOPED_TRACE(form);
     ProgramSession user;
     OpenOn(user, key);
-    for (const char* menu : {"MenuLeid", "MenuJahr", "MenuLand", "MenuAM", "MenuComp"})
+    for (const char* menu : {"MenuLeid", "MenuJahr", "MenuLand", "MenuAM", "MenuComp",
+                             "MenuVerd"})
       EXPECT_TRUE(user.At(menu).enabled) << menu;
-    for (const char* menu : {"MenuWilks", "MenuTugg", "MenuVerd", "MenuPlot"})
+    for (const char* menu : {"MenuWilks", "MenuTugg", "MenuPlot"})
       EXPECT_FALSE(user.At(menu).enabled) << menu;
   }
 }
