@@ -220,8 +220,10 @@ FractionSearch En689Fraction(const ExposureSession& s, double Ur, const En689Pro
   return again;
 }
 
+bool En689Decides(double df) { return df > kDecisionAbove; }
+
 std::optional<bool> En689Complies(const ExposureSession& s) {
-  if (!(s.df > kDecisionAbove)) return std::nullopt;
+  if (!En689Decides(s.df)) return std::nullopt;
   return s.UTL < s.OELV.value_or(0);
 }
 

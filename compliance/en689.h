@@ -72,7 +72,11 @@ struct FractionSearch {
 FractionSearch En689Fraction(const ExposureSession& s, double Ur,
                              const En689Progress& progress = {});
 
-// The verdict: whether the tolerance limit lies below the limit value. None with df up to 4.
+// Whether the test decides at all: with df up to 4 it does not.
+bool En689Decides(double df);
+
+// The verdict: whether the tolerance limit lies below the limit value. None where the test does not
+// decide.
 std::optional<bool> En689Complies(const ExposureSession& s);
 
 // Whether U is 50 percent or less, for which there is no tolerance limit; then stores the message

@@ -2,13 +2,11 @@
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
-#include "compliance/leidel.h"
 
 namespace compliance {
 namespace {
 
-constexpr screen::Colour kGreen{0, 128, 0};
-constexpr screen::Colour kRed{192, 0, 0};
+bool IsTest(const std::string& tag) { return tag == "Le" || tag == "Wi" || tag == "Tu"; }
 
 }  // namespace
 
@@ -17,15 +15,18 @@ PercExForm::PercExForm(ExposureSession& record, navigation::Desk& programDesk,
     : SessionForm("PercExForm", navigation::ScreenId::PercEx, "TabPercEx", record, programDesk,
                   formPorts) {
   LeidelCmb.Click = [this] { LeidelCmb_Click(); };
-  for (screen::Control* box : {&PercExTxB0, &PercExTxB1, &PercExTxB2}) box->locked = true;
+  WilksCmb.Click = [this] { WilksCmb_Click(); };
+  TuggleCmb.Click = [this] { TuggleCmb_Click(); };
+  SampSizeCkb.Click = [this] { SampSizeCkb_Click(); };
+  for (screen::Control* box :
+       {&PercExTxB0, &PercExTxB1, &PercExTxB2, &DegrMinTxb, &PercExTxB3, &SampMinTxB})
+    box->locked = true;
 }
 
 void PercExForm::Load() {
   loaded = true;
   OfferMenus();
   MenuPrint.enabled = false;
-  WilksCmb.enabled = desk.HasExtrapolation("Wi");
-  TuggleCmb.enabled = desk.HasExtrapolation("Tu");
   caption = LoadResString(2304);
   CommentLbl.Hide();
   ComplianceLbl.Hide();
@@ -43,7 +44,15 @@ void PercExForm::Activate() {
 }
 
 PercExForm::Basis PercExForm::PresentBasis() const {
-  return {session.GM, session.GSD, session.df, session.OELV.value_or(0), session.U, session.D};
+  return {session.GM,
+          session.GSD,
+          session.M,
+          session.df,
+          session.RegressionOn ? 1.0 : 0.0,
+          static_cast<double>(session.NInRange),
+          session.OELV.value_or(0),
+          session.U,
+          session.D};
 }
 
 // The boxes of a test stay as they are until a button is pressed, but never show the numbers of
@@ -51,7 +60,9 @@ PercExForm::Basis PercExForm::PresentBasis() const {
 void PercExForm::DropStaleResults() {
   if (PresentBasis() == shownBasis_) return;
   ComplianceLbl.Hide();
-  for (screen::Control* box : {&PercExTxB0, &PercExTxB1, &PercExTxB2}) box->text.clear();
+  ClearResults();
+  ClearSampleSize();
+  ShowCaptions();
 }
 
 void PercExForm::BasisStatus() {
@@ -110,24 +121,26 @@ void PercExForm::ShowWording() {
   }
 }
 
+// Only the EN 689 test has a third row.
 void PercExForm::ShowResultControls(bool shown) {
-  for (screen::Control* control :
-       {&MenuVerd, &MenuPrint, &PercExLbl0, &PercExLbl1, &PercExLbl2, &PercExTxB0, &PercExTxB1,
-        &PercExTxB2, &DimLbl2, &DimLbl3, &DimLbl4, &CommentLbl})
+  for (screen::Control* control : {&MenuVerd, &MenuPrint, &PercExLbl0, &PercExLbl1, &PercExTxB0,
+                                   &PercExTxB1, &DimLbl2, &DimLbl3, &ReasonLbl, &CommentLbl})
     control->visible = shown;
+  for (screen::Control* control : {&PercExLbl2, &PercExTxB2, &DimLbl4})
+    control->visible = shown && session.TestTag == "Tu";
   IntroFrm.visible = !shown;
 }
 
+// The mean's screen leaves tags of its own, which are no test of this one.
 void PercExForm::TestLayout() {
   DimLbl2.text = "%";
   DimLbl3.text = session.Unit;
   CommentLbl.Hide();
-  ShowResultControls(!session.TestTag.empty());
-  if (session.TestTag.empty()) {
+  ShowResultControls(IsTest(session.TestTag));
+  if (!IsTest(session.TestTag)) {
     UTLFrm.text = LoadResString(2320);
     ComplianceLbl.Hide();
-    SampSizeCkb.Hide();
-    SampSizeCkb.ticked = false;
+    OfferSampleSize(false);
   }
   if (!(session.OELV.value_or(0) > 0)) {
     desk.Open(navigation::ScreenId::Basis);
@@ -135,38 +148,6 @@ void PercExForm::TestLayout() {
   }
   Ur = Divide(Log(Divide(*session.OELV, session.GM)), Log(session.GSD));
   VkrValLbl1.text = LimitText(" \\  ");
-}
-
-void PercExForm::ShowVerdict(bool compliance, int captionIfSo, int captionIfNot) {
-  ComplianceLbl.colour = compliance ? kGreen : kRed;
-  ComplianceLbl.text = LoadResString(compliance ? captionIfSo : captionIfNot);
-}
-
-void PercExForm::LeidelCmb_Click() {
-  session.TestTag = "Le";
-  shownBasis_ = PresentBasis();
-  IntroFrm.Hide();
-  TestLayout();
-  WindnrLbl.text = "25";
-  UTLFrm.text = LoadResString(2320) + ": " + LoadResString(2501);
-  for (screen::Control* control : {&SampsizeFrm, &SampSizeCkb, &PercExLbl2, &PercExTxB2, &DimLbl4})
-    control->Hide();
-  ComplianceLbl.Show();
-  CommentLbl.text = LoadResString(2505) + LoadResString(2506) + LoadResString(2507);
-  PercExLbl0.text = PercExLbl0.tip = PercExTxB0.tip = LoadResString(2508);
-  PercExTxB0.text = std::string(17, ' ');
-  PercExTxB1.text.clear();  // should the limit fault, no earlier one must stand there
-
-  session.PercEx = LeidelExceedance(Ur);
-  ShowVerdict(LeidelComplies(session.PercEx), 2307, 2308);
-  PercExTxB0.text = session.PercEx == 0 ? "    <1E-300      " : Shown(session.PercEx);
-
-  PercExLbl1.tip = PercExTxB1.tip = LoadResString(2503);
-  Ur = LeidelDeviate(session.U);
-  session.UTL = LeidelToleranceLimit(session.GM, session.GSD, Ur);
-  PercExLbl1.text = ShownTrimmed(session.U) + LoadResString(2504);
-  PercExTxB1.text = Shown(session.UTL);
-  Refresh();
 }
 
 }  // namespace compliance

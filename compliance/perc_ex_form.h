@@ -3,6 +3,8 @@
 #include <array>
 #include <string>
 
+#include "compliance/en689.h"
+#include "compliance/sample_size.h"
 #include "navigation/session_form.h"
 
 namespace compliance {
@@ -46,11 +48,25 @@ struct PercExForm final : navigation::SessionForm {
   screen::Control PercExTxB2{*this, screen::Kind::TextBox, "PercExTxB(2)"};
   screen::Control DimLbl4{*this, screen::Kind::Label, "DimLbl(4)"};
   screen::Control ComplianceLbl{*this, screen::Kind::Label, "ComplianceLbl"};
+  // Why the verdicts of the three tests can differ.
+  screen::Control ReasonLbl{*this, screen::Kind::Label, "ReasonLbl"};
   screen::Control CommentLbl{*this, screen::Kind::Label, "CommentLbl"};
   screen::Control SampSizeCkb{*this, screen::Kind::CheckBox, "SampSizeCkb"};
-  screen::Control SampsizeFrm{*this, screen::Kind::Frame, "SampsizeFrm"};
 
-  double Ur = 0;  // standardised distance of the limit from the mean on the log scale
+  screen::Control SampsizeFrm{*this, screen::Kind::Frame, "SampsizeFrm"};
+  screen::Control ComMinLbl{*this, screen::Kind::Label, "ComMinLbl"};
+  screen::Control DegrMinLbl{*this, screen::Kind::Label, "DegrMinLbl"};
+  screen::Control DegrMinTxb{*this, screen::Kind::TextBox, "DegrMinTxb"};
+  screen::Control PercExLbl3{*this, screen::Kind::Label, "PercExLbl(3)"};
+  screen::Control PercExTxB3{*this, screen::Kind::TextBox, "PercExTxB(3)"};
+  screen::Control SampMinLbl{*this, screen::Kind::Label, "SampMinLbl"};
+  screen::Control SampMinTxB{*this, screen::Kind::TextBox, "SampMinTxB"};
+
+  double Ur = 0;           // standardised distance of the limit from the mean on the log scale
+  double WilksFactor = 0;  // Student deviate of the coverage
+  double ConfNow = 0;      // where the search for the tolerance limit ended, in percent
+  double LowBound = 0;     // where the last search of the EN 689 test ended
+  double HighBound = 0;
   bool loaded = false;
 
   void Load() override;
@@ -60,10 +76,13 @@ struct PercExForm final : navigation::SessionForm {
   // Sets the layout for the present TestTag and computes Ur.
   void TestLayout();
   void LeidelCmb_Click();
+  void WilksCmb_Click();
+  void TuggleCmb_Click();
+  void SampSizeCkb_Click();
 
  private:
-  // What a verdict rests on.
-  using Basis = std::array<double, 6>;
+  // What the results rest on.
+  using Basis = std::array<double, 9>;
   Basis PresentBasis() const;
 
   void ShowHeader();
@@ -72,7 +91,26 @@ struct PercExForm final : navigation::SessionForm {
   void DropStaleResults();
   void ShowResultControls(bool shown);
   std::string LimitText(const std::string& separator) const;
+
+  // What the tests begin with: the tag, an empty layout, and the texts that are not results.
+  void BeginTest(const char* tag, const char* windowNumber, int title);
+  void ClearResults();
+  void ShowCaptions();
+  void ShowLeidelCaptions();
+  void ShowWilksCaptions();
+  void ShowTuggleCaptions();
+  void OfferSampleSize(bool offered);
   void ShowVerdict(bool compliance, int captionIfSo, int captionIfNot);
+
+  En689Progress CandidateBoxes();
+  void SearchToleranceLimit();
+  void SearchFraction();
+  std::string TuggleReason(bool coverageTooLow) const;
+  std::string GeneralReason() const;
+
+  void MakeRoom();
+  void ClearSampleSize();
+  void ShowSampleSize(const SampleSizeBoxes& boxes);
 
   Basis shownBasis_{};
 };

@@ -81,6 +81,10 @@ struct Program::Parts {
       mean.JahrCmb_Click();
     else if (tag == "Ex")
       mean.LandCmb_Click();
+    else if (tag == "Wi")
+      percEx.WilksCmb_Click();
+    else if (tag == "Tu")
+      percEx.TuggleCmb_Click();
     else
       percEx.LeidelCmb_Click();
   }
@@ -177,7 +181,7 @@ void Program::Open(ScreenId target) {
 bool Program::Has(ScreenId target) const { return parts_->ById(target) != nullptr; }
 
 bool Program::HasExtrapolation(const std::string& tag) const {
-  return tag == "Le" || tag == "Ap" || tag == "Ex";
+  return tag == "Le" || tag == "Wi" || tag == "Tu" || tag == "Ap" || tag == "Ex";
 }
 
 void Program::RunExtrapolation(const std::string& tag) {

@@ -1,45 +1,29 @@
-#include "compliance/perc_ex_form.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "base/fault.h"
-#include "session/global_bas.h"
-#include "tests/support/program_session.h"
+#include "tests/compliance/compliance_screen.h"
 
 // The compliance screen around its tests.
 namespace {
 
-using navigation::ScreenId;
 using support::ProgramSession;
 using Keys = std::vector<std::string>;
 
-class ComplianceScreen : public testing::Test {
+class LayoutOfTheComplianceScreen : public ComplianceScreen {
  protected:
-  ComplianceScreen() {
-    p.EnterStatistics("Welders", "10", "0.3", "2");
-    p.Record().OELV = 1;
-    p.Record().Unit = "ppm";
-    p.Record().RefPeriod = "8 hours";
-  }
-  void Open() { p.program.Open(ScreenId::PercEx); }
-  std::string Number(double value) { return GlobalBAS::Shown(p.Record(), value); }
-
-  // Shown with a test's layout: every result control, and no introduction.
-  void ExpectTestLayout(bool test) {
+  // The layout of a test, or of the introduction.
+  void ExpectLayout(const std::string& test) {
     for (const screen::Control* control :
-         {&form.PercExLbl0, &form.PercExLbl1, &form.PercExLbl2, &form.PercExTxB0, &form.PercExTxB1,
-          &form.PercExTxB2, &form.DimLbl2, &form.DimLbl3, &form.DimLbl4, &form.CommentLbl,
-          &form.MenuVerd, &form.MenuPrint})
-      EXPECT_EQ(control->visible, test) << control->name;
-    EXPECT_EQ(form.IntroFrm.visible, !test);
+         {&form.PercExLbl0, &form.PercExLbl1, &form.PercExTxB0, &form.PercExTxB1, &form.DimLbl2,
+          &form.DimLbl3, &form.ReasonLbl, &form.CommentLbl, &form.MenuVerd, &form.MenuPrint})
+      EXPECT_EQ(control->visible, !test.empty()) << control->name;
+    for (const screen::Control* control : {&form.PercExLbl2, &form.PercExTxB2, &form.DimLbl4})
+      EXPECT_EQ(control->visible, test == "Tu") << control->name;
+    EXPECT_EQ(form.SampSizeCkb.visible, test == "Wi");
+    EXPECT_EQ(form.IntroFrm.visible, test.empty());
   }
-
-  ProgramSession p;
-  compliance::PercExForm& form =
-      dynamic_cast<compliance::PercExForm&>(*p.program.FormByName("PercExForm"));
 };
 
 class ComplianceScreenOfASeries : public testing::Test {
@@ -55,11 +39,11 @@ TEST_F(ComplianceScreen, LoadsAtItsFirstShowing) {
   EXPECT_EQ(form.caption, "Comparing the exposure distribution with the OELV");
 }
 
-TEST_F(ComplianceScreen, TheFirstShowingGivesTheIntroduction) {
+TEST_F(LayoutOfTheComplianceScreen, TheFirstShowingGivesTheIntroduction) {
   EXPECT_TRUE(p.Tab("grenzen"));
   EXPECT_TRUE(p.Tab("extrapolation"));
   EXPECT_EQ(p.Record().TestTag, "");
-  ExpectTestLayout(false);
+  ExpectLayout("");
   EXPECT_FALSE(form.ComplianceLbl.visible);
   EXPECT_FALSE(form.SampsizeFrm.visible);
   EXPECT_FALSE(form.SampSizeCkb.visible);
@@ -127,18 +111,27 @@ TEST_F(ComplianceScreen, TheWordsOfTheStatisticsFollowTheRegression) {
   EXPECT_EQ(form.GSDLbl0.text, "Single censored Rankit estimate GSDg=");
 }
 
-TEST_F(ComplianceScreen, ReturningToATestShowsItsLayoutAndRecomputesNothing) {
-  Open();
-  p.Record().TestTag = "Wi";
-  form.PercExTxB0.text = "  12.3";
-  p.Record().PercEx = 12.3;
-  Open();
-  ExpectTestLayout(true);
-  EXPECT_EQ(p.Record().PercEx, 12.3);
-  EXPECT_EQ(p.Record().TestTag, "Wi");
+TEST_F(LayoutOfTheComplianceScreen, ReturningToATestShowsItsLayoutAndRecomputesNothing) {
+  for (const char* const button : {"LeidelCmb", "WilksCmb", "TuggleCmb"}) {
+    Open();
+    p.Click(button);
+    const std::string test = p.Record().TestTag;
+    form.PercExTxB0.text = "  12.3";
+    p.Record().PercEx = 12.3;
+    const std::string title = form.UTLFrm.text;
+    EXPECT_TRUE(p.Tab("descript"));
+    EXPECT_TRUE(p.Tab("extrapolation"));
+    ExpectLayout(test);
+    EXPECT_EQ(p.Record().TestTag, test);
+    EXPECT_EQ(form.UTLFrm.text, title);
+    EXPECT_EQ(form.PercExTxB0.text, "  12.3") << test;
+    EXPECT_EQ(p.Record().PercEx, 12.3) << test;
+    EXPECT_EQ(form.WindnrLbl.text, "23");
+    EXPECT_EQ(form.DimLbl4.text, "%");
+  }
 }
 
-TEST_F(ComplianceScreen, ReturningToTheLeidelTestStillShowsItsResult) {
+TEST_F(LayoutOfTheComplianceScreen, ReturningToTheLeidelTestStillShowsItsResult) {
   Open();
   p.Click("LeidelCmb");
   const std::string percent = form.PercExTxB0.text;
@@ -146,30 +139,66 @@ TEST_F(ComplianceScreen, ReturningToTheLeidelTestStillShowsItsResult) {
   EXPECT_TRUE(p.Tab("descript"));
   EXPECT_TRUE(p.Tab("extrapolation"));
   EXPECT_EQ(p.Record().TestTag, "Le");
-  ExpectTestLayout(true);
+  ExpectLayout("Le");
   EXPECT_EQ(form.PercExTxB0.text, percent);
   EXPECT_EQ(form.PercExTxB1.text, limit);
   EXPECT_TRUE(form.ComplianceLbl.visible);
 }
 
+// Whatever the results rest on: the statistics, the limit, the wished coverage and confidence.
 TEST_F(ComplianceScreen, ResultsOfOtherStatisticsOrLimitsAreGoneOnReturn) {
   using Change = void (*)(ExposureSession&);
-  const std::vector<std::pair<std::string, Change>> changes = {{"GM", [](ExposureSession& s) { s.GM = 0.4; }},
-                                                               {"GSD", [](ExposureSession& s) { s.GSD = 2.1; }},
-                                                               {"df", [](ExposureSession& s) { s.df = 8; }},
-                                                               {"OELV", [](ExposureSession& s) { s.OELV = 2; }},
-                                                               {"U", [](ExposureSession& s) { s.U = 90; }},
-                                                               {"D", [](ExposureSession& s) { s.D = 80; }}};
-  Open();
-  for (const auto& [name, change] : changes) {
-    p.Click("LeidelCmb");
-    EXPECT_NE(form.PercExTxB0.text, "") << name;
-    change(p.Record());
-    Open();
-    EXPECT_EQ(form.PercExTxB0.text, "") << name;
-    EXPECT_EQ(form.PercExTxB1.text, "") << name;
-    EXPECT_FALSE(form.ComplianceLbl.visible) << name;
+  const std::vector<std::pair<std::string, Change>> changes = {
+      {"GM", [](ExposureSession& s) { s.GM = 0.4; }},
+      {"GSD", [](ExposureSession& s) { s.GSD = 2.1; }},
+      {"M", [](ExposureSession& s) { s.M = 11; }},
+      {"df", [](ExposureSession& s) { s.df = 8; }},
+      {"RegressionOn", [](ExposureSession& s) { s.RegressionOn = true; }},
+      {"NInRange", [](ExposureSession& s) { s.NInRange = 7; }},
+      {"OELV", [](ExposureSession& s) { s.OELV = 2; }},
+      {"U", [](ExposureSession& s) { s.U = 90; }},
+      {"D", [](ExposureSession& s) { s.D = 80; }}};
+  for (const char* const button : {"LeidelCmb", "WilksCmb", "TuggleCmb"}) {
+    for (const auto& [name, change] : changes) {
+      Open(10, 0.3, 2, 1);
+      p.Record().RegressionOn = false;
+      p.Click(button);
+      EXPECT_NE(form.PercExTxB0.text, "") << name;
+      change(p.Record());
+      Open();
+      for (const screen::Control* control :
+           {&form.PercExTxB0, &form.PercExTxB1, &form.PercExTxB2, &form.ReasonLbl})
+        EXPECT_EQ(control->text, "") << name << " " << control->name;
+      EXPECT_FALSE(form.ComplianceLbl.visible) << name;
+    }
   }
+}
+
+TEST_F(ComplianceScreen, TheSmallestSampleOfOtherStatisticsIsGoneOnReturn) {
+  Open();
+  p.Click("WilksCmb");
+  Tick();
+  EXPECT_NE(form.SampMinTxB.text, "");
+  p.Record().GSD = 2.1;
+  Open();
+  for (const screen::Control* control :
+       {&form.ComMinLbl, &form.DegrMinTxb, &form.PercExTxB3, &form.SampMinTxB})
+    EXPECT_EQ(control->text, "") << control->name;
+  EXPECT_FALSE(form.SampsizeFrm.visible);
+  EXPECT_FALSE(form.SampSizeCkb.ticked);
+  EXPECT_TRUE(form.SampSizeCkb.visible);
+}
+
+// The numbers in the captions are wishes of the user, not results.
+TEST_F(ComplianceScreen, CaptionsFollowAnotherCoverageEvenBeforeTheTestIsRepeated) {
+  Open();
+  p.Click("TuggleCmb");
+  p.Record().U = 90;
+  p.Record().D = 80;
+  Open();
+  EXPECT_EQ(form.PercExLbl0.text,
+            "Confidence that less than 10% of the exposure distribution exceeds OELV");
+  EXPECT_EQ(form.PercExLbl1.text, "The 90%-tile upper tolerance limit with 80% confidence =");
 }
 
 TEST_F(ComplianceScreen, WithoutALimitAboveZeroTheStartScreenComesBack) {
@@ -182,14 +211,13 @@ TEST_F(ComplianceScreen, WithoutALimitAboveZeroTheStartScreenComesBack) {
   EXPECT_EQ(p.Shown().name, "BasisForm");
 }
 
-TEST_F(ComplianceScreen, OffersTheTestsThatThereAre) {
+TEST_F(ComplianceScreen, OffersAllThreeTestsByButtonAndByMenu) {
   Open();
-  EXPECT_TRUE(form.LeidelCmb.enabled);
-  EXPECT_FALSE(form.WilksCmb.enabled);
-  EXPECT_FALSE(form.TuggleCmb.enabled);
-  EXPECT_TRUE(form.MenuLeid.enabled);
-  EXPECT_FALSE(form.MenuWilks.enabled);
-  EXPECT_FALSE(form.MenuTugg.enabled);
+  for (const screen::Control* control : {&form.LeidelCmb, &form.WilksCmb, &form.TuggleCmb,
+                                         &form.MenuLeid, &form.MenuWilks, &form.MenuTugg}) {
+    EXPECT_TRUE(control->enabled) << control->name;
+    EXPECT_TRUE(control->visible) << control->name;
+  }
 }
 
 TEST_F(ComplianceScreen, OfStatisticsHasNoTabForOutcomesOrTheirPlot) {
@@ -220,17 +248,18 @@ TEST_F(ComplianceScreenOfASeries, HasATabForItsOutcomesAndFromThreeOnForTheirPlo
   EXPECT_FALSE(p.At("MenuPlot").visible);
 }
 
-TEST_F(ComplianceScreen, VisitingTheLimitsForgetsTheChosenTest) {
+TEST_F(LayoutOfTheComplianceScreen, VisitingTheLimitsForgetsTheChosenTest) {
   Open();
   p.Click("LeidelCmb");
   EXPECT_TRUE(p.Tab("grenzen"));
   EXPECT_TRUE(p.Tab("extrapolation"));
   EXPECT_EQ(p.Record().TestTag, "");
-  ExpectTestLayout(false);
+  ExpectLayout("");
   EXPECT_FALSE(form.ComplianceLbl.visible);
 }
 
 TEST_F(ComplianceScreen, ItsBoxesAreForReadingOnly) {
-  for (const screen::Control* box : {&form.PercExTxB0, &form.PercExTxB1, &form.PercExTxB2})
+  for (const screen::Control* box : {&form.PercExTxB0, &form.PercExTxB1, &form.PercExTxB2,
+                                     &form.DegrMinTxb, &form.PercExTxB3, &form.SampMinTxB})
     EXPECT_TRUE(box->locked) << box->name;
 }
