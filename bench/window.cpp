@@ -142,10 +142,27 @@ BENCHMARK_CAPTURE(Activate, PercExForm, ScreenId::PercEx)
     ->Arg(40)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, UCLForm, ScreenId::UCL)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Activate, TwoSampCompForm, ScreenId::TwoSamp)
     ->Arg(40)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+
+// One press of Land's button with everything that it paints, its progress window included.
+void LandInItsWindow(benchmark::State& state) {
+  const bench::RawSeriesFile file(40);
+  Desktop desktop;
+  desktop.Open(file.Path());
+  desktop.application.Program().Session().OELV = 5;
+  desktop.application.Program().Session().LimitsOk = true;
+  desktop.application.Program().Session().D = 95;
+  desktop.Show(ScreenId::UCL);
+  for (auto _ : state) desktop.Menu("MenuLand");
+}
+BENCHMARK(LandInItsWindow)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

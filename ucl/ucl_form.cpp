@@ -64,7 +64,6 @@ void UCLForm::Activate() {
   UCLResults();
   ShowWording();
   ShowGate();
-  Refresh();
   busyPointer = false;
 }
 
