@@ -73,6 +73,7 @@ void PlotForm::PlotStatus() {
   DrawCumulative(labels);
   PlotWBas::WriteLabels(PicPlot.drawing, labels);
   ShowLabels(labels);
+  TickChoices();
   menuExtrPol.visible = menuExtrPol.enabled = session.LimitsOk;
 }
 

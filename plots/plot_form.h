@@ -1,7 +1,7 @@
 #pragma once
 
+#include <array>
 #include <string>
-#include <vector>
 
 #include "analysis/regression.h"
 #include "navigation/session_form.h"
@@ -94,6 +94,8 @@ struct PlotForm final : navigation::SessionForm {
   void RefillCTransf();
 
   void Transform(const std::string& scale);
+  // Marks the present scale and kind in their menus.
+  void TickChoices();
   void ShowKind(const char* kind);
   void ToggleDeveloperMode();
   void ShowDevelopment();
@@ -115,6 +117,10 @@ struct PlotForm final : navigation::SessionForm {
   void BarMoved(const screen::Control& bar, double from, double sign, Check check);
   // Shows the complaint of a check; true when there was one.
   bool Complained();
+
+  // In the order of analysis::kTransformations.
+  const std::array<screen::Control*, 7> scaleMenus_{&MenuDubLog, &MenuLog, &MenuSqrt, &MenuUntransf,
+                                                    &MenuSqrd,   &MenuExp, &MenuRecip};
 };
 
 }  // namespace plots

@@ -84,9 +84,10 @@ void PlotForm::OpenPicker(screen::Control& upright, screen::Control& across) {
   LOQActive = true;
   URRActive = false;
   HideBars();
-  screen::Control& bar = session.PlotKind == "VALKORIN" ? upright : across;
+  screen::Control& bar = Upright() ? upright : across;
   bar.enabled = true;
   bar.Show();
+  SetFocus(bar);  // its arrow keys move the limit, too
 }
 
 void PlotForm::MenuRemDetec_Click() {

@@ -21,10 +21,10 @@ class Busy {
 }  // namespace
 
 void PlotForm::ConnectMenus() {
-  const std::array<screen::Control*, analysis::kTransformations.size()> menus = {
-      &MenuDubLog, &MenuLog, &MenuSqrt, &MenuUntransf, &MenuSqrd, &MenuExp, &MenuRecip};
-  for (std::size_t i = 0; i < menus.size(); ++i)
-    menus[i]->Click = [this, i] { Transform(std::string(analysis::kTransformations[i].name)); };
+  for (std::size_t i = 0; i < scaleMenus_.size(); ++i)
+    scaleMenus_[i]->Click = [this, i] {
+      Transform(std::string(analysis::kTransformations[i].name));
+    };
   MenuRedraw.Click = [this] { PlotStatus(); };
   menuSavePicture.Click = [this] { SavePicture(); };
   MenuPrinterPrint.Click = [this] { Print(); };
@@ -43,6 +43,14 @@ void PlotForm::Transform(const std::string& scale) {
   }
   state.Transformation = scale;
   PlotStatus();
+}
+
+void PlotForm::TickChoices() {
+  for (std::size_t i = 0; i < scaleMenus_.size(); ++i)
+    scaleMenus_[i]->ticked = state.Transformation == analysis::kTransformations[i].name;
+  memuVALKOplot.ticked = Upright();
+  MenuInvPlot.ticked = session.PlotKind == "InvPlot";
+  MenuAnnexEPlot.ticked = AnnexE();
 }
 
 // A picker belongs to the kind of plot in which it was opened.
@@ -67,13 +75,12 @@ void PlotForm::ShowDevelopment() {
 }
 
 void PlotForm::SavePicture() {
-  screen::FileDialog::Request request;
-  request.save = true;
-  request.filter = "Valkorin Files (*.bmp)|*.bmp";
-  const std::string path = ports.fileDialog.Ask(request);
+  const std::string title = LoadResString(5200);
+  const std::string path =
+      ports.fileDialog.Ask({true, title, "Valkorin Files (*.bmp)|*.bmp", "", "", 0});
   if (path.empty()) return;
   if (!ports.pictureFile.Write(path, PicPlot.drawing))
-    Complain("The picture can't be written to " + path, "");
+    Complain("The picture could not be written to " + path + ".", title);
 }
 
 void PlotForm::Print() {

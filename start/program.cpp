@@ -8,6 +8,7 @@
 #include "compare/two_samp_comp_form.h"
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
+#include "plots/plot_form.h"
 #include "plots/verdeling_form.h"
 #include "rawdata/data_ctrl_form.h"
 #include "start/basis_form.h"
@@ -27,11 +28,12 @@ struct Program::Parts {
         dataCtrl(session, program, formPorts),
         grenzen(session, program, formPorts),
         descript(session, program, formPorts),
+        plot(session, program, formPorts),
         percEx(session, program, formPorts),
         mean(session, program, formPorts),
         compare(session, program, formPorts),
         verdeling(session, program, formPorts),
-        forms{&basis, &dataCtrl, &grenzen, &descript, &percEx, &mean, &compare} {
+        forms{&basis, &dataCtrl, &grenzen, &descript, &plot, &percEx, &mean, &compare} {
     allForms.push_back(&verdeling);
     allForms.push_back(&mean.landHulp);
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
@@ -44,6 +46,7 @@ struct Program::Parts {
   rawdata::DataCtrlForm dataCtrl;
   limits::GrenzenForm grenzen;
   analysis::DescriptForm descript;
+  plots::PlotForm plot;
   compliance::PercExForm percEx;
   ucl::UCLForm mean;
   compare::TwoSampCompForm compare;

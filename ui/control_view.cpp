@@ -92,6 +92,7 @@ void ControlView::PushWidget(const screen::ControlState& old, bool first) {
   if (first || now.value != old.value) PushValue();
   if (first || now.enabled != old.enabled) widget_->setEnabled(now.enabled);
   if (first || now.visible != old.visible) widget_->setVisible(now.visible);
+  if (now.place && (first || now.place != old.place)) PushPlace();
   if (first || now.colour != old.colour || now.locked != old.locked) PushLook();
   if (first || now.text != old.text || now.tip != old.tip) NameForReaders();
 }
@@ -130,6 +131,14 @@ void ControlView::PushTicked() {
   button->setAutoExclusive(false);
   button->setChecked(shown_->ticked);
   button->setAutoExclusive(exclusive);
+}
+
+void ControlView::PushPlace() {
+  constexpr double kTwipsToThePixel = 15;
+  const screen::Place& place = *shown_->place;
+  const QRectF twips(place.left, place.top, place.width, place.height);
+  widget_->setGeometry(
+      QRectF(twips.topLeft() / kTwipsToThePixel, twips.size() / kTwipsToThePixel).toRect());
 }
 
 void ControlView::PushValue() {
@@ -173,6 +182,8 @@ void ControlView::PushFace(QPushButton& button) {
 }
 
 void ControlView::PushAction(bool visible) {
+  // The toolkit turns the tick of a chosen item by itself.
+  if (action_->isCheckable()) action_->setChecked(control_.ticked);
   screen::ControlState now = control_;
   now.visible = visible;
   if (shown_ && *shown_ == now) return;

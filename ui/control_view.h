@@ -37,6 +37,7 @@ class ControlView {
   void PushText();
   void PushItems();
   void PushTicked();
+  void PushPlace();
   void PushValue();
   void PushLook();
   void PushFace(QPushButton& button);

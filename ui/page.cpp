@@ -14,6 +14,7 @@
 #include "ui_grenzen_form.h"
 #include "ui_land_hulp_form.h"
 #include "ui_perc_ex_form.h"
+#include "ui_plot_form.h"
 #include "ui_two_samp_comp_form.h"
 #include "ui_ucl_form.h"
 #include "ui_verdeling_form.h"
@@ -32,10 +33,15 @@ Shell Lay() {
 
 const std::map<std::string, Shell (*)()>& Designs() {
   static const std::map<std::string, Shell (*)()> designs = {
-      {"BasisForm", &Lay<Ui::BasisForm>},     {"DataCtrlForm", &Lay<Ui::DataCtrlForm>},
-      {"GrenzenForm", &Lay<Ui::GrenzenForm>}, {"DescriptForm", &Lay<Ui::DescriptForm>},
-      {"PercExForm", &Lay<Ui::PercExForm>},   {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
-      {"UCLForm", &Lay<Ui::UCLForm>},         {"LandHulpForm", &Lay<Ui::LandHulpForm>},
+      {"BasisForm", &Lay<Ui::BasisForm>},
+      {"DataCtrlForm", &Lay<Ui::DataCtrlForm>},
+      {"GrenzenForm", &Lay<Ui::GrenzenForm>},
+      {"DescriptForm", &Lay<Ui::DescriptForm>},
+      {"PlotForm", &Lay<Ui::PlotForm>},
+      {"PercExForm", &Lay<Ui::PercExForm>},
+      {"UCLForm", &Lay<Ui::UCLForm>},
+      {"LandHulpForm", &Lay<Ui::LandHulpForm>},
+      {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
       {"VerdelingForm", &Lay<Ui::VerdelingForm>},
   };
   return designs;
@@ -48,6 +54,10 @@ void TakeMenus(QMainWindow& shell, QMenuBar& menuBar, Page& page) {
   const QList<QAction*> tops = shell.menuBar()->actions();
   for (QAction* top : tops) {
     QMenu* menu = top->menu();
+    if (!menu) {  // an item that stands in the bar itself
+      menuBar.addAction(top);
+      continue;
+    }
     menu->setParent(&menuBar, menu->windowFlags());
     menuBar.addAction(menu->menuAction());
     page.menus.push_back(menu);

@@ -77,14 +77,11 @@ TEST(TabStrip, EachTabCarriesItsCaptionAndItsTip) {
   EXPECT_EQ(user.Shown().strip->selected, "raw");
 }
 
-TEST(TabStrip, TabsOfScreensThatTheProgramLacksAreDisabled) {
+TEST(TabStrip, EachTabOfAWholeSeriesCanBeClicked) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4, 8});
   user.Tab("basis");
-  for (const screen::Tab& tab : user.Shown().strip->tabs) {
-    const bool lacks = tab.key == "plot";
-    EXPECT_EQ(tab.enabled, !lacks) << tab.key;
-  }
+  for (const screen::Tab& tab : user.Shown().strip->tabs) EXPECT_TRUE(tab.enabled) << tab.key;
 }
 
 TEST(TabClick, LeadsToItsScreenWhichTakesTheCurrentTab) {
@@ -93,11 +90,12 @@ TEST(TabClick, LeadsToItsScreenWhichTakesTheCurrentTab) {
   const std::tuple<const char*, const char*, const char*> tabs[] = {
       {"basis", "BasisForm", "Start"},
       {"grenzen", "GrenzenForm", "Limits"},
+      {"plot", "PlotForm", "Check distribution"},
       {"descript", "DescriptForm", "Descriptive statistics"},
       {"raw", "DataCtrlForm", "Raw data"},
       {"extrapolation", "PercExForm", "Statistical tests (Comparison with OELV)"},
-      {"mean", "UCLForm", "Mean UCL"},
       {"Compare", "TwoSampCompForm", "Compare"},
+      {"mean", "UCLForm", "Mean UCL"},
       {"basis", "BasisForm", "Start"}};
   for (const auto& [key, form, caption] : tabs) {
     EXPECT_TRUE(user.Tab(key)) << key;

@@ -1,0 +1,219 @@
+// The ways to and from the plot screen, its kinds, its picture.
+#include <gtest/gtest.h>
+
+#include "tests/plots/plot_screen.h"
+
+namespace {
+
+using plot_screen::kTen;
+using Keys = std::vector<std::string>;
+
+class PlotWays : public testing::Test {
+ protected:
+  plot_screen::User p;
+  ExposureSession& s = p.Record();
+};
+
+}  // namespace
+
+TEST_F(PlotWays, OfStatisticsHaveNoPlotAndNoRawData) {
+  p.EnterStatistics("Welders", "10", "0.3", "2");
+  p.Tab("descript");
+  for (const std::string& key : p.TabKeys()) {
+    EXPECT_NE(key, "plot");
+    EXPECT_NE(key, "raw");
+  }
+}
+
+TEST_F(PlotWays, OfTwoOutcomesHaveNoPlot) {
+  p.OpenSeries({0.4, 0.9});
+  EXPECT_FALSE(p.Tab("plot"));
+  p.Click("MenuPlot");
+  EXPECT_EQ(p.Shown().name, "DataCtrlForm");
+  EXPECT_FALSE(p.At("MenuPlot").visible);
+}
+
+TEST_F(PlotWays, WithoutValidLimitsLeadToNoTest) {
+  p.See(kTen);
+  s.OELV.reset();
+  p.program.Open(navigation::ScreenId::Plot);
+  EXPECT_FALSE(s.LimitsOk);
+  EXPECT_EQ(p.TabKeys(), (Keys{"basis", "raw", "grenzen", "descript", "plot", "Compare"}));
+  EXPECT_FALSE(p.At("menuExtrPol").visible);
+  p.Click("MenuLeid");
+  EXPECT_EQ(p.Shown().name, "PlotForm");
+}
+
+TEST_F(PlotWays, AreTheTabsOfTheTable) {
+  p.See(kTen);
+  EXPECT_TRUE(s.LimitsOk);
+  EXPECT_EQ(p.TabKeys(), (Keys{"basis", "raw", "grenzen", "descript", "plot", "extrapolation",
+                               "mean", "Compare"}));
+  EXPECT_EQ(p.Shown().strip->selected, "plot");
+  EXPECT_TRUE(p.At("menuExtrPol").visible);
+  EXPECT_FALSE(p.At("MenuPlot").visible);
+}
+
+TEST_F(PlotWays, EmptyTheNameOfTheTest) {
+  p.See(kTen);
+  s.TestTag = "Le";
+  p.Tab("extrapolation");
+  EXPECT_EQ(p.Shown().name, "PercExForm");
+  EXPECT_EQ(s.TestTag, "");
+  s.TestTag = "Le";
+  p.Tab("plot");
+  EXPECT_EQ(s.TestTag, "");
+}
+
+// The click has moved the strip; the activation moves it back.
+TEST_F(PlotWays, ThatAreClosedActivateTheScreenAgain) {
+  p.See(kTen);
+  s.LimitsOk = false;
+  const int drawn = p.Plot().PicPlot.drawing.Revision();
+  p.Shown().strip->selected = "extrapolation";
+  p.Tab("extrapolation");
+  EXPECT_EQ(p.Shown().name, "PlotForm");
+  EXPECT_EQ(p.Shown().strip->selected, "plot");
+  EXPECT_NE(p.Plot().PicPlot.drawing.Revision(), drawn);
+}
+
+TEST_F(PlotWays, OfTheMenusLeadToTheirTests) {
+  p.See(kTen);
+  p.Click("MenuLeid");
+  EXPECT_EQ(p.Shown().name, "PercExForm");
+  EXPECT_EQ(s.TestTag, "Le");
+}
+
+TEST_F(PlotWays, LeaveTheEstimatesAsTheLastDrawingHadThem) {
+  p.See(kTen);
+  p.Click("MenuLowLim");
+  p.Bar("VScLowLimit", 70);
+  const double GM = s.GM;
+  p.Tab("descript");
+  EXPECT_EQ(s.GM, GM);
+  EXPECT_TRUE(p.box.shown.empty());
+  EXPECT_NE(p.Text("GMLbl").find("Single censored Rankit"), std::string::npos);
+}
+
+TEST_F(PlotWays, EndWithTheSessionFromItsMenu) {
+  p.See(kTen);
+  p.Click("Menuclose");
+  EXPECT_EQ(p.Shown().name, "BasisForm");
+  EXPECT_EQ(s.M, 0);
+}
+
+TEST_F(PlotWays, RedrawThePictureWhenItsSizeChanges) {
+  p.See(kTen);
+  screen::Picture& picture = p.Plot().PicPlot;
+  picture.drawing.SetScale(20000, 12000);
+  screen::Guarded(p.ports, picture.Resized);
+  const auto& frame = std::get<screen::DrawnLine>(picture.drawing.Items().front());
+  EXPECT_EQ(frame.from.x, 0.2 * 20000 - 60);
+}
+
+// A hidden picture may be resized while there is no series at all.
+TEST_F(PlotWays, DrawNothingWhileAnotherScreenIsShown) {
+  p.See(kTen);
+  p.Click("Menuclose");
+  screen::Picture& picture = p.Plot().PicPlot;
+  const int drawn = picture.drawing.Revision();
+  screen::Guarded(p.ports, picture.Resized);
+  EXPECT_EQ(picture.drawing.Revision(), drawn);
+  EXPECT_TRUE(p.box.shown.empty());
+}
+
+TEST_F(PlotWays, ToOtherKindsOpenInTheDeveloperModeOnly) {
+  p.See(kTen);
+  EXPECT_FALSE(s.DeveloperMode);
+  p.Click("MenuDevMode");
+  EXPECT_TRUE(s.DeveloperMode);
+  EXPECT_TRUE(p.At("MemuOtherPlots").visible);
+  p.Click("MenuInvPlot");
+  EXPECT_EQ(s.PlotKind, "InvPlot");
+  EXPECT_TRUE(p.At("MenuInvPlot").ticked);
+  EXPECT_EQ(p.Text("LblYasTop"), "Normal\rorder\rscale");
+  p.Click("MenuDevMode");
+  EXPECT_FALSE(p.At("MemuOtherPlots").visible);
+  EXPECT_EQ(s.PlotKind, "VALKORIN");
+  EXPECT_EQ(p.Text("LblXasEinde"), "Normal\rorder\rscale");
+}
+
+TEST_F(PlotWays, ListTheInnerValuesOnDemand) {
+  p.See(kTen);
+  p.Click("MenuDevMode");
+  EXPECT_FALSE(p.At("LblOntwikkel").visible);
+  p.Click("MenuDevelop");
+  ASSERT_TRUE(p.At("LblOntwikkel").visible);
+  const std::string& listing = p.Text("LblOntwikkel");
+  for (const char* name : {"Transformation Log(x)",
+                           "CTransf(1) -1.56",
+                           "CTransf(M)  1.13",
+                           "XasStart ",
+                           "XasLinks C(1)",
+                           "ScaleX ",
+                           "Regressie XasLinks ",
+                           "Regressie XasRechts",
+                           "XasEinde C(M)",
+                           "YasBot ",
+                           "YasLaag C(1)",
+                           "ScaleY ",
+                           "Regressie YasHoog",
+                           "Regressie YasLaag",
+                           "YasHoog C(M)",
+                           "YasTop ",
+                           "DetecOnderGrens ",
+                           "DetecBovenGrens ",
+                           "x-as positie LOQ lijn ",
+                           "x-as positie URR lijn ",
+                           "C_begin_regressie_lijn  ",
+                           "C_einde_regressie_lijn  ",
+                           "Sample GM ",
+                           "Sample GSD ",
+                           "Sample x ",
+                           "Sample s "})
+    EXPECT_NE(listing.find(name), std::string::npos) << name << " in\n" << listing;
+  p.Click("MenuDevelop");
+  EXPECT_FALSE(p.At("LblOntwikkel").visible);
+}
+
+TEST_F(PlotWays, SaveThePictureAsABitmap) {
+  p.See(kTen);
+  p.dialog.asked.clear();
+  p.dialog.answers.push_back("plot.bmp");
+  p.Click("menuSavePicture");
+  ASSERT_EQ(p.dialog.asked.size(), 1U);
+  EXPECT_TRUE(p.dialog.asked[0].save);
+  EXPECT_EQ(p.dialog.asked[0].title, "Save Picture");
+  EXPECT_EQ(p.dialog.asked[0].filter, "Valkorin Files (*.bmp)|*.bmp");
+  ASSERT_EQ(p.pictures.written.size(), 1U);
+  EXPECT_EQ(p.pictures.written[0].path, "plot.bmp");
+  EXPECT_EQ(p.pictures.written[0].drawing.Items(), p.Plot().PicPlot.drawing.Items());
+  EXPECT_TRUE(p.box.shown.empty());
+}
+
+TEST_F(PlotWays, WriteNothingWhenTheDialogIsCancelled) {
+  p.See(kTen);
+  p.Click("menuSavePicture");
+  EXPECT_TRUE(p.pictures.written.empty());
+  EXPECT_TRUE(p.box.shown.empty());
+}
+
+TEST_F(PlotWays, TellOfAPictureThatCouldNotBeSaved) {
+  p.See(kTen);
+  p.pictures.fails = true;
+  p.dialog.answers.push_back("/nowhere/plot.bmp");
+  p.Click("menuSavePicture");
+  ASSERT_EQ(p.box.shown.size(), 1U);
+  EXPECT_NE(p.LastBox().text.find("/nowhere/plot.bmp"), std::string::npos);
+}
+
+TEST_F(PlotWays, PrintThePicture) {
+  p.See(kTen);
+  p.Click("MenuPrinterPrint");
+  ASSERT_EQ(p.printer.pages.size(), 1U);
+  EXPECT_TRUE(p.box.shown.empty());
+  p.printer.fails = true;
+  p.Click("MenuPrinterPrint");
+  EXPECT_EQ(p.LastBox().title, "Print error");
+  EXPECT_EQ(p.LastBox().text, "The form can't be printed.");
+}
