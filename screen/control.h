@@ -57,7 +57,7 @@ struct ControlState {
   bool locked = false;
   bool ticked = false;
   int value = 0;                 // of a scroll bar, 0 to 100
-  std::optional<Colour> colour;  // of the text; the system's when absent
+  std::optional<Colour> colour;  // of the text, a button's face; the system's when absent
   std::vector<std::string> items;
   std::optional<Place> place;  // of a control that its screen places; the layout's when absent
   bool operator==(const ControlState&) const = default;
