@@ -30,7 +30,6 @@ class Writer {
   Writer(Labels& labels, const Paper& paper, const PlotData& data)
       : labels_(labels), paper_(paper), data_(data), f_(paper.Edges()) {}
 
-  void PutHeadlines();
   void PutTitles();
   void PutOutcomes();
   void PutPercentages();
@@ -50,16 +49,6 @@ class Writer {
   const PlotData& data_;
   const Frame& f_;
 };
-
-void Writer::PutHeadlines() {
-  const std::string headline = HeadlineText(data_.s, data_.Transformation);
-  screen::TextStyle style = StyleOf(11, Across::Centre, Down::Top);
-  style.bold = true;
-  style.size = FittingSize(headline, 0.6 * paper_.ScaleWidth(), style.size, 6);
-  Put("LblKoptekst", headline, {0.5 * paper_.ScaleWidth(), kMargin}, style);
-  Put("LblRightTxt", HeaderText(data_.s, data_.time), {paper_.ScaleWidth() - kMargin, kMargin},
-      StyleOf(8, Across::Right, Down::Top));
-}
 
 void Writer::PutTitles() {
   const std::string outcomes = OutcomesTitle(data_.s, data_.Transformation);
@@ -144,9 +133,21 @@ std::string ScoresTitle(const ExposureSession& s) {
   return LoadResString(1709) + s.CR + LoadResString(1710) + s.CR + LoadResString(1711);
 }
 
+void PutHeadlines(Labels& labels, double width, double height, const PlotData& data) {
+  const std::string headline = HeadlineText(data.s, data.Transformation);
+  screen::TextStyle style = Style(width, height, 11, Across::Centre, Down::Top);
+  style.bold = true;
+  style.size = FittingSize(headline, 0.6 * width, style.size, 6);
+  labels.push_back({"LblKoptekst", headline, {0.5 * width, kMargin}, style});
+  labels.push_back({"LblRightTxt",
+                    HeaderText(data.s, data.time),
+                    {width - kMargin, kMargin},
+                    Style(width, height, 8, Across::Right, Down::Top)});
+}
+
 void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data) {
+  PutHeadlines(labels, paper.ScaleWidth(), paper.ScaleHeight(), data);
   Writer writer(labels, paper, data);
-  writer.PutHeadlines();
   writer.PutTitles();
   writer.PutOutcomes();
   writer.PutPercentages();

@@ -13,6 +13,9 @@ std::string HeaderText(const ExposureSession& s, const screen::DateTime& time);
 std::string OutcomesTitle(const ExposureSession& s, const std::string& Transformation);
 std::string ScoresTitle(const ExposureSession& s);
 
+// The headline above the plot and the header beside it.
+void PutHeadlines(Labels& labels, double width, double height, const PlotData& data);
+
 void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data);
 
 // Moves the labels of outcomes on their axis apart. Once no label will be added any more.
