@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QScrollBar>
 #include <chrono>
 #include <cstring>
 #include <stdexcept>
@@ -134,10 +135,33 @@ BENCHMARK_CAPTURE(Activate, DescriptForm, ScreenId::Descript)
     ->Arg(40)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Activate, PlotForm, ScreenId::Plot)
+    ->Arg(40)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Activate, GrenzenForm, ScreenId::Grenzen)
     ->Arg(40)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+
+// One step of a limit that is dragged: line, test of fit, and the picture painted.
+void DragLimit(benchmark::State& state) {
+  const bench::RawSeriesFile file(static_cast<int>(state.range(0)));
+  Desktop desktop;
+  desktop.Open(file.Path());
+  desktop.Show(ScreenId::Plot);
+  desktop.Menu("MenuLowLim");
+  auto* bar = desktop.application.Window().findChild<QScrollBar*>("VScLowLimit");
+  const double first = desktop.application.Program().Session().LOQ;
+  int step = 0;
+  for (auto _ : state) {
+    bar->setValue(60 + ++step % 30);
+    Paint(desktop.application);
+  }
+  if (desktop.application.Program().Session().LOQ == first)
+    state.SkipWithError("the limit did not move");
+}
+BENCHMARK(DragLimit)->Arg(40)->Arg(2000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Activate, PercExForm, ScreenId::PercEx)
     ->Arg(40)
     ->Arg(2000)
@@ -149,6 +173,37 @@ BENCHMARK_CAPTURE(Activate, UCLForm, ScreenId::UCL)
 BENCHMARK_CAPTURE(Activate, TwoSampCompForm, ScreenId::TwoSamp)
     ->Arg(40)
     ->Arg(2000)
+    ->Unit(benchmark::kMillisecond);
+
+// One press of a test's button with everything that it paints.
+void TestInItsWindow(benchmark::State& state, const char* menu, void (*change)(ExposureSession&)) {
+  const bench::RawSeriesFile file(40);
+  Desktop desktop;
+  desktop.Open(file.Path());
+  ExposureSession& record = desktop.application.Program().Session();
+  record.OELV = 5;
+  record.LimitsOk = true;
+  change(record);
+  desktop.Show(ScreenId::PercEx);
+  for (auto _ : state) desktop.Menu(menu);
+}
+
+void AsOpened(ExposureSession&) {}
+
+// Of the sessions tried, the one whose searches show the most candidates, over a thousand.
+void LongSearch(ExposureSession& record) {
+  record.M = 2;
+  record.df = 1;
+  record.GM = 4367.7418110640838;
+  record.GSD = 155.10860695839361;
+  record.OELV = 183335087.35356015;
+  record.U = 68.710356701452767;
+  record.D = 0.01;
+}
+BENCHMARK_CAPTURE(TestInItsWindow, Leidel, "MenuLeid", AsOpened)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TestInItsWindow, Wilks, "MenuWilks", AsOpened)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TestInItsWindow, EN689, "MenuTugg", AsOpened)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TestInItsWindow, EN689LongSearch, "MenuTugg", LongSearch)
     ->Unit(benchmark::kMillisecond);
 
 // One press of Land's button with everything that it paints, its progress window included.
