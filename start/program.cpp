@@ -34,8 +34,8 @@ struct Program::Parts {
         compare(session, program, formPorts),
         verdeling(session, program, formPorts),
         forms{&basis, &dataCtrl, &grenzen, &descript, &plot, &percEx, &mean, &compare} {
-    allForms.push_back(&verdeling);
     allForms.push_back(&mean.landHulp);
+    allForms.push_back(&verdeling);
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
 
