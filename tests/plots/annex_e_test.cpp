@@ -3,93 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <optional>
 
-#include "analysis/rankits.h"
-#include "analysis/transformations.h"
-#include "stats/coefficients.h"
 #include "stats/normal.h"
-#include "tests/plots/drawing_text.h"
-#include "tests/plots/plot_data.h"
+#include "tests/plots/annex_plot.h"
 
 namespace {
 
+using annex_plot::Annex;
+using annex_plot::kHeight;
+using annex_plot::kWidth;
 using PlotWBas::AnnexPaper;
 using PlotWBas::DecadesOf;
 using PlotWBas::Label;
-using screen::DrawingRecord;
-using screen::DrawnLine;
-using screen::Point;
-
-constexpr double kWidth = 11400;
-constexpr double kHeight = 8100;
-
-// An Annex E plot of a series.
-struct Annex {
-  explicit Annex(std::vector<double> outcomes, const std::string& scale = "Log(x)") {
-    StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"});
-    const std::size_t M = outcomes.size();
-    s.CR = "\r";
-    s.Mode = "R";
-    s.Name = "Wood dust";
-    s.Unit = "mg/m3";
-    s.SigDigits = 3;
-    s.M = static_cast<double>(M);
-    s.C = {0};
-    s.C.insert(s.C.end(), outcomes.begin(), outcomes.end());
-    s.LnC.resize(M + 1);
-    StoreMedian(s);
-    s.FirstInRange = 1;
-    s.LastInRange = s.NInRange = static_cast<std::int16_t>(M);
-    DegreesOfFreedom(s);
-    s.LOQ = 0.95 * s.C[1];
-    s.URR = 1.05 * s.C[M];
-    state.RankitTable = analysis::RankitsForSampleSize(static_cast<int>(M));
-    state.Transformation = scale;
-    EXPECT_TRUE(analysis::FillCTransf(s, scale));
-  }
-  PlotWBas::PlotData Data() const {
-    return {s, state.RankitTable, state.Transformation, {2024, 3, 7, 9, 5, 30}};
-  }
-  AnnexPaper Paper() {
-    data_.emplace(Data());
-    return AnnexPaper(drawing, *data_);
-  }
-  void Draw() {
-    PlotWBas::DrawAnnexE(drawing, labels, Data());
-    fit = analysis::ProbabilityRegression(s, state);
-    PlotWBas::DrawAnnexRegression(drawing, labels, Data(), fit);
-  }
-  const Label& At(const std::string& name) const {
-    const Label* label = PlotWBas::FindLabel(labels, name);
-    if (!label) throw std::out_of_range(name);
-    return *label;
-  }
-  bool Has(const std::string& name) const { return PlotWBas::FindLabel(labels, name) != nullptr; }
-  bool HasLine(Point from, Point to) const {
-    for (const auto& item : drawing.Items()) {
-      const auto* line = std::get_if<DrawnLine>(&item);
-      if (line && std::abs(line->from.x - from.x) + std::abs(line->from.y - from.y) +
-                          std::abs(line->to.x - to.x) + std::abs(line->to.y - to.y) <
-                      1e-6)
-        return true;
-    }
-    return false;
-  }
-  bool HasCross(Point at) const {
-    return HasLine({at.x - 60, at.y - 60}, {at.x + 60, at.y + 60}) &&
-           HasLine({at.x - 60, at.y + 60}, {at.x + 60, at.y - 60});
-  }
-
-  ExposureSession s;
-  analysis::FitState state;
-  analysis::Regression fit;
-  DrawingRecord drawing{kWidth, kHeight};
-  PlotWBas::Labels labels;
-
- private:
-  std::optional<PlotWBas::PlotData> data_;
-};
 
 const std::vector<double> kSeven = {0.05, 0.2, 0.4, 0.9, 1.5, 3, 5};
 
@@ -304,62 +229,5 @@ TEST(AnnexE, TheNamesOfItsLabelsAreThoseThatItDraws) {
   annex.Draw();
   for (const std::string& name : PlotWBas::AnnexLabelNames()) EXPECT_TRUE(annex.Has(name)) << name;
 }
-
-std::vector<double> Lognormal(int M) {
-  StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"});
-  std::vector<double> outcomes;
-  for (int i = 1; i <= M; ++i)
-    outcomes.push_back(1.05 + 2 * std::exp(Deviate(1 - (i - 0.5) / M) * 0.8));
-  return outcomes;
-}
-
-// Keeps an outcome in ten at either end, at least one, out of the range.
-void Restrict(ExposureSession& s) {
-  const auto out = static_cast<std::int16_t>(std::max(1.0, s.M / 10));
-  s.DetecOn = true;
-  s.FirstInRange = static_cast<std::int16_t>(1 + out);
-  s.LastInRange = static_cast<std::int16_t>(s.M - (s.M > 4 ? out : 0));
-  s.NInRange = static_cast<std::int16_t>(s.LastInRange - s.FirstInRange + 1);
-  s.LOQ = s.C[static_cast<std::size_t>(out)] * 1.001;
-}
-
-// The drawing without its grid, which other tests check; of many crosses, some.
-std::string Kept(const DrawingRecord& drawing, int everyCross) {
-  const std::string whole = drawing_text::Whole(drawing);
-  std::string kept;
-  int crosses = 0;
-  for (std::size_t at = 0; at < whole.size();) {
-    const std::size_t end = whole.find('\n', at) + 1;
-    const std::string line = whole.substr(at, end - at);
-    at = end;
-    const bool text = line.starts_with("Lbl");
-    const bool frame = line.find(" rgb(0,0,0) ") != std::string::npos;
-    const bool grid = line.find(" 10.0\n") != std::string::npos;
-    const bool cross = line.find(" rgb(0,0,170) ") != std::string::npos ||
-                       line.find(" rgb(150,150,150) ") != std::string::npos;
-    if (text || (!frame && !grid && (!cross || crosses++ / 2 % everyCross == 0))) kept += line;
-  }
-  return kept;
-}
-
-class AnnexEDrawings : public testing::TestWithParam<int> {};
-
-TEST_P(AnnexEDrawings, AreAsTheyWere) {
-  std::string text;
-  for (const bool range : {false, true})
-    for (const analysis::Transformation& scale : analysis::kTransformations) {
-      if (scale.name == "Exp(x)" && GetParam() > 100) continue;  // beyond 44
-      Annex annex(Lognormal(GetParam()), std::string(scale.name));
-      if (range) Restrict(annex.s);
-      annex.Draw();
-      PlotWBas::WriteLabels(annex.drawing, annex.labels);
-      text += "== " + std::string(scale.name) + (range ? " with a range\n" : "\n");
-      text += Kept(annex.drawing, GetParam() > 100 ? 250 : 1);
-    }
-  const std::string name = "annex_" + std::to_string(GetParam()) + ".txt";
-  EXPECT_EQ(drawing_text::Difference(name, text), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(Sizes, AnnexEDrawings, testing::Values(3, 4, 20, 21, 2000));
 
 }  // namespace
