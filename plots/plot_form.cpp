@@ -4,6 +4,7 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "plots/annex_e.h"
 #include "plots/listing.h"
 #include "plots/paper_labels.h"
 #include "plots/regression_line.h"
@@ -18,6 +19,10 @@ constexpr char kDefaultTransformation[] = "Log(x)";
 PlotForm::PlotForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts)
     : SessionForm("PlotForm", navigation::ScreenId::Plot, "TabPlotform", record, programDesk,
                   formPorts) {
+  for (const std::string& label : PlotWBas::AnnexLabelNames())
+    annexLabels_.emplace_back(*this, screen::Kind::PictureLabel, label);
+  for (const std::string& name : PlotWBas::AnnexLabelNames())
+    annexLabels.emplace_back(*this, screen::Kind::PictureLabel, name);
   ConnectMenus();
   ConnectLimits();
   PicPlot.Resized = [this] {
@@ -70,7 +75,12 @@ void PlotForm::PlotStatus() {
   if (state.Transformation.empty()) state.Transformation = kDefaultTransformation;
   PlaceBars();
   PlotWBas::Labels labels;
-  DrawCumulative(labels);
+  if (AnnexE())
+    DrawAnnex(labels);
+  else if (AnnexE())
+    DrawAnnex(labels);
+  else
+    DrawCumulative(labels);
   PlotWBas::WriteLabels(PicPlot.drawing, labels);
   ShowLabels(labels);
   TickChoices();
@@ -96,6 +106,19 @@ void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
   ArrangeOutcomeLabels(labels, paper);
   if (session.DeveloperMode && MenuDevelop.ticked)
     PutListing(labels, paper, DevelopmentListing(paper, data, fit, LOQ, URR));
+}
+
+void PlotForm::DrawAnnex(PlotWBas::Labels& labels) {
+  const PlotWBas::PlotData data = Data();
+  PlotWBas::DrawAnnexE(PicPlot.drawing, labels, data);
+  PlotWBas::DrawAnnexRegression(PicPlot.drawing, labels, data, Fit());
+}
+
+void PlotForm::DrawAnnex(PlotWBas::Labels& labels) {
+  const PlotWBas::PlotData data = Data();
+  PlotWBas::DrawAnnexE(PicPlot.drawing, labels, data);
+  const analysis::Regression fit = Fit();
+  PlotWBas::DrawAnnexRegression(PicPlot.drawing, labels, data, fit);
 }
 
 // The message about outcomes that do not differ outlives the regression's own texts.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <deque>
 #include <string>
 
 #include "analysis/regression.h"
@@ -118,6 +119,7 @@ struct PlotForm final : navigation::SessionForm {
   // Shows the complaint of a check; true when there was one.
   bool Complained();
 
+  std::deque<screen::Control> annexLabels_;  // controls keep their place
   // In the order of analysis::kTransformations.
   const std::array<screen::Control*, 7> scaleMenus_{&MenuDubLog, &MenuLog, &MenuSqrt, &MenuUntransf,
                                                     &MenuSqrd,   &MenuExp, &MenuRecip};

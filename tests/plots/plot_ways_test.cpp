@@ -138,6 +138,42 @@ TEST_F(PlotWays, ToOtherKindsOpenInTheDeveloperModeOnly) {
   EXPECT_EQ(p.Text("LblXasEinde"), "Normal\rorder\rscale");
 }
 
+TEST_F(PlotWays, ToThePaperOfAnnexEShowItsLabelsAndNoBars) {
+  p.See(kTen);
+  EXPECT_FALSE(p.At("LblYas_50_procent").visible);
+  p.Click("MenuDevMode");
+  p.Click("MenuLowLim");
+  p.Click("MenuAnnexEPlot");
+  EXPECT_EQ(s.PlotKind, "EN689AnnexE");
+  EXPECT_TRUE(p.At("MenuAnnexEPlot").ticked);
+  EXPECT_TRUE(p.At("LblYas_50_procent").visible);
+  EXPECT_EQ(p.Text("LblYas_50_procent"), "50%");
+  EXPECT_EQ(p.Text("LblYas_85_procent"), "85%");
+  EXPECT_FALSE(p.At("LblR1").visible);
+  EXPECT_TRUE(p.At("LblShapiro").visible);
+  EXPECT_TRUE(p.At("LblRegres").visible);
+  for (const char* bar : {"VScLowLimit", "VScUplimit", "HScLowLimit", "HScUplimit"})
+    EXPECT_FALSE(p.At(bar).visible) << bar;
+  p.Click("MenuUpLim");  // it has none to show
+  for (const char* bar : {"VScLowLimit", "VScUplimit", "HScLowLimit", "HScUplimit"})
+    EXPECT_FALSE(p.At(bar).visible) << bar;
+  p.Click("memuVALKOplot");
+  EXPECT_FALSE(p.At("LblYas_50_procent").visible);
+  EXPECT_TRUE(p.At("LblR1").visible);
+}
+
+// The range can't be moved with the mouse there.
+TEST_F(PlotWays, ToThePaperOfAnnexEGiveTheMouseNothingToPick) {
+  p.See(kTen);
+  p.Click("MenuDevMode");
+  p.Click("MenuAnnexEPlot");
+  p.Click("MenuLowLim");
+  const double LOQ = s.LOQ;
+  p.PlotClick(0.5, 0.6);
+  EXPECT_EQ(s.LOQ, LOQ);
+  EXPECT_TRUE(p.box.shown.empty());
+}
+
 TEST_F(PlotWays, ListTheInnerValuesOnDemand) {
   p.See(kTen);
   p.Click("MenuDevMode");
