@@ -21,8 +21,6 @@ PlotForm::PlotForm(ExposureSession& record, navigation::Desk& programDesk, scree
                   formPorts) {
   for (const std::string& label : PlotWBas::AnnexLabelNames())
     annexLabels_.emplace_back(*this, screen::Kind::PictureLabel, label);
-  for (const std::string& name : PlotWBas::AnnexLabelNames())
-    annexLabels.emplace_back(*this, screen::Kind::PictureLabel, name);
   ConnectMenus();
   ConnectLimits();
   PicPlot.Resized = [this] {
@@ -77,8 +75,6 @@ void PlotForm::PlotStatus() {
   PlotWBas::Labels labels;
   if (AnnexE())
     DrawAnnex(labels);
-  else if (AnnexE())
-    DrawAnnex(labels);
   else
     DrawCumulative(labels);
   PlotWBas::WriteLabels(PicPlot.drawing, labels);
@@ -112,13 +108,6 @@ void PlotForm::DrawAnnex(PlotWBas::Labels& labels) {
   const PlotWBas::PlotData data = Data();
   PlotWBas::DrawAnnexE(PicPlot.drawing, labels, data);
   PlotWBas::DrawAnnexRegression(PicPlot.drawing, labels, data, Fit());
-}
-
-void PlotForm::DrawAnnex(PlotWBas::Labels& labels) {
-  const PlotWBas::PlotData data = Data();
-  PlotWBas::DrawAnnexE(PicPlot.drawing, labels, data);
-  const analysis::Regression fit = Fit();
-  PlotWBas::DrawAnnexRegression(PicPlot.drawing, labels, data, fit);
 }
 
 // The message about outcomes that do not differ outlives the regression's own texts.
