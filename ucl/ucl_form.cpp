@@ -152,7 +152,6 @@ void UCLForm::JahrCmb_Click() {
   else
     UCLTxB.text = Shown(Exp(session.UCL));
   PercExTxB.text = session.PercEx == 0 ? "    <1E-16" : Shown(session.PercEx);
-  MenuPrint.Show();
   Refresh();
 }
 
@@ -189,7 +188,6 @@ void UCLForm::Land() {
     UCLTxB.text.clear();
     TellLimitBeyondNumbers();
   }
-  MenuPrint.Show();
   Refresh();
 }
 
