@@ -4,11 +4,6 @@
 #include "catalog/catalog.h"
 
 namespace compliance {
-namespace {
-
-bool IsTest(const std::string& tag) { return tag == "Le" || tag == "Wi" || tag == "Tu"; }
-
-}  // namespace
 
 PercExForm::PercExForm(ExposureSession& record, navigation::Desk& programDesk,
                        screen::Ports& formPorts)
@@ -131,13 +126,12 @@ void PercExForm::ShowResultControls(bool shown) {
   IntroFrm.visible = !shown;
 }
 
-// The mean's screen leaves tags of its own, which are no test of this one.
 void PercExForm::TestLayout() {
   DimLbl2.text = "%";
   DimLbl3.text = session.Unit;
   CommentLbl.Hide();
-  ShowResultControls(IsTest(session.TestTag));
-  if (!IsTest(session.TestTag)) {
+  ShowResultControls(!session.TestTag.empty());
+  if (session.TestTag.empty()) {
     UTLFrm.text = LoadResString(2320);
     ComplianceLbl.Hide();
     OfferSampleSize(false);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
@@ -35,6 +36,7 @@ class MainWindow::Private {
   void FocusNewPage(QWidget* before);
   void Push();
   bool RepaintSide(const screen::Form& form);
+  bool ControlIsDue();
   void Settle();
   void End();
   void Choose(const QString& key);
@@ -53,6 +55,8 @@ class MainWindow::Private {
   bool onDetour_ = false;
   bool pointerBusy_ = false;
   bool ending_ = false;
+  int controlsPainted_ = 0;  // since the whole window was last brought up to date
+  QElapsedTimer sinceControl_;
 };
 
 MainWindow::Private::Private(MainWindow& window, start::Program& program, screen::Ports& ports)
@@ -109,6 +113,7 @@ void MainWindow::Private::FocusNewPage(QWidget* before) {
 
 // Showing and hiding may move the focus; that is no event for the controls.
 void MainWindow::Private::Push() {
+  controlsPainted_ = 0;
   QWidget* before = window_.focusWidget();
   const screen::Form& shown = program_.Shown();
   for (auto& binder : binders_) binder->Push(&binder->Form() == &shown);
@@ -135,6 +140,17 @@ bool MainWindow::Private::RepaintSide(const screen::Form& form) {
     return true;
   }
   return false;
+}
+
+// No display shows more than some sixty pictures a second: a search with a thousand candidates
+// paints the first of them, and goes on at that pace.
+bool MainWindow::Private::ControlIsDue() {
+  constexpr int kAtOnce = 60;
+  constexpr int kPaceMilliseconds = 16;
+  if (controlsPainted_ >= kAtOnce && !sinceControl_.hasExpired(kPaceMilliseconds)) return false;
+  ++controlsPainted_;
+  sinceControl_.start();
+  return true;
 }
 
 void MainWindow::Private::PushPointer(bool busy) {
@@ -205,7 +221,8 @@ void MainWindow::Repaint(screen::Form& form) {
 }
 
 void MainWindow::RepaintControl(screen::Form& form, screen::Control& control) {
-  if (FormBinder* binder = private_->BinderOf(form)) binder->Repaint(control);
+  FormBinder* binder = private_->BinderOf(form);
+  if (binder && private_->ControlIsDue()) binder->Repaint(control);
 }
 
 QWidget* MainWindow::WidgetOf(const screen::Form& form, const screen::Control& control) const {

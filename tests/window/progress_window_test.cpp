@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPushButton>
@@ -10,24 +9,10 @@
 #include <vector>
 
 #include "tests/support/program_session.h"
-#include "ui/application.h"
+#include "tests/window/toolkit.h"
 
 // The window of Land's progress in the real toolkit: what it paints while the search runs.
 namespace {
-
-QApplication& Toolkit() {
-  static int argc = 1;
-  static char name[] = "progress_tests";
-  static char* argv[] = {name, nullptr};
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QApplication toolkit(argc, argv);
-  static const bool prepared = [] {
-    ui::PrepareToolkit();
-    return true;
-  }();
-  EXPECT_TRUE(prepared);
-  return toolkit;
-}
 
 // Notes each painting of the progress window, or of a part of it.
 class Painter : public QObject {

@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "compliance/en689.h"
+#include "session/global_bas.h"
+#include "tests/support/program_session.h"
+#include "tests/window/toolkit.h"
+
+// The compliance screen in the real toolkit: what the boxes of the EN 689 test show while it
+// searches, and how long the user waits for each test.
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// Notes the text of a box whenever it is painted.
+class Painter : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto* box = qobject_cast<const QLineEdit*>(watched);
+    if (event->type() != QEvent::Paint || !box) return false;
+    if (box->objectName() == QLatin1String("PercExTxB_1")) Note(limits, *box);
+    if (box->objectName() == QLatin1String("PercExTxB_2")) Note(fractions, *box);
+    return false;
+  }
+  Texts limits, fractions;
+
+ private:
+  static void Note(Texts& texts, const QLineEdit& box) {
+    texts.push_back(box.text().toStdString());
+  }
+};
+
+class ComplianceWindow : public testing::Test {
+ protected:
+  ComplianceWindow() { application.Start(); }
+
+  ExposureSession& Record() { return application.Program().Session(); }
+
+  void Show(double M, double GM, double GSD, double OELV, double U = 95, double D = 70) {
+    ExposureSession& s = Record();
+    s.Mode = "D";
+    s.Name = "Welders";
+    s.M = M;
+    s.df = M - 1;
+    s.GM = GM;
+    s.GSD = GSD;
+    s.OELV = OELV;
+    s.U = U;
+    s.D = D;
+    s.IdentOk = s.DescOk = s.LimitsOk = true;
+    application.Program().Open(navigation::ScreenId::PercEx);
+    application.Window().ShowState();
+    toolkit.processEvents();
+  }
+  // In milliseconds, all that follows the click included.
+  double Click(const char* name) {
+    screen::Form& form = application.Program().Shown();
+    QElapsedTimer clock;
+    clock.start();
+    qobject_cast<QAbstractButton*>(application.Window().WidgetOf(form, *form.Find(name)))->click();
+    toolkit.processEvents();
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+  }
+
+  QApplication& toolkit = Toolkit();
+  support::RecordingPorts around;
+  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+};
+
+// Each text of `wanted` comes in `seen`, in this order.
+bool InOrder(const Texts& wanted, const Texts& seen) {
+  auto from = seen.begin();
+  for (const std::string& text : wanted) {
+    from = std::find(from, seen.end(), text);
+    if (from == seen.end()) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+TEST_F(ComplianceWindow, TheSearchesOfTheEN689TestPaintTheirCandidates) {
+  Show(10, 0.3, 2, 1);
+  Texts limits;
+  Texts fractions;
+  ExposureSession copy = Record();
+  compliance::En689Test(copy, 1.7369655941662063, [&](compliance::En689Box box, double value) {
+    (box == compliance::En689Box::Fraction ? fractions : limits)
+        .push_back(GlobalBAS::Shown(copy, value));
+  });
+  Painter painter;
+  toolkit.installEventFilter(&painter);
+  Click("TuggleCmb");
+  EXPECT_GE(painter.limits.size(), limits.size());
+  EXPECT_GE(painter.fractions.size(), fractions.size());
+  EXPECT_TRUE(InOrder(limits, painter.limits)) << testing::PrintToString(painter.limits);
+  EXPECT_TRUE(InOrder(fractions, painter.fractions)) << testing::PrintToString(painter.fractions);
+}
+
+// Where a search has over a thousand candidates, painting them all would take longer than it.
+TEST_F(ComplianceWindow, AVeryLongSearchPaintsSomeOfItsCandidatesAndItsLast) {
+  Show(2, 4367.7418110640838, 155.10860695839361, 183335087.35356015, 68.710356701452767, 0.01);
+  Painter painter;
+  toolkit.installEventFilter(&painter);
+  Click("TuggleCmb");
+  EXPECT_GT(painter.limits.size(), 50u);
+  EXPECT_LT(painter.limits.size(), 200u);
+  EXPECT_EQ(painter.limits.back(), GlobalBAS::Shown(Record(), Record().UTL));
+}
+
+// The best of a few, since the machine may be busy with other work.
+TEST_F(ComplianceWindow, NoTestKeepsTheUserWaitingForATenthOfASecond) {
+  const double samples[][6] = {
+      {10, 0.3, 2, 1, 95, 70},
+      {2000, 0.3, 2, 1, 95, 70},
+      {2, 1, 1000, 100, 99.99, 99.9},
+      {2, 4367.7418110640838, 155.10860695839361, 183335087.35356015, 68.710356701452767, 0.01}};
+  for (const auto& [M, GM, GSD, OELV, U, D] : samples) {
+    Show(M, GM, GSD, OELV, U, D);
+    for (const char* button : {"LeidelCmb", "TuggleCmb", "WilksCmb", "SampSizeCkb"}) {
+      double best = 1e9;
+      for (int click = 0; click < 5 && best >= 100; ++click) best = std::min(best, Click(button));
+      EXPECT_LT(best, 100) << button << ", M " << M << ", GSD " << GSD;
+    }
+  }
+}
