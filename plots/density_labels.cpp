@@ -15,12 +15,11 @@ using screen::Down;
 using screen::Point;
 using screen::TextStyle;
 
-constexpr double kEdge = 120;        // of the surface, which stays free
-constexpr double kGap = 120;         // between a text and what is beside it
-constexpr double kLeaderFoot = 170;  // below the axis, where a mark's label begins
+constexpr double kEdge = 120;  // of the surface, which stays free
+constexpr double kGap = 120;   // between a text and what is beside it
 constexpr double kHair = 10;
 constexpr double kMarkSize = 9;
-constexpr double kLeastSize = 5;
+constexpr double kLeastSize = 4;
 
 constexpr screen::Colour kQuiet{110, 110, 110};
 constexpr screen::Colour kFrame{0, 0, 0};
@@ -32,6 +31,32 @@ std::string Squeezed(const std::string& text) {
     if (c != ' ' || (!squeezed.empty() && squeezed.back() != ' ' && squeezed.back() != '\r'))
       squeezed += c;
   return squeezed;
+}
+
+// Moves what overlaps to either side, so that the sum of the squared ways is the least: the places
+// less the widths before them must not fall, and neighbours that do take their common mean.
+void ToEitherSide(std::vector<Stand>& stands) {
+  std::ranges::stable_sort(stands, {}, &Stand::centre);
+  struct Group {
+    double sum = 0;
+    int count = 0;
+    double Mean() const { return sum / count; }
+  };
+  std::vector<Group> groups;
+  std::vector<double> before(stands.size());
+  for (std::size_t i = 0; i < stands.size(); ++i) {
+    if (i > 0) before[i] = before[i - 1] + stands[i - 1].half + stands[i].half;
+    groups.push_back({stands[i].centre - before[i], 1});
+    while (groups.size() > 1 && groups[groups.size() - 2].Mean() > groups.back().Mean()) {
+      const Group last = groups.back();
+      groups.pop_back();
+      groups.back().sum += last.sum;
+      groups.back().count += last.count;
+    }
+  }
+  std::size_t i = 0;
+  for (const Group& group : groups)
+    for (int k = 0; k < group.count; ++k, ++i) stands[i].centre = group.Mean() + before[i];
 }
 
 // The labels below the axis.
@@ -53,17 +78,21 @@ class MarkRow {
 
   screen::DrawSurface& surface_;
   double foot_;
+  double leader_;  // how far below the axis the labels begin
   std::vector<Entry> entries_;
   TextStyle style_;
 };
 
 MarkRow::MarkRow(screen::DrawSurface& surface, const DensityScale& scale, const DensityData& data)
-    : surface_(surface), foot_(scale.Foot()) {
+    : surface_(surface),
+      foot_(scale.Foot()),
+      leader_(60 + 160 * TextScale(surface.ScaleWidth(), surface.ScaleHeight())) {
   for (const DensityMark& mark : data.marks)
     entries_.push_back({MarkPlace(scale, mark), mark.colour, {{mark.name, Squeezed(mark.text)}}});
   entries_.push_back({scale.AxisEnd(),
                       kFrame,
                       {{"XasLbl(0)", data.endText}, {"XasLbl", Squeezed(data.endValue)}}});
+  std::ranges::stable_sort(entries_, {}, &Entry::X);
   style_ = Style(surface.ScaleWidth(), surface.ScaleHeight(), kMarkSize, Across::Centre, Down::Top);
   ChooseSize();
 }
@@ -85,14 +114,14 @@ double MarkRow::TotalWidth() const {
 void MarkRow::ChooseSize() {
   constexpr int kRows = 2;
   constexpr double kStep = 0.25;
-  const double height = surface_.ScaleHeight() - foot_ - kLeaderFoot - 30;
+  const double height = surface_.ScaleHeight() - foot_ - leader_ - 30;
   const double width = surface_.ScaleWidth() - 2 * kEdge;
   while (style_.size > kLeastSize && (kRows * RowHeight(style_) > height || TotalWidth() > width))
     style_.size -= kStep;
 }
 
 void MarkRow::Write(const Entry& entry, double centre) {
-  const double top = foot_ + kLeaderFoot;
+  const double top = foot_ + leader_;
   surface_.Line({entry.X, foot_ + 90}, {centre, top}, entry.colour, kHair);
   style_.colour = entry.colour;
   Point at{centre, top};
@@ -105,6 +134,7 @@ void MarkRow::Write(const Entry& entry, double centre) {
 void MarkRow::Write() {
   std::vector<Stand> wanted;
   for (const Entry& entry : entries_) wanted.push_back({entry.X, Width(entry) / 2});
+  ToEitherSide(wanted);
   const std::vector<double> centres =
       SpreadOut(wanted, kEdge - kGap / 2, surface_.ScaleWidth() - kEdge + kGap / 2);
   for (std::size_t i = 0; i < entries_.size(); ++i) Write(entries_[i], centres[i]);
