@@ -29,6 +29,9 @@ double RowHeight(const screen::TextStyle& style);
 double TextWidth(const std::string& text, double size);
 int RowCount(const std::string& text);
 
+// What is smaller than this is not worth its ink.
+inline constexpr double kSmallest = 4;
+
 // The largest size up to `wanted` in which the text is no wider than `width`, but `least` at least.
 double FittingSize(const std::string& text, double width, double wanted, double least);
 

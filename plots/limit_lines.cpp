@@ -24,20 +24,52 @@ LimitMark MarkAt(const Paper& paper, const PlotData& data, double limit) {
   return {true, paper.Span() == 0 ? 0.5 : Divide(away, paper.Span()), paper.OutcomePlace(y)};
 }
 
-void DrawLimit(screen::DrawSurface& surface, const Paper& paper, double place,
-               screen::Colour colour) {
+// One limit with the look that it has in the plot.
+struct Limit {
+  const char* label;
+  std::string text;
+  screen::Colour colour;
+  const LimitMark& mark;
+};
+
+void DrawLine(screen::DrawSurface& surface, const Paper& paper, const Limit& limit) {
   const Frame& f = paper.Edges();
+  const double place = limit.mark.place;
   if (paper.OutcomesUp())
-    surface.Line({f.XasStart, place}, {f.XasEinde, place}, colour, kPen);
+    surface.Line({f.XasStart, place}, {f.XasEinde, place}, limit.colour, kPen);
   else
-    surface.Line({place, f.YasTop}, {place, f.YasBot}, colour, kPen);
+    surface.Line({place, f.YasTop}, {place, f.YasBot}, limit.colour, kPen);
 }
 
-void PutLimit(Labels& labels, const Paper& paper, const char* name, const std::string& text,
-              Point at, Across across, Down down, screen::Colour colour) {
+// The label at one of the line's ends, on one of its sides.
+Label LabelAt(const Paper& paper, const Limit& limit, Across across, Down down) {
+  const Frame& f = paper.Edges();
+  const double place = limit.mark.place;
+  const bool right = across == Across::Right;
+  const bool bottom = down == Down::Bottom;
+  const Point at =
+      paper.OutcomesUp()
+          ? Point{right ? f.XasEinde : f.XasStart, place + (bottom ? -kBeside : kBeside)}
+          : Point{place + (right ? -kBeside : kBeside), bottom ? f.YasBot : f.YasTop};
   screen::TextStyle style = Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, across, down);
-  style.colour = colour;
-  labels.push_back({name, text, at, style});
+  style.colour = limit.colour;
+  return {limit.label, limit.text, at, style};
+}
+
+// The first places lie away from the points, on the side outside of the range: low limits have
+// room below the rising points, high ones above them.
+void DrawLimit(screen::DrawSurface& surface, Labels& labels, const Paper& paper, const Room& room,
+               const Limit& limit, Across across, Down down) {
+  if (!limit.mark.shown) return;
+  DrawLine(surface, paper, limit);
+  const Across otherSide = across == Across::Left ? Across::Right : Across::Left;
+  const Down otherWay = down == Down::Top ? Down::Bottom : Down::Top;
+  const bool up = paper.OutcomesUp();
+  labels.push_back(
+      room.FirstFree({LabelAt(paper, limit, across, down),
+                      LabelAt(paper, limit, up ? across : otherSide, up ? otherWay : down),
+                      LabelAt(paper, limit, up ? otherSide : across, up ? down : otherWay),
+                      LabelAt(paper, limit, otherSide, otherWay)}));
 }
 
 }  // namespace
@@ -58,38 +90,14 @@ LimitMark URRMark(const Paper& paper, const PlotData& data, bool active) {
   return MarkAt(paper, data, s.URR);
 }
 
-// Where few points can be: beside the line on the side that lies outside of the range, at the end
-// that lies away from the points.
-void DrawLOQ(screen::DrawSurface& surface, Labels& labels, const Paper& paper, const PlotData& data,
-             const LimitMark& mark) {
-  if (!mark.shown) return;
-  DrawLimit(surface, paper, mark.place, kLOQ);
-  const Frame& f = paper.Edges();
-  const std::string text = "LOQ " + GlobalBAS::Shown(data.s, data.s.LOQ);
-  if (paper.OutcomesUp()) {
-    PutLimit(labels, paper, "LblLnLOQ", text, {f.XasEinde, mark.place + kBeside}, Across::Right,
-             Down::Top, kLOQ);
-    return;
-  }
-  const bool left = mark.fraction > 0.25;
-  PutLimit(labels, paper, "LblLnLOQ", text, {mark.place + (left ? -kBeside : kBeside), f.YasTop},
-           left ? Across::Right : Across::Left, Down::Top, kLOQ);
-}
-
-void DrawURR(screen::DrawSurface& surface, Labels& labels, const Paper& paper, const PlotData& data,
-             const LimitMark& mark) {
-  if (!mark.shown) return;
-  DrawLimit(surface, paper, mark.place, kURR);
-  const Frame& f = paper.Edges();
-  const std::string text = "URR " + GlobalBAS::Shown(data.s, data.s.URR);
-  if (paper.OutcomesUp()) {
-    PutLimit(labels, paper, "LblLnURR", text, {f.XasStart, mark.place - kBeside}, Across::Left,
-             Down::Bottom, kURR);
-    return;
-  }
-  const bool right = mark.fraction < 0.75;
-  PutLimit(labels, paper, "LblLnURR", text, {mark.place + (right ? kBeside : -kBeside), f.YasBot},
-           right ? Across::Left : Across::Right, Down::Bottom, kURR);
+void DrawLimits(screen::DrawSurface& surface, Labels& labels, const Paper& paper,
+                const PlotData& data, const Room& room, const LimitMark& LOQ,
+                const LimitMark& URR) {
+  const ExposureSession& s = data.s;
+  const Limit low{"LblLnLOQ", "LOQ " + GlobalBAS::Shown(s, s.LOQ), kLOQ, LOQ};
+  const Limit high{"LblLnURR", "URR " + GlobalBAS::Shown(s, s.URR), kURR, URR};
+  DrawLimit(surface, labels, paper, room, low, Across::Right, Down::Top);
+  DrawLimit(surface, labels, paper, room, high, Across::Left, Down::Bottom);
 }
 
 }  // namespace PlotWBas

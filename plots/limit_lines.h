@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plots/paper.h"
+#include "plots/room.h"
 
 // The ends of the detection range as lines in a cumulative plot.
 namespace PlotWBas {
@@ -17,10 +18,9 @@ struct LimitMark {
 LimitMark LOQMark(const Paper& paper, const PlotData& data, bool active);
 LimitMark URRMark(const Paper& paper, const PlotData& data, bool active);
 
-// The line with its label, LblLnLOQ or LblLnURR. Nothing for a mark that is not shown.
-void DrawLOQ(screen::DrawSurface& surface, Labels& labels, const Paper& paper, const PlotData& data,
-             const LimitMark& mark);
-void DrawURR(screen::DrawSurface& surface, Labels& labels, const Paper& paper, const PlotData& data,
-             const LimitMark& mark);
+// Draws the lines of those marks that are shown, each with its label, LblLnLOQ or LblLnURR, beside
+// it where there is room.
+void DrawLimits(screen::DrawSurface& surface, Labels& labels, const Paper& paper,
+                const PlotData& data, const Room& room, const LimitMark& LOQ, const LimitMark& URR);
 
 }  // namespace PlotWBas

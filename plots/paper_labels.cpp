@@ -57,13 +57,12 @@ void Writer::PutTitles() {
   // The label of the highest mark of the axis lies between.
   Put("LblYasTop", paper_.OutcomesUp() ? outcomes : scores,
       {f_.XasStart - kBeside, f_.YasTop - 1.2 * RowHeight(vertical)}, vertical);
-  // The short title leaves the place beside the frame to the test of the fit.
-  const double foot = f_.YasBot + 60;
+  // In the corner under the axis, or above its end, as the number of lines allows.
   if (paper_.OutcomesUp())
-    Put("LblXasEinde", scores, {paper_.ScaleWidth() - kMargin, foot},
-        StyleOf(8.5, Across::Right, Down::Bottom));
+    Put("LblXasEinde", scores, {paper_.ScaleWidth() - kMargin, f_.YasBot + kBeside},
+        StyleOf(8.5, Across::Right, Down::Top));
   else
-    Put("LblXasEinde", outcomes, {f_.XasEinde + kBeside, foot},
+    Put("LblXasEinde", outcomes, {f_.XasEinde + kBeside, f_.YasBot + 60},
         StyleOf(8.5, Across::Left, Down::Bottom));
 }
 
@@ -137,7 +136,7 @@ void PutHeadlines(Labels& labels, double width, double height, const PlotData& d
   const std::string headline = HeadlineText(data.s, data.Transformation);
   screen::TextStyle style = Style(width, height, 11, Across::Centre, Down::Top);
   style.bold = true;
-  style.size = FittingSize(headline, 0.6 * width, style.size, 6);
+  style.size = FittingSize(headline, 0.6 * width, style.size, kSmallest);
   labels.push_back({"LblKoptekst", headline, {0.5 * width, kMargin}, style});
   labels.push_back({"LblRightTxt",
                     HeaderText(data.s, data.time),
@@ -160,7 +159,7 @@ void ArrangeOutcomeLabels(Labels& labels, const Paper& paper) {
   for (const Label& label : labels)
     if (OfOutcome(label)) {
       row = RowHeight(label.style);
-      const double size = up ? row : TextWidth(label.text, label.style.size);
+      const double size = up ? row : TextWidth(label.text, label.style.size) + 80;
       wanted.push_back({up ? label.at.y : label.at.x, size / 2});
     }
   const Frame& f = paper.Edges();
@@ -176,7 +175,7 @@ Point RightColumn(const Paper& paper) {
   const Frame& f = paper.Edges();
   const double row =
       RowHeight(Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, Across::Left, Down::Bottom));
-  // In front of the short title of the scores, above the longer one of the outcomes.
+  // Above the title of the axis, which may stand there.
   return {f.XasEinde + kBeside, paper.OutcomesUp() ? f.YasBot + 120 : f.YasBot - 4 * row};
 }
 

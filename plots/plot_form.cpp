@@ -30,7 +30,6 @@ PlotForm::PlotForm(ExposureSession& record, navigation::Desk& programDesk, scree
 }
 
 void PlotForm::Load() {
-  OfferMenus();
   ResetAll();
 }
 
@@ -96,8 +95,8 @@ void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
   DrawRegression(surface, labels, paper, data, fit);
   const LimitMark LOQ = LOQMark(paper, data, LOQActive);
   const LimitMark URR = URRMark(paper, data, URRActive);
-  DrawLOQ(surface, labels, paper, data, LOQ);
-  DrawURR(surface, labels, paper, data, URR);
+  const Room room(paper, data, LineOf(paper, fit));
+  DrawLimits(surface, labels, paper, data, room, LOQ, URR);
   FollowLimits(LOQ, URR);
   ArrangeOutcomeLabels(labels, paper);
   if (session.DeveloperMode && MenuDevelop.ticked)

@@ -20,6 +20,7 @@ using screen::Point;
 
 constexpr screen::Colour kLine{190, 0, 0};
 constexpr double kPen = 22;
+constexpr double kCorner = 1000;
 
 // Up to which value of the transformed scale, from which, an outcome is shown.
 struct Guard {
@@ -120,6 +121,11 @@ LineEnds RegressionEnds(const Paper& paper, const analysis::Regression& fit) {
   return ends;
 }
 
+std::optional<LineEnds> LineOf(const Paper& paper, const analysis::Regression& fit) {
+  if (!fit.line) return std::nullopt;
+  return RegressionEnds(paper, fit);
+}
+
 std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y) {
   const std::string letters = Transformation.substr(0, 3);
   const auto* guard = std::ranges::find(kGuards, letters, &Guard::letters);
@@ -160,7 +166,8 @@ void PutRegressionTexts(Labels& labels, const screen::DrawSurface& surface, cons
   screen::TextStyle below = Style(W, H, 8, Across::Centre, Down::Top);
   // The numbers of the horizontal axis stand between.
   const double under = YasBot + 120 + 1.2 * RowHeight(below);
-  below.size = FittingSize(through, W - 300, below.size, 6);
+  // The corners are left to the title of the axis.
+  below.size = FittingSize(through, W - 2 * kCorner * TextScale(W, H), below.size, kSmallest);
   labels.push_back({"LblRegres", through, {0.5 * W, under}, below});
 }
 

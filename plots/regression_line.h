@@ -17,6 +17,9 @@ struct LineEnds {
 // highest outcome or, where it lies within these, by its ends at the outermost scores.
 LineEnds RegressionEnds(const Paper& paper, const analysis::Regression& fit);
 
+// The same, or none where there is no line.
+std::optional<LineEnds> LineOf(const Paper& paper, const analysis::Regression& fit);
+
 // The outcome that stands at `y` of the transformed scale at an end of the line; none where the
 // transformation has none to show.
 std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y);

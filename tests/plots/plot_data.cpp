@@ -63,8 +63,9 @@ void Plot::Draw(PlotWBas::Axes axes) {
     DrawInverseCumulative(drawing, labels, data);
   const PlotWBas::Paper paper(axes, drawing, data);
   DrawRegression(drawing, labels, paper, data, fit);
-  DrawLOQ(drawing, labels, paper, data, LOQMark(paper, data, false));
-  DrawURR(drawing, labels, paper, data, URRMark(paper, data, false));
+  const Room room(paper, data, LineOf(paper, fit));
+  DrawLimits(drawing, labels, paper, data, room, LOQMark(paper, data, false),
+             URRMark(paper, data, false));
   ArrangeOutcomeLabels(labels, paper);
   WriteLabels(drawing, labels);
 }
