@@ -29,9 +29,7 @@ PlotForm::PlotForm(ExposureSession& record, navigation::Desk& programDesk, scree
   PicPlot.MouseDown = [this](double, double y) { PicPlot_MouseDown(y); };
 }
 
-void PlotForm::Load() {
-  ResetAll();
-}
+void PlotForm::Load() { ResetAll(); }
 
 void PlotForm::Activate() {
   Flags();
