@@ -35,7 +35,6 @@ DescriptForm::DescriptForm(ExposureSession& record, navigation::Desk& programDes
 }
 
 void DescriptForm::Load() {
-  OfferMenus();
   DetecFrame.Hide();
 }
 

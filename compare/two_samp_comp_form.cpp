@@ -21,7 +21,6 @@ TwoSampCompForm::TwoSampCompForm(ExposureSession& record, navigation::Desk& prog
 
 void TwoSampCompForm::Load() {
   loaded = true;
-  OfferMenus();
   MenuPrint.enabled = false;
   caption = LoadResString(2800);
   IntroLbl.text =

@@ -20,7 +20,6 @@ PercExForm::PercExForm(ExposureSession& record, navigation::Desk& programDesk,
 
 void PercExForm::Load() {
   loaded = true;
-  OfferMenus();
   MenuPrint.enabled = false;
   caption = LoadResString(2304);
   CommentLbl.Hide();

@@ -70,7 +70,6 @@ void GrenzenForm::WireCombos() {
 }
 
 void GrenzenForm::Load() {
-  OfferMenus();
   caption = session.VersionText + LoadResString(2098);
   FillCombos();
   for (screen::Control* box : {&NameTxB, &SampSizTxB}) box->locked = true;

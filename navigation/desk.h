@@ -14,10 +14,6 @@ class Desk {
   virtual ~Desk() = default;
   // Hides the present screen, shows `target` and runs its activation.
   virtual void Open(ScreenId target) = 0;
-  // Whether the program has that screen.
-  virtual bool Has(ScreenId target) const = 0;
-  // Whether the program has the extrapolation `tag`.
-  virtual bool HasExtrapolation(const std::string& tag) const = 0;
   // Opens the screen of the extrapolation `tag` ("Le", "Wi", "Tu", "Ap", "Ex") and starts it.
   virtual void RunExtrapolation(const std::string& tag) = 0;
   // Shows the frequency distribution picture in place of the present screen; then goes back to

@@ -40,20 +40,11 @@ SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string st
     menu->Click = [this, menu] { desk.RunExtrapolation(TagOfMenu(*menu)); };
 }
 
-void SessionForm::OfferMenus() {
-  MenuPlot.enabled = desk.Has(ScreenId::Plot);
-  MenuComp.enabled = desk.Has(ScreenId::TwoSamp);
-  for (screen::Control* menu : {&MenuLeid, &MenuWilks, &MenuTugg, &MenuJahr, &MenuLand})
-    menu->enabled = desk.HasExtrapolation(TagOfMenu(*menu));
-  MenuAM.enabled = MenuJahr.enabled || MenuLand.enabled;
-}
-
 void SessionForm::RebuildStrip() {
   Tabs.tabs.clear();
   for (ScreenId target : workflow::TabSet(session, id)) {
     const workflow::TabText& tab = workflow::TabOf(target);
-    Tabs.tabs.push_back(
-        {tab.key, LoadResString(tab.caption), LoadResString(tab.tip), desk.Has(target)});
+    Tabs.tabs.push_back({tab.key, LoadResString(tab.caption), LoadResString(tab.tip)});
   }
   Tabs.selected = workflow::TabOf(id).key;
   MenuPlot.visible = workflow::PlotMenuVisible(session, id);
@@ -74,7 +65,7 @@ void SessionForm::Tab_Click(const std::string& key) {
   if (!tab || LoadResString(tab->caption) == session.CurrentTab) return;
   BeforeTabClick();
   // The click itself has moved the toolkit's strip; a closed gate moves it back.
-  if (!desk.Has(tab->screen) || !workflow::GateOpen(session, id, tab->screen)) {
+  if (!workflow::GateOpen(session, id, tab->screen)) {
     ClickLedNowhere();
     return;
   }

@@ -45,8 +45,6 @@ struct SessionForm : screen::Form {
   void Flags();
   // First step of every activation: this screen's tab is the current one.
   void EnterOwnTab();
-  // Enables the menus whose screens the program has.
-  void OfferMenus();
 
   // The number of the window on focus; a number that a choice has just set stays when the choice
   // itself has moved the focus.

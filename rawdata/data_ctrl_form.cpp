@@ -48,7 +48,6 @@ void DataCtrlForm::WireDetection() {
 }
 
 void DataCtrlForm::Load() {
-  OfferMenus();
   DimCbo.text = LoadResString(308);
   for (int row : {310, 312, 314, 316, 318, 320, 322}) DimCbo.items.push_back(LoadResString(row));
   DBGridVkr.columns = {{LoadResString(600), 700, false},

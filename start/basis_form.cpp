@@ -55,7 +55,6 @@ void BasisForm::WireFields() {
 }
 
 void BasisForm::Load() {
-  OfferMenus();
   IdentFrame.Hide();
   DescriptFrame.Hide();
   OpeningMessage();

@@ -7,7 +7,7 @@ void BasisForm::BasisStatus() {
   BoodschFrame.Show();
   menuExtrPol.enabled = false;
   menuTools.Show();
-  MenuPlot.enabled = desk.Has(navigation::ScreenId::Plot);
+  MenuPlot.enabled = true;
   if (session.Mode.empty()) {
     IdentFrame.Hide();
     NameTxB.locked = false;

@@ -181,15 +181,8 @@ void Program::Open(ScreenId target) {
   form->Activate();
 }
 
-bool Program::Has(ScreenId target) const { return parts_->ById(target) != nullptr; }
-
-bool Program::HasExtrapolation(const std::string& tag) const {
-  return tag == "Le" || tag == "Wi" || tag == "Tu" || tag == "Ap" || tag == "Ex";
-}
-
 void Program::RunExtrapolation(const std::string& tag) {
   Parts& p = *parts_;
-  if (!HasExtrapolation(tag)) return;
   const bool ofMean = tag == "Ap" || tag == "Ex";
   const ScreenId target = ofMean ? ScreenId::UCL : ScreenId::PercEx;
   auto& from = *static_cast<navigation::SessionForm*>(p.shown);

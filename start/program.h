@@ -42,8 +42,6 @@ class Program final : public navigation::Desk {
 
   // navigation::Desk
   void Open(navigation::ScreenId target) override;
-  bool Has(navigation::ScreenId target) const override;
-  bool HasExtrapolation(const std::string& tag) const override;
   bool Unsaved() const override;
   void MarkSaved() override;
   void RunExtrapolation(const std::string& tag) override;

@@ -44,7 +44,6 @@ UCLForm::UCLForm(ExposureSession& record, navigation::Desk& programDesk, screen:
 }
 
 void UCLForm::Load() {
-  OfferMenus();
   MenuPrint.enabled = false;
   caption = LoadResString(2400);
   JahrCmb.text = TwoLines(session.CR, 2415, 2416);
