@@ -57,6 +57,7 @@ void PercExForm::DropStaleResults() {
   ClearResults();
   ClearSampleSize();
   ShowCaptions();
+  ReasonLbl.text = "Statistics or limits have changed since this test: press its button again.";
 }
 
 void PercExForm::BasisStatus() {

@@ -65,20 +65,15 @@ void PercExForm::ShowWilksCaptions() {
   PercExLbl1.text = LoadResString(2603) + ShownTrimmed(session.U) + LoadResString(2604);
 }
 
-// Without a confidence and a limit their rows have no caption either.
 void PercExForm::ShowTuggleCaptions() {
   CommentLbl.text = LoadResString(2711) + LoadResString(2712) + LoadResString(2713);
   for (screen::Control* control : {&PercExLbl0, &PercExTxB0, &PercExLbl1, &PercExTxB1})
     control->tip.clear();
-  PercExLbl0.text.clear();
-  PercExLbl1.text.clear();
-  if (session.U > 50) {
-    PercExLbl0.text = LoadResString(2702) + ShownTrimmed(100 - session.U) + LoadResString(2703);
-    PercExLbl1.text = LoadResString(2704) + ShownTrimmed(session.U) + LoadResString(2705) +
-                      LoadResString(2706) + ShownTrimmed(session.D) + LoadResString(2707);
-  }
-  PercExLbl2.text =
-      LoadResString(2708) + LoadResString(2709) + ShownTrimmed(session.D) + LoadResString(2710);
+  const std::string D = ShownTrimmed(session.D);
+  PercExLbl0.text = LoadResString(2702) + ShownTrimmed(100 - session.U) + LoadResString(2703);
+  PercExLbl1.text = LoadResString(2704) + ShownTrimmed(session.U) + LoadResString(2705) +
+                    LoadResString(2706) + D + LoadResString(2707);
+  PercExLbl2.text = LoadResString(2708) + LoadResString(2709) + D + LoadResString(2710);
 }
 
 void PercExForm::ShowVerdict(bool compliance, int captionIfSo, int captionIfNot) {

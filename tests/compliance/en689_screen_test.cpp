@@ -159,9 +159,11 @@ TEST_F(EN689OnTheScreen, WithoutAConfidenceNoNumberOfTheTestBeforeStandsThere) {
   Open(10, 0.3, 2, 1, 50);
   p.Click("WilksCmb");
   Press();
-  for (const screen::Control* control :
-       {&form.PercExLbl0, &form.PercExTxB0, &form.PercExLbl1, &form.PercExTxB1})
-    EXPECT_EQ(control->text, "") << control->name;
+  EXPECT_EQ(form.PercExTxB0.text, "");
+  EXPECT_EQ(form.PercExTxB1.text, "");
+  EXPECT_EQ(form.PercExLbl0.text,
+            "Confidence that less than 50% of the exposure distribution exceeds OELV");
+  EXPECT_EQ(form.PercExLbl1.text, "The 50%-tile upper tolerance limit with 70% confidence =");
 }
 
 TEST_F(EN689OnTheScreen, JustAboveHalfThePopulationIsSearchedWithoutAMessage) {
