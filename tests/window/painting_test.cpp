@@ -12,6 +12,7 @@
 
 #include "screen/picture.h"
 #include "tests/screen/recording_ports.h"
+#include "tests/window/toolkit.h"
 #include "ui/painter_surface.h"
 #include "ui/picture_file.h"
 #include "ui/picture_view.h"
@@ -23,15 +24,6 @@ using screen::Across;
 using screen::DrawingRecord;
 
 constexpr screen::Colour kRed{255, 0, 0};
-
-QApplication& Toolkit() {
-  static int count = 1;
-  static char name[] = "painting_tests";
-  static char* arguments[] = {name, nullptr};
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QApplication toolkit(count, arguments);
-  return toolkit;
-}
 
 class Painting : public testing::Test {
  protected:
