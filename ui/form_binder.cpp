@@ -105,7 +105,10 @@ void FormBinder::ConnectAction(ControlView& view) {
 
 void FormBinder::ConnectText(ControlView& view) {
   auto* edit = qobject_cast<QLineEdit*>(view.Widget());
-  connect(edit, &QLineEdit::textEdited, this, [&view](const QString& t) { view.Typed(t); });
+  connect(edit, &QLineEdit::textEdited, this, [this, &view](const QString& t) {
+    view.Typed(t);
+    if (view.Control().Change) gate_.Run(view.Control().Change);
+  });
   connect(edit, &QLineEdit::returnPressed, this, [this, &view] { Enter(view); });
 }
 
@@ -197,6 +200,19 @@ void FormBinder::Enter(ControlView& view) {
   });
 }
 
+// True when the focus is to stay.
+bool FormBinder::TabOut(Control& control, const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Tab || event.modifiers() != Qt::NoModifier || !control.TabKey)
+    return false;
+  bool stays = false;
+  Act([this, &control, &stays] {
+    control.TabKey();
+    control.touched = false;
+    stays = form_.focusWanted == &control;
+  });
+  return stays;
+}
+
 void FormBinder::Tick(const Control& ticked, bool on) {
   const QWidget* group = WidgetOf(ticked)->parentWidget();
   for (ControlView& view : views_) {
@@ -247,15 +263,17 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
   gate_.RunLate();
   focus_->Follow();
-  const int key = static_cast<QKeyEvent*>(event)->key();
+  const QKeyEvent& press = *static_cast<QKeyEvent*>(event);
+  const int key = press.key();
   if (auto* button = qobject_cast<QPushButton*>(widget);
       button && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
     button->click();
     return true;
   }
   const auto view = byWidget_.find(widget);
-  return view != byWidget_.end() && view->second->Control().kind == Kind::TextBox &&
-         StepKey(view->second->Control(), key);
+  if (view == byWidget_.end() || view->second->Control().kind != Kind::TextBox) return false;
+  Control& field = view->second->Control();
+  return TabOut(field, press) || StepKey(field, key);
 }
 
 const ControlView* FormBinder::ViewOf(const Control& control) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QObject>
 
@@ -37,7 +38,6 @@ class FormBinder : public QObject {
   screen::Control* ControlOf(const QWidget* widget) const;
 
   void Push(bool onPage);
-
   // Brings one widget up to date and paints it at once.
   void Repaint(const screen::Control& control);
 
@@ -57,6 +57,7 @@ class FormBinder : public QObject {
   void ConnectPicture(ControlView& view);
   void ConnectGrid(ControlView& view);
   void Enter(ControlView& view);
+  bool TabOut(screen::Control& control, const QKeyEvent& event);
   void Tick(const screen::Control& ticked, bool on);
   void Step(const screen::Handler& handler);
   void TriggerMenu(const screen::Control& menu);
