@@ -3,18 +3,14 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QVariant>
 
 #include <stdexcept>
 #include <utility>
 
-#include "ui/picture_view.h"
 #include "ui/text.h"
 #include "ui/up_down_pair.h"
 #include "ui/vkr_grid_view.h"
@@ -30,13 +26,6 @@ namespace {
 bool HasOwnWidget(const Control& control) {
   return control.kind != Kind::TabStrip && control.kind != Kind::CommonDialog &&
          control.kind != Kind::PictureLabel;
-}
-
-void Release(QScrollBar& bar) {
-  const QPointF place(bar.rect().center());
-  QMouseEvent release(QEvent::MouseButtonRelease, place, bar.mapToGlobal(place), Qt::LeftButton,
-                      Qt::NoButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(&bar, &release);
 }
 
 }  // namespace
@@ -141,47 +130,6 @@ void FormBinder::ConnectSteps(ControlView& view) {
   Control& control = view.Control();
   connect(pair, &UpDownPair::SteppedUp, this, [this, &control] { Step(control.StepUp); });
   connect(pair, &UpDownPair::SteppedDown, this, [this, &control] { Step(control.StepDown); });
-}
-
-// A message box in the middle of a drag takes the release of the mouse button away from the bar,
-// which would stay pressed and go on scrolling.
-void FormBinder::ConnectBar(ControlView& view) {
-  auto* bar = qobject_cast<QScrollBar*>(view.Widget());
-  connect(bar, &QScrollBar::valueChanged, this, [this, &view, bar](int value) {
-    view.Scrolled(value);
-    Act(view.Control().Change);
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    QMetaObject::invokeMethod(
-        bar, [bar] { Release(*bar); }, Qt::QueuedConnection);
-  });
-}
-
-// A picture learns its size in the middle of the window's own layout: its screen draws behind that.
-void FormBinder::ConnectPicture(ControlView& view) {
-  auto* shown = qobject_cast<PictureView*>(view.Widget());
-  auto& picture = static_cast<screen::Picture&>(view.Control());
-  shown->Attach(picture);
-  connect(shown, &PictureView::Resized, this, [this, &picture] { gate_.Later(picture.Resized); });
-  connect(shown, &PictureView::Pressed, this, [this, &picture](QPointF twips) {
-    if (picture.MouseDown) Act([&] { picture.MouseDown(twips.x(), twips.y()); });
-  });
-}
-
-// The items with a shortcut of their own for the table act on the table only.
-void FormBinder::ConnectGrid(ControlView& view) {
-  auto* table = qobject_cast<VkrGridView*>(view.Widget());
-  const QString caption = table->objectName() + QLatin1String("_Caption");
-  table->Attach(static_cast<screen::Grid&>(view.Control()), gate_,
-                page_.content->findChild<QLabel*>(caption));
-  for (const ControlView& other : views_) {
-    QAction* action = other.Action();
-    if (action && action->shortcutContext() == Qt::WidgetShortcut) {
-      table->addAction(action);
-      connect(action, &QAction::triggered, table, [table] { table->setFocus(); });
-    }
-  }
-  if (QAction* paste = page_.FindAction(QStringLiteral("MenuPaste")))
-    connect(paste, &QAction::triggered, table, &VkrGridView::PasteClipboard);
 }
 
 void FormBinder::Act(const screen::Handler& handler) {
