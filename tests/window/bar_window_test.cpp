@@ -60,7 +60,6 @@ void Send(QScrollBar& bar, QEvent::Type type, QPoint at) {
 
 // The box takes the release of the button; the bar must not stay pressed and go on scrolling.
 TEST(LimitBar, ThatMeetsAMessageIsLetGo) {
-  Toolkit();
   Desktop desktop;
   QScrollBar& bar = desktop.Bar();
   ASSERT_TRUE(bar.isVisible());

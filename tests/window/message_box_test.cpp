@@ -10,25 +10,18 @@
 #include <functional>
 #include <utility>
 
+#include "tests/window/toolkit.h"
+
 // The real message boxes, which scripts answer without showing them.
 namespace {
 
 using screen::Answer;
 using screen::Buttons;
 
-void StartToolkit() {
-  static int argc = 1;
-  static char name[] = "message_box_tests";
-  static char* argv[] = {name, nullptr};
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static const QApplication toolkit(argc, argv);
-}
-
 // What the box answers to a key; `look` sees it before.
 Answer AnswerTo(
     Qt::Key key, const screen::Message& message,
     const std::function<void(const QMessageBox&)>& look = [](const QMessageBox&) {}) {
-  StartToolkit();
   QTimer::singleShot(0, [&] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);

@@ -27,8 +27,6 @@ constexpr screen::Colour kRed{255, 0, 0};
 
 class Painting : public testing::Test {
  protected:
-  Painting() { Toolkit(); }
-
   // Paints the drawing at `factor` dots to the pixel.
   QImage Paint(int factor) const {
     const double dots = factor / 15.0;

@@ -58,8 +58,8 @@ class ProgressWindow : public testing::Test {
     s.IdentOk = s.DescOk = s.LimitsOk = true;
     application.Program().Open(navigation::ScreenId::UCL);
     application.Window().ShowState();
-    Toolkit().processEvents();
-    Toolkit().installEventFilter(&painter);
+    qApp->processEvents();
+    qApp->installEventFilter(&painter);
   }
   void ClickLand() {
     screen::Form& form = application.Program().Shown();
@@ -67,13 +67,12 @@ class ProgressWindow : public testing::Test {
         qobject_cast<QPushButton*>(application.Window().WidgetOf(form, *form.Find("LandCmb")));
     clock.start();
     button->click();
-    Toolkit().processEvents();
+    qApp->processEvents();
   }
   QWidget* Window() {
     return application.Window().findChild<QWidget*>(QStringLiteral("LandHulpForm"));
   }
 
-  QApplication& toolkit = Toolkit();
   QElapsedTimer clock;
   Painter painter{clock};
   support::RecordingPorts around;

@@ -57,7 +57,7 @@ class ComplianceWindow : public testing::Test {
     s.IdentOk = s.DescOk = s.LimitsOk = true;
     application.Program().Open(navigation::ScreenId::PercEx);
     application.Window().ShowState();
-    toolkit.processEvents();
+    qApp->processEvents();
   }
   // In milliseconds, all that follows the click included.
   double Click(const char* name) {
@@ -65,11 +65,10 @@ class ComplianceWindow : public testing::Test {
     QElapsedTimer clock;
     clock.start();
     qobject_cast<QAbstractButton*>(application.Window().WidgetOf(form, *form.Find(name)))->click();
-    toolkit.processEvents();
+    qApp->processEvents();
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
   }
 
-  QApplication& toolkit = Toolkit();
   support::RecordingPorts around;
   ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
 };
@@ -96,7 +95,7 @@ TEST_F(ComplianceWindow, TheSearchesOfTheEN689TestPaintTheirCandidates) {
         .push_back(GlobalBAS::Shown(copy, value));
   });
   Painter painter;
-  toolkit.installEventFilter(&painter);
+  qApp->installEventFilter(&painter);
   Click("TuggleCmb");
   EXPECT_GE(painter.limits.size(), limits.size());
   EXPECT_GE(painter.fractions.size(), fractions.size());
@@ -108,7 +107,7 @@ TEST_F(ComplianceWindow, TheSearchesOfTheEN689TestPaintTheirCandidates) {
 TEST_F(ComplianceWindow, AVeryLongSearchPaintsSomeOfItsCandidatesAndItsLast) {
   Show(2, 4367.7418110640838, 155.10860695839361, 183335087.35356015, 68.710356701452767, 0.01);
   Painter painter;
-  toolkit.installEventFilter(&painter);
+  qApp->installEventFilter(&painter);
   Click("TuggleCmb");
   EXPECT_GT(painter.limits.size(), 50u);
   EXPECT_LT(painter.limits.size(), 200u);
