@@ -126,11 +126,14 @@ void PercExForm::ShowResultControls(bool shown) {
   IntroFrm.visible = !shown;
 }
 
+void PercExForm::OfferPicture() { MenuVerd.enabled = !PercExTxB1.text.empty() && session.UTL > 0; }
+
 void PercExForm::TestLayout() {
   DimLbl2.text = "%";
   DimLbl3.text = session.Unit;
   CommentLbl.Hide();
   ShowResultControls(!session.TestTag.empty());
+  OfferPicture();
   if (session.TestTag.empty()) {
     UTLFrm.text = LoadResString(2320);
     ComplianceLbl.Hide();

@@ -90,6 +90,8 @@ struct PercExForm final : navigation::SessionForm {
   void ShowWording();
   void DropStaleResults();
   void ShowResultControls(bool shown);
+  // The picture shows UTL and PercEx of the record: they must be those that the boxes show.
+  void OfferPicture();
   std::string LimitText(const std::string& separator) const;
 
   // What the tests begin with: the tag, an empty layout, and the texts that are not results.

@@ -99,6 +99,7 @@ void PercExForm::LeidelCmb_Click() {
   Ur = LeidelDeviate(session.U);
   session.UTL = LeidelToleranceLimit(session.GM, session.GSD, Ur);
   PercExTxB1.text = Shown(session.UTL);
+  OfferPicture();
   Refresh();
 }
 
@@ -114,6 +115,7 @@ void PercExForm::WilksCmb_Click() {
   if (result.limit.clamp != Clamp::None)
     ReasonLbl.text = session.MsgText + "; its box still shows the limit of the test before.";
   OfferSampleSize(true);
+  OfferPicture();
   Refresh();
 }
 
@@ -129,6 +131,7 @@ void PercExForm::TuggleCmb_Click() {
   SearchFraction();
   if (const auto compliance = En689Complies(session)) ShowVerdict(*compliance, 2305, 2306);
   ReasonLbl.text = TuggleReason(coverageTooLow);
+  OfferPicture();
   Refresh();
 }
 

@@ -175,6 +175,35 @@ TEST_F(ComplianceScreen, ResultsOfOtherStatisticsOrLimitsAreGoneOnReturn) {
   }
 }
 
+// The picture shows the limit of the record, which must be that of the test on the screen.
+TEST_F(ComplianceScreen, OffersThePictureWithAResultOnly) {
+  for (const char* const button : {"LeidelCmb", "WilksCmb", "TuggleCmb"}) {
+    SCOPED_TRACE(button);
+    Open(10, 0.3, 2, 1);
+    p.Click(button);
+    EXPECT_TRUE(form.MenuVerd.enabled);
+    p.Tab("descript");
+    p.Tab("extrapolation");
+    EXPECT_TRUE(form.MenuVerd.enabled);
+    p.Record().GM = 0.4;
+    Open();
+    EXPECT_TRUE(form.MenuVerd.visible);
+    EXPECT_FALSE(form.MenuVerd.enabled);
+    p.Click(button);
+    EXPECT_TRUE(form.MenuVerd.enabled);
+  }
+}
+
+// Without a coverage above 50 % there is no limit but that of the test before.
+TEST_F(ComplianceScreen, OffersNoPictureOfAnotherTestsLimit) {
+  Open(10, 0.3, 2, 1, 45);
+  p.Click("LeidelCmb");
+  EXPECT_TRUE(form.MenuVerd.enabled);
+  p.Click("TuggleCmb");
+  EXPECT_EQ(form.PercExTxB1.text, "");
+  EXPECT_FALSE(form.MenuVerd.enabled);
+}
+
 TEST_F(ComplianceScreen, TheSmallestSampleOfOtherStatisticsIsGoneOnReturn) {
   Open();
   p.Click("WilksCmb");
