@@ -11,6 +11,8 @@
 #include <QSignalBlocker>
 #include <QVariant>
 
+#include <algorithm>
+
 #include "ui/picture_view.h"
 #include "ui/text.h"
 #include "ui/vkr_grid_view.h"
@@ -103,7 +105,9 @@ void ControlView::PushText() {
     const QVariant useMnemonic = label->property("UseMnemonic");
     label->setText(LabelText(shown_->text, !useMnemonic.isValid() || useMnemonic.toBool()));
   } else if (auto* edit = qobject_cast<QLineEdit*>(widget_)) {
-    if (edit->text() != text) edit->setText(text);
+    if (edit->text() == text) return;
+    edit->setText(text);
+    if (shown_->locked) ShowWhole(*edit);
   } else if (auto* box = qobject_cast<QComboBox*>(widget_)) {
     if (box->currentText() != text) box->setEditText(text);
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
@@ -113,6 +117,17 @@ void ControlView::PushText() {
   } else if (auto* grid = qobject_cast<VkrGridView*>(widget_)) {
     grid->SetCaption(text);
   }
+}
+
+// A number that has lost one of its ends is another number: where it is too long for the box that
+// is designed for it, the box grows meanwhile. Other texts show their beginning.
+void ControlView::ShowWhole(QLineEdit& box) {
+  constexpr int kEdges = 16;  // frame and margins of both sides
+  box.setCursorPosition(0);
+  if (!designWidth_ && box.minimumWidth() == box.maximumWidth()) designWidth_ = box.minimumWidth();
+  if (!designWidth_) return;
+  const int needed = box.fontMetrics().horizontalAdvance(box.text()) + kEdges;
+  box.setFixedWidth(std::max(*designWidth_, needed));
 }
 
 void ControlView::PushItems() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QWidget>
 
@@ -35,6 +36,7 @@ class ControlView {
  private:
   void PushWidget(const screen::ControlState& old, bool first);
   void PushText();
+  void ShowWhole(QLineEdit& box);
   void PushItems();
   void PushTicked();
   void PushPlace();
@@ -50,6 +52,7 @@ class ControlView {
   QAction* action_;
   std::optional<screen::ControlState> shown_;
   int gridRevision_ = -1;
+  std::optional<int> designWidth_;  // of a box for numbers
 };
 
 }  // namespace ui
