@@ -122,7 +122,7 @@ void ControlView::PushText() {
 // A number that has lost one of its ends is another number: where it is too long for the box that
 // is designed for it, the box grows meanwhile. Other texts show their beginning.
 void ControlView::ShowWhole(QLineEdit& box) {
-  constexpr int kEdges = 16;  // frame and margins of both sides
+  constexpr int kEdges = 10;  // frame and margins of both sides
   box.setCursorPosition(0);
   if (!designWidth_ && box.minimumWidth() == box.maximumWidth()) designWidth_ = box.minimumWidth();
   if (!designWidth_) return;

@@ -43,7 +43,7 @@ class ResultBoxes : public testing::Test {
   }
   // The narrowest that a box with this text may be.
   static int Needed(const QLineEdit& box) {
-    return box.fontMetrics().horizontalAdvance(box.text()) + 4;
+    return box.fontMetrics().horizontalAdvance(box.text()) + 8;
   }
   // How many boxes of the shown screen hold a text, all of them wide enough for it.
   int CountWhole() {
