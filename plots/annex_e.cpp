@@ -207,8 +207,8 @@ void Annex::DrawReadOffs(const analysis::Regression& fit) {
 }
 
 void Annex::PutTexts(const analysis::Regression& fit) {
-  const double row = RowHeight(StyleOf(8.5, Across::Left, Down::Bottom));
-  PutRegressionTexts(labels_, surface_, data_, fit, {f_.XasEinde + kBeside, f_.YasBot - 4 * row});
+  PutRegressionTexts(labels_, surface_, data_, fit,
+                     AboveAxisTitle(f_, surface_.ScaleWidth(), surface_.ScaleHeight()));
 }
 
 }  // namespace

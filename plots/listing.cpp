@@ -1,7 +1,7 @@
 #include "plots/listing.h"
 
 #include "base/fault.h"
-#include "plots/regression_line.h"
+#include "plots/annex_e.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
 
@@ -21,23 +21,20 @@ class Listing {
   std::string text_;
 };
 
-void AddAxes(Listing& list, const Paper& paper, double R1, const LineEnds& line) {
-  const Frame& f = paper.Edges();
-  const screen::Point low = paper.At(paper.Lowest(), -R1);
-  const screen::Point high = paper.At(paper.Highest(), R1);
-  list.Add("XasStart ", f.XasStart);
-  list.Add("XasLinks C(1)", low.x);
-  list.Add("ScaleX ", paper.ScaleWidth());
-  list.Add("Regressie XasLinks ", line.lower.x);
-  list.Add("Regressie XasRechts", line.upper.x);
-  list.Add("XasEinde C(M)", high.x);
-  list.Add("YasBot ", f.YasBot);
-  list.Add("YasLaag C(1)", low.y);
-  list.Add("ScaleY ", paper.ScaleHeight());
-  list.Add("Regressie YasHoog", line.upper.y);
-  list.Add("Regressie YasLaag", line.lower.y);
-  list.Add("YasHoog C(M)", high.y);
-  list.Add("YasTop ", f.YasTop);
+void AddAxes(Listing& list, const ListedPlaces& at) {
+  list.Add("XasStart ", at.frame.XasStart);
+  list.Add("XasLinks C(1)", at.lowest.x);
+  list.Add("ScaleX ", at.width);
+  list.Add("Regressie XasLinks ", at.line.lower.x);
+  list.Add("Regressie XasRechts", at.line.upper.x);
+  list.Add("XasEinde C(M)", at.highest.x);
+  list.Add("YasBot ", at.frame.YasBot);
+  list.Add("YasLaag C(1)", at.lowest.y);
+  list.Add("ScaleY ", at.height);
+  list.Add("Regressie YasHoog", at.line.upper.y);
+  list.Add("Regressie YasLaag", at.line.lower.y);
+  list.Add("YasHoog C(M)", at.highest.y);
+  list.Add("YasTop ", at.frame.YasTop);
 }
 
 void AddEnd(Listing& list, const char* name, const std::string& Transformation, double y) {
@@ -61,18 +58,47 @@ void AddSample(Listing& list, const ExposureSession& s) {
 
 }  // namespace
 
-std::string DevelopmentListing(const Paper& paper, const PlotData& data,
-                               const analysis::Regression& fit, const LimitMark& LOQ,
-                               const LimitMark& URR) {
+ListedPlaces PlacesOf(const Paper& paper, const PlotData& data, const analysis::Regression& fit,
+                      const LimitMark& LOQ, const LimitMark& URR) {
+  const double R1 = data.RankitTable[1];
+  return {paper.Edges(),
+          paper.ScaleWidth(),
+          paper.ScaleHeight(),
+          paper.At(paper.Lowest(), -R1),
+          paper.At(paper.Highest(), R1),
+          LineOf(paper, fit).value_or(LineEnds{}),
+          LOQ,
+          URR};
+}
+
+ListedPlaces PlacesOf(const screen::DrawSurface& surface, const PlotData& data,
+                      const analysis::Regression& fit) {
+  const AnnexPaper paper(surface, data);
+  const int M = SampleCount(data.s);
+  ListedPlaces at;
+  at.frame = paper.Edges();
+  at.width = surface.ScaleWidth();
+  at.height = surface.ScaleHeight();
+  at.lowest = {paper.X(paper.Transformed(1)), paper.Y(paper.Position(1))};
+  at.highest = {paper.X(paper.Transformed(M)), paper.Y(paper.Position(M))};
+  if (!fit.line) return at;
+  const AnnexLine line = AnnexLineOf(paper, data, fit);
+  at.line = {line.lower, line.upper};
+  return at;
+}
+
+std::string DevelopmentListing(const ListedPlaces& places, const PlotData& data,
+                               const analysis::Regression& fit) {
+  const auto M = static_cast<std::size_t>(SampleCount(data.s));
   Listing list(data.s.CR);
   list.Add("Transformation ", data.Transformation);
-  list.Add("CTransf(1) ", paper.Lowest());
-  list.Add("CTransf(M) ", paper.Highest());
-  AddAxes(list, paper, data.RankitTable[1], fit.line ? RegressionEnds(paper, fit) : LineEnds{});
+  list.Add("CTransf(1) ", data.s.LnC[1]);
+  list.Add("CTransf(M) ", data.s.LnC[M]);
+  AddAxes(list, places);
   list.Add("DetecOnderGrens ", data.s.LOQ);
   list.Add("DetecBovenGrens ", data.s.URR);
-  list.Add("x-as positie LOQ lijn ", LOQ.place);
-  list.Add("x-as positie URR lijn ", URR.place);
+  list.Add("x-as positie LOQ lijn ", places.LOQ.place);
+  list.Add("x-as positie URR lijn ", places.URR.place);
   if (fit.line) {
     AddEnd(list, "C_begin_regressie_lijn  ", data.Transformation, fit.yLow);
     AddEnd(list, "C_einde_regressie_lijn  ", data.Transformation, fit.yHigh);
@@ -81,11 +107,11 @@ std::string DevelopmentListing(const Paper& paper, const PlotData& data,
   return list.Text();
 }
 
-void PutListing(Labels& labels, const Paper& paper, const std::string& listing) {
-  const Frame& f = paper.Edges();
+void PutListing(Labels& labels, const ListedPlaces& places, const std::string& listing) {
   const screen::TextStyle style =
-      Style(paper.ScaleWidth(), paper.ScaleHeight(), 6, screen::Across::Left, screen::Down::Top);
-  labels.push_back({"LblOntwikkel", listing, {f.XasStart + 120, f.YasTop}, style});
+      Style(places.width, places.height, 6, screen::Across::Left, screen::Down::Top);
+  labels.push_back(
+      {"LblOntwikkel", listing, {places.frame.XasStart + 120, places.frame.YasTop}, style});
 }
 
 }  // namespace PlotWBas

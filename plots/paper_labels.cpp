@@ -15,8 +15,10 @@ using screen::Across;
 using screen::Down;
 using screen::Point;
 
-constexpr double kBeside = 150;  // from the frame to what stands beside its ticks
-constexpr double kMargin = 150;  // from the edge of the surface
+constexpr double kBeside = 150;     // from the frame to what stands beside its ticks
+constexpr double kBesideBar = 340;  // the same where a scroll bar may lie above the frame
+constexpr double kTitleFoot = 60;   // from the frame's foot to that of the title of its axis
+constexpr double kMargin = 150;     // from the edge of the surface
 constexpr std::array<std::string_view, 4> kOfOutcomes = {"LblC1", "LblMedian", "LblCm",
                                                          "LblCBegin"};
 
@@ -56,13 +58,15 @@ void Writer::PutTitles() {
   const screen::TextStyle vertical = StyleOf(8.5, Across::Right, Down::Bottom);
   // The label of the highest mark of the axis lies between.
   Put("LblYasTop", paper_.OutcomesUp() ? outcomes : scores,
-      {f_.XasStart - kBeside, f_.YasTop - 1.2 * RowHeight(vertical)}, vertical);
+      {f_.XasStart - (paper_.OutcomesUp() ? kBeside : kBesideBar),
+       f_.YasTop - 1.2 * RowHeight(vertical)},
+      vertical);
   // In the corner under the axis, or above its end, as the number of lines allows.
   if (paper_.OutcomesUp())
     Put("LblXasEinde", scores, {paper_.ScaleWidth() - kMargin, f_.YasBot + kBeside},
         StyleOf(8.5, Across::Right, Down::Top));
   else
-    Put("LblXasEinde", outcomes, {f_.XasEinde + kBeside, f_.YasBot + 60},
+    Put("LblXasEinde", outcomes, {f_.XasEinde + kBeside, f_.YasBot + kTitleFoot},
         StyleOf(8.5, Across::Left, Down::Bottom));
 }
 
@@ -171,12 +175,15 @@ void ArrangeOutcomeLabels(Labels& labels, const Paper& paper) {
     if (OfOutcome(label)) (up ? label.at.y : label.at.x) = *centre++;
 }
 
+Point AboveAxisTitle(const Frame& frame, double width, double height) {
+  const double row = RowHeight(Style(width, height, 8.5, Across::Left, Down::Bottom));
+  return {frame.XasEinde + kBeside, frame.YasBot + kTitleFoot - 4.6 * row};
+}
+
 Point RightColumn(const Paper& paper) {
   const Frame& f = paper.Edges();
-  const double row =
-      RowHeight(Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, Across::Left, Down::Bottom));
-  // Above the title of the axis, which may stand there.
-  return {f.XasEinde + kBeside, paper.OutcomesUp() ? f.YasBot + 120 : f.YasBot - 4 * row};
+  if (!paper.OutcomesUp()) return AboveAxisTitle(f, paper.ScaleWidth(), paper.ScaleHeight());
+  return {f.XasEinde + kBeside, f.YasBot + 120};
 }
 
 }  // namespace PlotWBas

@@ -21,6 +21,9 @@ void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data);
 // Moves the labels of outcomes on their axis apart. Once no label will be added any more.
 void ArrangeOutcomeLabels(Labels& labels, const Paper& paper);
 
+// The foot of what stands to the right of the plot above the title of an axis of outcomes.
+screen::Point AboveAxisTitle(const Frame& frame, double width, double height);
+
 // The foot of what stands to the right of the plot above the title of the horizontal axis, and how
 // far right of the frame it stands.
 screen::Point RightColumn(const Paper& paper);

@@ -5,7 +5,6 @@
 #include "base/fault.h"
 #include "catalog/catalog.h"
 #include "plots/annex_e.h"
-#include "plots/listing.h"
 #include "plots/paper_labels.h"
 #include "plots/regression_line.h"
 
@@ -97,14 +96,21 @@ void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
   DrawLimits(surface, labels, paper, data, room, LOQ, URR);
   FollowLimits(LOQ, URR);
   ArrangeOutcomeLabels(labels, paper);
-  if (session.DeveloperMode && MenuDevelop.ticked)
-    PutListing(labels, paper, DevelopmentListing(paper, data, fit, LOQ, URR));
+  List(labels, PlacesOf(paper, data, fit, LOQ, URR), fit);
 }
 
 void PlotForm::DrawAnnex(PlotWBas::Labels& labels) {
   const PlotWBas::PlotData data = Data();
   PlotWBas::DrawAnnexE(PicPlot.drawing, labels, data);
-  PlotWBas::DrawAnnexRegression(PicPlot.drawing, labels, data, Fit());
+  const analysis::Regression fit = Fit();
+  PlotWBas::DrawAnnexRegression(PicPlot.drawing, labels, data, fit);
+  List(labels, PlotWBas::PlacesOf(PicPlot.drawing, data, fit), fit);
+}
+
+void PlotForm::List(PlotWBas::Labels& labels, const PlotWBas::ListedPlaces& places,
+                    const analysis::Regression& fit) {
+  if (!session.DeveloperMode || !MenuDevelop.ticked) return;
+  PlotWBas::PutListing(labels, places, PlotWBas::DevelopmentListing(places, Data(), fit));
 }
 
 // The message about outcomes that do not differ outlives the regression's own texts.

@@ -7,6 +7,7 @@
 #include "analysis/regression.h"
 #include "navigation/session_form.h"
 #include "plots/limit_lines.h"
+#include "plots/listing.h"
 #include "plots/paper.h"
 #include "screen/picture.h"
 
@@ -109,6 +110,9 @@ struct PlotForm final : navigation::SessionForm {
   void DrawCumulative(PlotWBas::Labels& labels);
   void DrawAnnex(PlotWBas::Labels& labels);
   analysis::Regression Fit();
+  // The inner values, on demand.
+  void List(PlotWBas::Labels& labels, const PlotWBas::ListedPlaces& places,
+            const analysis::Regression& fit);
   void ShowLabels(const PlotWBas::Labels& labels);
 
   void OpenPicker(screen::Control& upright, screen::Control& across);

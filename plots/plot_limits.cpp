@@ -7,6 +7,7 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "plots/plot_form.h"
+#include "plots/regression_line.h"
 
 namespace plots {
 namespace {
@@ -117,16 +118,18 @@ void PlotForm::HideBars() {
   }
 }
 
-// With room for the arrows of a bar, so that its slide runs along the axis.
+// With room for the arrows of a bar, so that its slide runs along the axis. Those across lie
+// between the headline and the outcome at the end of the line.
 void PlotForm::PlaceBars() {
   constexpr double kArrow = 280;
-  constexpr double kThick = 260;
   const double W = PicPlot.drawing.ScaleWidth();
   const double H = PicPlot.drawing.ScaleHeight();
+  const double thick = 260 * PlotWBas::TextScale(W, H);
+  const double above = PlotWBas::UpperEndTop(W, H) - 15 - thick;
   for (screen::Control* bar : {&VScLowLimit, &VScUplimit})
-    bar->place = {0.02 * W, 0.2 * H - kArrow, kThick, 0.7 * H + 2 * kArrow};
+    bar->place = {0.02 * W, 0.2 * H - kArrow, thick, 0.7 * H + 2 * kArrow};
   for (screen::Control* bar : {&HScLowLimit, &HScUplimit})
-    bar->place = {0.2 * W - kArrow, 0.15 * H, 0.6 * W + 2 * kArrow, kThick};
+    bar->place = {0.2 * W - kArrow, above, 0.6 * W + 2 * kArrow, thick};
   for (screen::Control* bar : {&VScLowLimit, &VScUplimit, &HScLowLimit, &HScUplimit}) {
     const bool fits = !AnnexE() && Upright() == (bar == &VScLowLimit || bar == &VScUplimit);
     if (fits) continue;

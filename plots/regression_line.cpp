@@ -21,6 +21,7 @@ using screen::Point;
 constexpr screen::Colour kLine{190, 0, 0};
 constexpr double kPen = 22;
 constexpr double kCorner = 1000;
+constexpr double kAbove = 120;  // from the frame to the label of the line's upper end
 
 // Up to which value of the transformed scale, from which, an outcome is shown.
 struct Guard {
@@ -70,7 +71,7 @@ void PutUpperEnd(Labels& labels, const Paper& paper, const std::string& text, do
   const double place = paper.OutcomePlace(yHigh);
   const Point at =
       up ? Point{f.XasEinde + 150, std::max(f.YasTop - row, std::min(place, texts - row))}
-         : Point{std::min(place, f.XasEinde), f.YasTop - 120};
+         : Point{std::min(place, f.XasEinde), f.YasTop - kAbove};
   labels.push_back({"LblCEinde", text, at, style});
 }
 
@@ -124,6 +125,10 @@ LineEnds RegressionEnds(const Paper& paper, const analysis::Regression& fit) {
 std::optional<LineEnds> LineOf(const Paper& paper, const analysis::Regression& fit) {
   if (!fit.line) return std::nullopt;
   return RegressionEnds(paper, fit);
+}
+
+double UpperEndTop(double width, double height) {
+  return 0.2 * height - kAbove - RowHeight(Style(width, height, 8.5, Across::Centre, Down::Bottom));
 }
 
 std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y) {

@@ -95,6 +95,18 @@ void ExpectReadable(const screen::DrawingRecord& drawing) {
   }
 }
 
+// No scroll bar hides a text.
+void ExpectClearOfBars(const plots::PlotForm& form) {
+  for (const screen::Control* bar :
+       {&form.VScLowLimit, &form.VScUplimit, &form.HScLowLimit, &form.HScUplimit}) {
+    if (!bar->visible) continue;
+    const screen::Place& at = bar->place.value();
+    const Box box{at.left, at.top, at.left + at.width, at.top + at.height};
+    for (const DrawnText& text : Look(form.PicPlot.drawing).texts)
+      EXPECT_FALSE(Overlap(box, BoxOf(text))) << bar->name << " on " << text.label;
+  }
+}
+
 constexpr std::array<Point, 3> kSizes = {Point{11760, 7770}, Point{18960, 9375}, Point{9000, 6300}};
 
 class PlotReadable : public testing::TestWithParam<const char*> {
@@ -113,6 +125,7 @@ class PlotReadable : public testing::TestWithParam<const char*> {
         p.Plot().PicPlot.drawing.SetScale(size.x, size.y);
         p.Click("MenuRedraw");
         ExpectReadable(p.Plot().PicPlot.drawing);
+        ExpectClearOfBars(p.Plot());
       }
     }
   }
@@ -142,6 +155,19 @@ TEST_P(PlotReadable, OnTheInversePlot) {
   p.Click("MenuLog");
   p.Click("MenuUpLim");
   p.Bar("HScUplimit", 85);
+  LookAtAll();
+}
+
+TEST_P(PlotReadable, OnThePaperOfAnnexE) {
+  p.Click("MenuDevMode");
+  p.Click("MenuAnnexEPlot");
+  LookAtAll();
+  p.Click("memuVALKOplot");
+  p.Click("MenuLog");
+  p.Click("MenuLowLim");
+  p.Bar("VScLowLimit", 75);
+  p.Click("MenuAnnexEPlot");
+  EXPECT_EQ(p.Record().RegressionLabel, "Single censored");
   LookAtAll();
 }
 

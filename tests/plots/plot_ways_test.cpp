@@ -1,6 +1,9 @@
 // The ways to and from the plot screen, its kinds, its picture.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "session/global_bas.h"
 #include "tests/plots/plot_screen.h"
 
 namespace {
@@ -208,6 +211,28 @@ TEST_F(PlotWays, ListTheInnerValuesOnDemand) {
                            "Sample x ",
                            "Sample s "})
     EXPECT_NE(listing.find(name), std::string::npos) << name << " in\n" << listing;
+  p.Click("MenuDevelop");
+  EXPECT_FALSE(p.At("LblOntwikkel").visible);
+}
+
+TEST_F(PlotWays, ListTheInnerValuesOfThePaperOfAnnexEToo) {
+  p.See(kTen);
+  p.Click("MenuDevMode");
+  p.Click("MenuDevelop");
+  p.Click("MenuAnnexEPlot");
+  ASSERT_TRUE(p.At("LblOntwikkel").visible);
+  // 0.21 on an axis from 0.1 to 10, at (1 - 3/8) / 10.25 of a scale from 1 to 99 %.
+  const screen::Picture& picture = p.Plot().PicPlot;
+  const double x = (0.2 + 0.6 * std::log10(2.1) / 2) * picture.drawing.ScaleWidth();
+  const double y = (0.2 + 0.35 + 0.35 * 1.546635 / 2.326348) * picture.drawing.ScaleHeight();
+  const std::string& listing = p.Text("LblOntwikkel");
+  const auto value = [&](const std::string& name) {
+    const std::size_t at = listing.find(name) + name.size();
+    return GlobalBAS::Val(listing.substr(at, listing.find('\r', at) - at));
+  };
+  EXPECT_NEAR(value("XasLinks C(1)"), x, 1e-6 * x) << listing;
+  EXPECT_NEAR(value("YasLaag C(1)"), y, 1e-2) << listing;
+  EXPECT_NE(value("Regressie XasLinks "), 0);
   p.Click("MenuDevelop");
   EXPECT_FALSE(p.At("LblOntwikkel").visible);
 }
