@@ -169,11 +169,14 @@ void UCLForm::LandCmb_Click() {
   }
 }
 
+// A refusal leaves the boxes empty: a number of Jahr's must not stand under Land's name.
 void UCLForm::Land() {
   session.TestTag = "Ex";
   Methodlbl.text = LoadResString(2431);
   WindnrLbl.text = "24a";
   UCLResults();
+  UCLTxB.text.clear();
+  PercExTxB.text.clear();
   session.MsgText = LandRefusal(session.M, session.D);
   if (!session.MsgText.empty()) {
     Complain(session.MsgText, session.MsgTitle);
@@ -193,8 +196,6 @@ void UCLForm::Land() {
 // Every limit that the search computes is shown, also those of its trial confidences.
 void UCLForm::SearchLand() {
   const Busy busy(*this);
-  UCLTxB.text.clear();
-  PercExTxB.text.clear();
   Refresh();
   LandWatch watch;
   watch.Report = [this](const LandWatch& now, LandSign sign) {

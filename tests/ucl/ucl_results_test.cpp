@@ -127,6 +127,18 @@ TEST_F(MeanScreen, LandRefusesBySampleSizeAndByConfidenceWhichOutweighsIt) {
   EXPECT_EQ(p.box.shown.size(), 5u);
 }
 
+TEST_F(MeanScreen, ARefusalLeavesNoNumberOfJahrUnderTheNameOfLand) {
+  Take("2", "1", "2.7", 5, 95);
+  Open();
+  p.Click("JahrCmb");
+  ASSERT_NE(form.UCLTxB.text, "");
+  p.Click("MenuLand");
+  EXPECT_THAT(form.Methodlbl.text, testing::HasSubstr("Land (1975)"));
+  EXPECT_EQ(form.UCLTxB.text, "");
+  EXPECT_EQ(form.PercExTxB.text, "");
+  ExpectResultLayout(true);
+}
+
 TEST_F(MeanScreen, AFaultInTheSearchLeavesEverythingAsItWas) {
   Open();
   p.Click("JahrCmb");
