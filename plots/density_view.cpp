@@ -1,5 +1,7 @@
 #include "plots/density_view.h"
 
+#include <cmath>
+
 #include "base/fault.h"
 #include "catalog/catalog.h"
 #include "session/global_bas.h"
@@ -102,9 +104,10 @@ DensityExtent ExtentOf(const ExposureSession& s) {
   const double H = s.OELV.value_or(0);
   const bool byLimit = 0.5 * E < H && H <= 2 * E;
   const double ratio = Divide(byLimit ? H : E, s.GM);
-  DensityExtent extent{Power(ratio, -6), 2 * ratio, tests ? "2 * UTL" : "2 * UCL"};
+  // Not checked: a power beyond the numbers is no place to start from, like one behind the end.
+  DensityExtent extent{std::pow(ratio, -6), 2 * ratio, tests ? "2 * UTL" : "2 * UCL"};
   if (byLimit) extent.endText = "2 * Limit H";
-  if (!(extent.xStart < extent.xEnd)) extent.xStart = population.xStart;
+  if (!(extent.xStart > 0 && extent.xStart < extent.xEnd)) extent.xStart = population.xStart;
   return extent;
 }
 

@@ -113,6 +113,15 @@ TEST(DensityExtents, AStartBehindTheEndIsThatOfTheDataScreens) {
   ExpectExtent(s, std::pow(3, -6), 1, "2 * Limit H");
 }
 
+// So far away that the sixth power is nothing or beyond all numbers.
+TEST(DensityExtents, AStartBeyondTheNumbersIsThatOfTheDataScreens) {
+  ExposureSession s = CalledFrom(kTests);
+  s.UTL = 2E60;
+  ExpectExtent(s, std::pow(3, -6), 2E60, "2 * UTL");
+  s.UTL = 2E-60;
+  ExpectExtent(s, std::pow(3, -6), 2E-60, "2 * UTL");
+}
+
 TEST(DensityMarks, FromTheDescriptiveScreenAreGMAndGSDOnly) {
   const DensityData data = DensityOf(CalledFrom(84), {});
   EXPECT_THAT(Marks(data), testing::ElementsAre("GMLbl", "GSDPercLbl"));
