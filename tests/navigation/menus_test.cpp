@@ -85,8 +85,12 @@ TEST(Menus, LeadToEveryTestAndPicture) {
     ProgramSession user;
     OpenOn(user, key);
     for (const char* menu : {"MenuLeid", "MenuWilks", "MenuTugg", "MenuJahr", "MenuLand", "MenuAM",
-                             "MenuComp", "MenuVerd", "MenuPlot"})
+                             "MenuComp", "MenuPlot"})
       EXPECT_TRUE(user.At(menu).enabled) << menu;
+    // The picture of a test comes with its result.
+    if (user.At("MenuVerd").visible) {
+      EXPECT_TRUE(user.At("MenuVerd").enabled);
+    }
   }
 }
 
