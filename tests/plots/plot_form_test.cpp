@@ -7,6 +7,7 @@
 #include <map>
 
 #include "analysis/transformations.h"
+#include "session/global_bas.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/plots/plot_screen.h"
 #include "tests/stats/table_check.h"
@@ -152,6 +153,16 @@ std::string NamesOfEstimates(const std::string& text) {
   return geometric ? "GMg=;GSDg=" : linear ? "x=;s=" : "";
 }
 
+// The two lines of the estimates that the label must show.
+std::string ShownEstimates(const Row& row, const ExposureSession& s) {
+  const auto line = [&](const char* name, const char* column) {
+    return name + GlobalBAS::Shown(s, row.Number(column)) + "\r";
+  };
+  if (row.Text("estimates").empty()) return {};
+  return row.Text("GMg").empty() ? line("\rx=", "a") + line("s=", "b")
+                                 : line("\rGMg=", "GMg") + line("GSDg=", "GSDg");
+}
+
 // The tests and estimates of the reference series, as the labels show them.
 TEST_F(PlotScreen, ShowsFitAndEstimatesOfTheReferenceTable) {
   const auto digits = TableDigits();
@@ -184,6 +195,8 @@ TEST_F(PlotScreen, ShowsFitAndEstimatesOfTheReferenceTable) {
               s.NInRange < 3 ? "Shapiro's test\rGoodness-of-fit\rprobability: \rnot possible\r"
                              : fit_data::Unescaped(row.Text("text")));
     EXPECT_EQ(NamesOfEstimates(p.Text("LblDescrip")), row.Text("estimates"));
+    EXPECT_NE(p.Text("LblDescrip").find(ShownEstimates(row, s)), std::string::npos)
+        << p.Text("LblDescrip") << " lacks " << ShownEstimates(row, s);
     table::Expect(row, {"series", "menu"}, "GM", 1e-12, [&] { return s.GM; });
     table::Expect(row, {"series", "menu"}, "GSD", 1e-12, [&] { return s.GSD; });
     ++rows;
