@@ -34,9 +34,7 @@ DescriptForm::DescriptForm(ExposureSession& record, navigation::Desk& programDes
     if (control->kind == screen::Kind::TextBox) control->locked = true;
 }
 
-void DescriptForm::Load() {
-  DetecFrame.Hide();
-}
+void DescriptForm::Load() { DetecFrame.Hide(); }
 
 void DescriptForm::BasisDescStat() {
   RebuildStrip();

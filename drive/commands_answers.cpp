@@ -143,7 +143,6 @@ void DumpTabs(Play& play, const screen::TabStrip& strip) {
   for (std::size_t i = 0; i < strip.tabs.size(); ++i) {
     const screen::Tab& tab = strip.tabs[i];
     std::string line = "tab " + tab.key + " = " + Quoted(tab.caption);
-    if (!shown.isTabEnabled(static_cast<int>(i))) line += " disabled";
     if (shown.currentIndex() == static_cast<int>(i)) line += " selected";
     play.Say(line);
   }

@@ -104,7 +104,6 @@ struct Tab {
   std::string key;
   std::string caption;
   std::string tip;
-  bool enabled = true;
   bool operator==(const Tab&) const = default;
 };
 

@@ -45,7 +45,6 @@ void StripView::Fill(const screen::TabStrip& strip) {
     setTabText(i, Shown(tab.caption));
     setTabToolTip(i, TipText(tab.tip));
     setTabData(i, Shown(tab.key));
-    setTabEnabled(i, tab.enabled);
   }
   shown_ = strip.tabs;
 }

@@ -205,7 +205,6 @@ TEST_F(LimitsScreenOfASeries, HasATabForItsOutcomesAndTheirPlot) {
   const screen::Tab& tests = p.Shown().strip->tabs[5];
   EXPECT_EQ(tests.caption, "Statistical tests (Comparison with OELV)");
   EXPECT_EQ(tests.tip, "The upper tolerance limit of the distribution");
-  EXPECT_TRUE(tests.enabled);
 }
 
 TEST_F(LimitsScreenOfASeries, OfTwoHasNoPlot) {

@@ -7,12 +7,9 @@ namespace {
 
 using support::ProgramSession;
 
-const char* const kScreens[][2] = {{"basis", "BasisForm"},
-                                   {"raw", "DataCtrlForm"},
-                                   {"grenzen", "GrenzenForm"},
-                                   {"descript", "DescriptForm"},
-                                   {"extrapolation", "PercExForm"},
-                                   {"mean", "UCLForm"}};
+const char* const kScreens[][2] = {{"basis", "BasisForm"},          {"raw", "DataCtrlForm"},
+                                   {"grenzen", "GrenzenForm"},      {"descript", "DescriptForm"},
+                                   {"extrapolation", "PercExForm"}, {"mean", "UCLForm"}};
 
 void OpenOn(ProgramSession& user, const std::string& key) {
   user.OpenSeries({1, 2, 4, 8});

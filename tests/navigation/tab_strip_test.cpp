@@ -77,13 +77,6 @@ TEST(TabStrip, EachTabCarriesItsCaptionAndItsTip) {
   EXPECT_EQ(user.Shown().strip->selected, "raw");
 }
 
-TEST(TabStrip, EachTabOfAWholeSeriesCanBeClicked) {
-  ProgramSession user;
-  user.OpenSeries({1, 2, 4, 8});
-  user.Tab("basis");
-  for (const screen::Tab& tab : user.Shown().strip->tabs) EXPECT_TRUE(tab.enabled) << tab.key;
-}
-
 TEST(TabClick, LeadsToItsScreenWhichTakesTheCurrentTab) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4, 8});

@@ -120,8 +120,8 @@ bool ProgramSession::Tab(const std::string& key) {
   if (!strip->visible) return false;
   for (const screen::Tab& tab : strip->tabs) {
     if (tab.key != key) continue;
-    if (tab.enabled) screen::Guarded(ports, [&] { strip->Choose(key); });
-    return tab.enabled;
+    screen::Guarded(ports, [&] { strip->Choose(key); });
+    return true;
   }
   return false;
 }

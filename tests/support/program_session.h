@@ -2,7 +2,6 @@
 
 #include <deque>
 #include <functional>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -108,7 +107,7 @@ class ProgramSession : public RecordingPorts {
   void Pick(const std::string& name, const std::string& text);
   void Up(const std::string& name);
   void Down(const std::string& name);
-  // A click on the tab with that key; false when the strip does not show it or it is disabled.
+  // A click on the tab with that key; false when the strip does not show it.
   bool Tab(const std::string& key);
   // Answers the file dialog with `path` and opens it from the start screen.
   void OpenFile(const std::string& path);
