@@ -4,7 +4,6 @@
 
 namespace {
 
-using PlotWBas::Label;
 using PlotWBas::Labels;
 using PlotWBas::SpreadOut;
 using Centres = std::vector<double>;
