@@ -8,16 +8,16 @@
 #include <stdexcept>
 
 #include "ui/text.h"
-#include "ui_basis_form.h"
-#include "ui_data_ctrl_form.h"
-#include "ui_descript_form.h"
-#include "ui_grenzen_form.h"
-#include "ui_land_hulp_form.h"
-#include "ui_perc_ex_form.h"
-#include "ui_plot_form.h"
-#include "ui_two_samp_comp_form.h"
-#include "ui_ucl_form.h"
-#include "ui_verdeling_form.h"
+#include "ui/ui_basis_form.h"
+#include "ui/ui_data_ctrl_form.h"
+#include "ui/ui_descript_form.h"
+#include "ui/ui_grenzen_form.h"
+#include "ui/ui_land_hulp_form.h"
+#include "ui/ui_perc_ex_form.h"
+#include "ui/ui_plot_form.h"
+#include "ui/ui_two_samp_comp_form.h"
+#include "ui/ui_ucl_form.h"
+#include "ui/ui_verdeling_form.h"
 
 namespace ui {
 namespace {
