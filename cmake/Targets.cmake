@@ -2,7 +2,7 @@
 # the folders that it may use.
 
 add_library(valkorin_options INTERFACE)
-target_include_directories(valkorin_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_include_directories(valkorin_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
 target_compile_options(valkorin_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Werror
   # GCC 12 gives this warning for every "text" + std::string when it optimises (its bug 105651).

@@ -17,7 +17,7 @@ std::string Where(const SourceFile& file, std::size_t line) {
 }
 
 bool HasWindows(const SourceFile& file) {
-  for (const char* folder : {"ui/", "drive/", "bench/", "tests/window/"})
+  for (const char* folder : {"src/ui/", "src/drive/", "bench/", "tests/window/"})
     if (file.path.starts_with(folder)) return true;
   // The root looks for the toolkit on behalf of these folders.
   return file.path == "CMakeLists.txt";

@@ -87,15 +87,17 @@ TEST(FloorsCheck, ReadsTheTable) {
 }
 
 TEST(FloorsCheck, BitesOnAnIncludeFromAbove) {
-  const SourceFile file{"hall/door.cpp", "#include \"cellar/wine.h\"\n#include \"roof/tile.h\"\n"};
+  const SourceFile file{"src/hall/door.cpp",
+                        "#include \"cellar/wine.h\"\n#include \"roof/tile.h\"\n"};
   EXPECT_THAT(IncludeFaults(file, ReadFloors(kPage)),
-              ElementsAre("hall/door.cpp:2: hall/ may not include roof/tile.h"));
+              ElementsAre("src/hall/door.cpp:2: hall/ may not include roof/tile.h"));
 }
 
 TEST(FloorsCheck, BitesOnAnIncludeWithoutItsFolder) {
-  const SourceFile file{"hall/door.cpp", "#include \"handle.h\"\n  # include \"hall/lock.h\"\n"};
+  const SourceFile file{"src/hall/door.cpp",
+                        "#include \"handle.h\"\n  # include \"hall/lock.h\"\n"};
   EXPECT_THAT(IncludeFaults(file, ReadFloors(kPage)),
-              ElementsAre("hall/door.cpp:1: hall/ may not include handle.h"));
+              ElementsAre("src/hall/door.cpp:1: hall/ may not include handle.h"));
 }
 
 TEST(FloorsCheck, ReadsWhatALibraryLinks) {
@@ -107,13 +109,13 @@ TEST(FloorsCheck, ReadsWhatALibraryLinks) {
 TEST(FloorsCheck, BitesOnTheToolkitInARule) {
   for (const char* line : {"#include <QString>", "#include <QtWidgets/QLabel>",
                            "#include \"ui_door.h\"", "#include <qglobal.h>"})
-    EXPECT_THAT(ToolkitFaults({"limits/steps.cpp", line}),
-                ElementsAre(HasSubstr("limits/steps.cpp:1: ")))
+    EXPECT_THAT(ToolkitFaults({"src/limits/steps.cpp", line}),
+                ElementsAre(HasSubstr("src/limits/steps.cpp:1: ")))
         << line;
-  EXPECT_THAT(ToolkitFaults({"limits/CMakeLists.txt", "\nlink(x Qt6::Core)"}),
-              ElementsAre(HasSubstr("limits/CMakeLists.txt:2: ")));
-  EXPECT_THAT(ToolkitFaults({"ui/binder.cpp", "#include <QString>"}), IsEmpty());
-  EXPECT_THAT(ToolkitFaults({"limits/steps.cpp", "#include <quux>\n#include <queue>\n"}),
+  EXPECT_THAT(ToolkitFaults({"src/limits/CMakeLists.txt", "\nlink(x Qt6::Core)"}),
+              ElementsAre(HasSubstr("src/limits/CMakeLists.txt:2: ")));
+  EXPECT_THAT(ToolkitFaults({"src/ui/binder.cpp", "#include <QString>"}), IsEmpty());
+  EXPECT_THAT(ToolkitFaults({"src/limits/steps.cpp", "#include <quux>\n#include <queue>\n"}),
               IsEmpty());
 }
 

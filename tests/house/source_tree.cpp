@@ -66,7 +66,10 @@ std::size_t Behind(std::size_t found, std::size_t length, const std::string& tex
 
 }  // namespace
 
-std::string SourceFile::Folder() const { return path.substr(0, path.find('/')); }
+std::string SourceFile::Folder() const {
+  const std::size_t begin = path.starts_with("src/") ? 4 : 0;
+  return path.substr(begin, path.find('/', begin) - begin);
+}
 
 std::string ReadText(const std::string& path) {
   std::ifstream in(path, std::ios::binary);

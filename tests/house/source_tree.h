@@ -7,9 +7,9 @@
 namespace house {
 
 struct SourceFile {
-  std::string path;  // from the root of the tree, "limits/steps.cpp"
+  std::string path;  // from the root of the tree, "src/limits/steps.cpp"
   std::string text;
-  // The first part of the path, "limits".
+  // The first part of the path below src/, "limits", or of the path itself, "tests".
   std::string Folder() const;
 };
 
