@@ -78,6 +78,7 @@ void PercExForm::ShowTuggleCaptions() {
 
 void PercExForm::ShowVerdict(bool compliance, int captionIfSo, int captionIfNot) {
   ComplianceLbl.colour = compliance ? kGreen : kRed;
+  ComplianceLbl.sign = compliance ? screen::Sign::Tick : screen::Sign::Cross;
   ComplianceLbl.text = LoadResString(compliance ? captionIfSo : captionIfNot);
 }
 

@@ -6,6 +6,7 @@
 #include "drive/failure.h"
 #include "drive/grid_hands.h"
 #include "drive/hands.h"
+#include "drive/legible.h"
 #include "drive/look.h"
 #include "drive/player.h"
 #include "drive/record_fields.h"
@@ -111,6 +112,19 @@ void ExpectEnded(Play& play, std::string) {
   if (!play.stage.Ended()) throw Failure("the program is still there");
 }
 
+void Legible(Play& play, std::string) {
+  for (const QString& trouble : Illegible(play.stage.Window()))
+    play.Say("illegible " + trouble.toStdString());
+}
+
+// All that can't be read, in one failure.
+void ExpectLegible(Play& play, std::string) {
+  QString troubles;
+  for (const QString& trouble : Illegible(play.stage.Window())) troubles += "\n  " + trouble;
+  if (!troubles.isEmpty())
+    throw Failure(play.stage.Shown().name + " can't be read:" + troubles.toStdString());
+}
+
 void Focus(Play& play, std::string) { play.Say("focus = " + Focused(play.stage)); }
 
 void ExpectFocus(Play& play, std::string rest) {
@@ -175,6 +189,8 @@ const CommandTable& AnswerCommands() {
       {"expect-line", ExpectLine},
       {"expect-form", ExpectForm},
       {"expect-ended", ExpectEnded},
+      {"legible", Legible},
+      {"expect-legible", ExpectLegible},
       {"focus", Focus},
       {"expect-focus", ExpectFocus},
       {"box", Box},

@@ -1,7 +1,10 @@
+#include <QApplication>
+#include <QFont>
 #include <QPixmap>
 
 #include "drive/failure.h"
 #include "drive/hands.h"
+#include "drive/palettes.h"
 #include "drive/player.h"
 #include "drive/text.h"
 
@@ -49,14 +52,30 @@ void Size(Play& play, std::string rest) {
   play.stage.Settle();
 }
 
+void Palette(Play& play, std::string rest) {
+  const QPalette* palette = PaletteByName(rest);
+  if (!palette) throw Failure("no palette " + rest);
+  QApplication::setPalette(*palette);
+  play.stage.Settle();
+}
+
+void Font(Play& play, std::string rest) {
+  const int points = IntOf(rest);
+  if (points < 1) throw Failure("a font is at least 1 point large");
+  QFont font = QApplication::font();
+  font.setPointSize(points);
+  QApplication::setFont(font);
+  play.stage.Settle();
+}
+
 }  // namespace
 
 const CommandTable& WindowCommands() {
   static const CommandTable table = {
-      {"file", File}, {"answer", Answer}, {"form", FormName},
-      {"menu", Menu}, {"tab", Tab},       {"shot", Shot},
-      {"quit", Quit}, {"title", Title},   {"expect-title", ExpectTitle},
-      {"size", Size},
+      {"file", File}, {"answer", Answer},   {"form", FormName},
+      {"menu", Menu}, {"tab", Tab},         {"shot", Shot},
+      {"quit", Quit}, {"title", Title},     {"expect-title", ExpectTitle},
+      {"size", Size}, {"palette", Palette}, {"font", Font},
   };
   return table;
 }

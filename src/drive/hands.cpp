@@ -70,7 +70,10 @@ void ScrollTo(Stage& stage, QTabBar& strip, int index) {
 
 void ClickAt(Stage& stage, QWidget& widget, int x, int y, const std::string& name) {
   for (QWidget* at = widget.parentWidget(); at; at = at->parentWidget())
-    if (auto* area = qobject_cast<QScrollArea*>(at)) area->ensureWidgetVisible(&widget);
+    if (auto* area = qobject_cast<QScrollArea*>(at)) {
+      const QPoint place = widget.mapTo(area->widget(), QPoint(x, y));
+      area->ensureVisible(place.x(), place.y());
+    }
   QWidget* window = widget.window();
   QWidget* there = window->childAt(widget.mapTo(window, QPoint(x, y)));
   if (there != &widget && !widget.isAncestorOf(there))

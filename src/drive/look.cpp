@@ -15,6 +15,9 @@
 #include "drive/failure.h"
 #include "drive/text.h"
 #include "screen/picture.h"
+#include "ui/readable_colour.h"
+#include "ui/text.h"
+#include "ui/verdict_label.h"
 
 namespace drive {
 namespace {
@@ -47,7 +50,7 @@ std::optional<QString> TextOf(const QWidget& widget) {
   if (auto* box = qobject_cast<const QComboBox*>(&widget)) return box->currentText();
   if (auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
   if (auto* group = qobject_cast<const QGroupBox*>(&widget)) return group->title();
-  if (auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
+  if (auto* label = qobject_cast<const QLabel*>(&widget)) return label->text().remove(ui::kBreak);
   return std::nullopt;
 }
 
@@ -108,7 +111,18 @@ void CompareColour(const Control& control, const QWidget& widget) {
   if ((control.kind != Kind::Label && !button) || !control.colour) return;
   const QColor shown = widget.palette().color(button ? QPalette::Button : widget.foregroundRole());
   const QColor state(control.colour->red, control.colour->green, control.colour->blue);
-  Same(control, "the colour", shown.name().toStdString(), state.name().toStdString());
+  const QColor readable = ui::ReadableOn(QPalette().color(QPalette::Window), state);
+  Same(control, "the colour", shown.name().toStdString(), readable.name().toStdString());
+}
+
+std::string SignName(screen::Sign sign) {
+  return sign == screen::Sign::None ? "none" : sign == screen::Sign::Tick ? "tick" : "cross";
+}
+
+void CompareSign(const Control& control, const QWidget& widget) {
+  const auto* verdict = qobject_cast<const ui::VerdictLabel*>(&widget);
+  const screen::Sign shown = verdict ? verdict->Sign() : screen::Sign::None;
+  Same(control, "the sign", SignName(shown), SignName(control.sign));
 }
 
 Look WidgetLook(Stage& stage, const Target& target) {
@@ -126,6 +140,7 @@ Look WidgetLook(Stage& stage, const Target& target) {
   if (auto* edit = qobject_cast<QLineEdit*>(&widget))
     Same(control, "locked", edit->isReadOnly(), look.locked);
   CompareColour(control, widget);
+  CompareSign(control, widget);
   return look;
 }
 

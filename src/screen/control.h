@@ -37,6 +37,9 @@ struct Colour {
   bool operator==(const Colour&) const = default;
 };
 
+// What a verdict's words say, for who does not see its colour.
+enum class Sign { None, Tick, Cross };
+
 using Handler = std::function<void()>;
 
 // Where a control stands within its parent, in twips.
@@ -58,6 +61,7 @@ struct ControlState {
   bool ticked = false;
   int value = 0;                 // of a scroll bar, 0 to 100
   std::optional<Colour> colour;  // of the text, a button's face; the system's when absent
+  Sign sign = Sign::None;        // before the words of a label that shows a verdict
   std::vector<std::string> items;
   std::optional<Place> place;  // of a control that its screen places; the layout's when absent
   bool operator==(const ControlState&) const = default;

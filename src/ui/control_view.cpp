@@ -6,15 +6,16 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVariant>
 
 #include <algorithm>
 
+#include "ui/elided_label.h"
 #include "ui/picture_view.h"
 #include "ui/text.h"
+#include "ui/title_frame.h"
 #include "ui/vkr_grid_view.h"
 
 namespace ui {
@@ -27,6 +28,13 @@ QString DesignText(const QWidget* widget) {
   if (auto* button = qobject_cast<const QAbstractButton*>(widget)) return button->text();
   if (auto* frame = qobject_cast<const QGroupBox*>(widget)) return frame->title();
   return {};
+}
+
+bool CutsOff(const QWidget* widget, const QString& text) {
+  constexpr int kEdges = 10;  // frame and margins of both sides
+  const int needed = widget->fontMetrics().horizontalAdvance(text);
+  if (qobject_cast<const ElidedLabel*>(widget)) return needed > widget->contentsRect().width();
+  return qobject_cast<const QLineEdit*>(widget) && needed + kEdges > widget->width();
 }
 
 std::string Property(const QObject& object, const char* name) {
@@ -51,7 +59,9 @@ void ControlView::ReadDesign() {
 void ControlView::Typed(const QString& text) {
   control_.text = ui::Typed(text);
   control_.touched = true;
-  if (shown_) shown_->text = control_.text;
+  if (!shown_) return;
+  shown_->text = control_.text;
+  PushTip();
 }
 
 void ControlView::Ticked(bool on) {
@@ -89,13 +99,14 @@ void ControlView::PushWidget(const screen::ControlState& old, bool first) {
   const screen::ControlState& now = *shown_;
   if (first || now.items != old.items) PushItems();
   if (first || now.text != old.text || now.items != old.items) PushText();
-  if (first || now.tip != old.tip) widget_->setToolTip(TipText(now.tip));
+  if (first || now.tip != old.tip || now.text != old.text) PushTip();
   if (first || now.ticked != old.ticked) PushTicked();
   if (first || now.value != old.value) PushValue();
   if (first || now.enabled != old.enabled) widget_->setEnabled(now.enabled);
   if (first || now.visible != old.visible) widget_->setVisible(now.visible);
   if (now.place && (first || now.place != old.place)) PushPlace();
-  if (first || now.colour != old.colour || now.locked != old.locked) PushLook();
+  if (first || now.colour != old.colour || now.sign != old.sign || now.locked != old.locked)
+    PushLook();
   if (first || now.text != old.text || now.tip != old.tip) NameForReaders();
 }
 
@@ -103,7 +114,8 @@ void ControlView::PushText() {
   const QString text = Shown(shown_->text);
   if (auto* label = qobject_cast<QLabel*>(widget_)) {
     const QVariant useMnemonic = label->property("UseMnemonic");
-    label->setText(LabelText(shown_->text, !useMnemonic.isValid() || useMnemonic.toBool()));
+    const QString whole = LabelText(shown_->text, !useMnemonic.isValid() || useMnemonic.toBool());
+    label->setText(label->wordWrap() ? whole : QString(whole).remove(kBreak));
   } else if (auto* edit = qobject_cast<QLineEdit*>(widget_)) {
     if (edit->text() == text) return;
     edit->setText(text);
@@ -112,8 +124,8 @@ void ControlView::PushText() {
     if (box->currentText() != text) box->setEditText(text);
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget_)) {
     button->setText(Lines(shown_->text));
-  } else if (auto* frame = qobject_cast<QGroupBox*>(widget_)) {
-    frame->setTitle(text);
+  } else if (auto* frame = qobject_cast<TitleFrame*>(widget_)) {
+    frame->SetTitle(text);
   } else if (auto* grid = qobject_cast<VkrGridView*>(widget_)) {
     grid->SetCaption(text);
   }
@@ -128,6 +140,19 @@ void ControlView::ShowWhole(QLineEdit& box) {
   if (!designWidth_) return;
   const int needed = box.fontMetrics().horizontalAdvance(box.text()) + kEdges;
   box.setFixedWidth(std::max(*designWidth_, needed));
+}
+
+void ControlView::PushTip() {
+  if (!widget_ || !shown_) return;
+  std::string tip = shown_->tip;
+  if (CutsOff(widget_, Shown(shown_->text))) tip = shown_->text + (tip.empty() ? "" : "\n") + tip;
+  widget_->setToolTip(TipText(tip));
+}
+
+void ControlView::FontChanged() {
+  designWidth_.reset();
+  auto* box = qobject_cast<QLineEdit*>(widget_);
+  if (box && shown_ && shown_->locked) ShowWhole(*box);
 }
 
 void ControlView::PushItems() {
@@ -161,39 +186,6 @@ void ControlView::PushValue() {
   if (!bar) return;
   const QSignalBlocker noEvent(bar);
   bar->setValue(shown_->value);
-}
-
-void ControlView::PushLook() {
-  QPalette palette;
-  if (shown_->colour) {
-    const screen::Colour& c = *shown_->colour;
-    palette.setColor(QPalette::WindowText, QColor(c.red, c.green, c.blue));
-    palette.setColor(QPalette::Button, QColor(c.red, c.green, c.blue));
-  }
-  if (auto* button = qobject_cast<QPushButton*>(widget_)) PushFace(*button);
-  if (auto* edit = qobject_cast<QLineEdit*>(widget_)) {
-    edit->setReadOnly(shown_->locked);
-    if (shown_->locked) palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  }
-  if (widget_->property("Quiet").toBool())
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::PlaceholderText));
-  widget_->setPalette(palette);
-}
-
-// The style would lighten a palette's colour until white text on it is hard to read.
-void ControlView::PushFace(QPushButton& button) {
-  if (!shown_->colour) {
-    button.setStyleSheet({});
-    return;
-  }
-  const QColor face(shown_->colour->red, shown_->colour->green, shown_->colour->blue);
-  button.setStyleSheet(
-      QStringLiteral("QPushButton { background-color: %1; color: white; border: 2px solid %1;"
-                     " border-radius: 3px; padding: 3px; }"
-                     "QPushButton:focus { border-color: palette(highlight); }"
-                     "QPushButton:pressed { background-color: %2; }"
-                     "QPushButton:disabled { color: lightgray; }")
-          .arg(face.name(), face.darker(170).name()));
 }
 
 void ControlView::PushAction(bool visible) {

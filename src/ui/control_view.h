@@ -26,6 +26,12 @@ class ControlView {
   // Brings the widget up to date. `onPage`: whether the control's screen is the shown one, which
   // the menus of the shared menu bar follow.
   void Push(bool onPage);
+  // The desktop has other colours now.
+  void PaletteChanged();
+  // The widget has another width: the tip of a text that it cuts off begins with the whole text.
+  void PushTip();
+  // The page has the sizes for another font now.
+  void FontChanged();
   // The user typed: the widget shows this text already.
   void Typed(const QString& text);
   // The user ticked or unticked the button, or another one of its group.

@@ -6,7 +6,7 @@
 namespace ui {
 
 QSize ElidedLabel::minimumSizeHint() const {
-  constexpr int kFewestCharacters = 6;
+  constexpr int kFewestCharacters = 12;
   const QSize whole = QLabel::sizeHint();
   const int few = fontMetrics().averageCharWidth() * kFewestCharacters;
   return {std::min(whole.width(), few), whole.height()};

@@ -1,6 +1,7 @@
 #include "ui/form_binder.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QKeyEvent>
@@ -32,6 +33,7 @@ bool HasOwnWidget(const Control& control) {
 
 FormBinder::FormBinder(screen::Form& form, QMenuBar& menuBar, EventGate& gate)
     : form_(form), page_(LoadPage(form.name, menuBar)), gate_(gate) {
+  page_.sizes->Fit(QFontMetricsF(QApplication::font()));
   form_.captionTag = page_.captionTag;
   for (Control* control : form_.controls)
     if (HasOwnWidget(*control)) Add(*control);
@@ -208,6 +210,8 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
     event->ignore();
     return true;
   }
+  const auto view = byWidget_.find(widget);
+  if (event->type() == QEvent::Resize && view != byWidget_.end()) view->second->PushTip();
   if (event->type() != QEvent::KeyPress) return false;
   gate_.RunLate();
   focus_->Follow();
@@ -218,7 +222,6 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
     button->click();
     return true;
   }
-  const auto view = byWidget_.find(widget);
   if (view == byWidget_.end() || view->second->Control().kind != Kind::TextBox) return false;
   Control& field = view->second->Control();
   return TabOut(field, press) || StepKey(field, key);
@@ -252,6 +255,16 @@ Control* FormBinder::ControlOf(const QWidget* widget) const {
 
 void FormBinder::Push(bool onPage) {
   for (ControlView& view : views_) view.Push(onPage);
+}
+
+void FormBinder::PaletteChanged() {
+  for (ControlView& view : views_) view.PaletteChanged();
+}
+
+void FormBinder::FontChanged() {
+  page_.sizes->Fit(QFontMetricsF(QApplication::font()));
+  for (ControlView& view : views_) view.FontChanged();
+  if (page_.area) page_.area->Fit();
 }
 
 void FormBinder::Repaint(const Control& control) {

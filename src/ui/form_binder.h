@@ -29,7 +29,7 @@ class FormBinder : public QObject {
   void Connect(FocusWatch& focus);
 
   screen::Form& Form() const { return form_; }
-  QScrollArea* Area() const { return page_.area; }
+  PageArea* Area() const { return page_.area; }
   // The laid-out controls for a window of their own; there is no area any more.
   QWidget* TakeContent();
   QWidget* WidgetOf(const screen::Control& control) const;
@@ -38,6 +38,8 @@ class FormBinder : public QObject {
   screen::Control* ControlOf(const QWidget* widget) const;
 
   void Push(bool onPage);
+  void PaletteChanged();
+  void FontChanged();
   // Brings one widget up to date and paints it at once.
   void Repaint(const screen::Control& control);
 

@@ -7,7 +7,9 @@
 #include <QPointer>
 #include <QScreen>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <vector>
 
@@ -17,6 +19,7 @@
 #include "ui/side_view.h"
 #include "ui/strip_view.h"
 #include "ui/text.h"
+#include "ui/window_place.h"
 
 namespace ui {
 namespace {
@@ -55,6 +58,7 @@ class MainWindow::Private {
   bool onDetour_ = false;
   bool pointerBusy_ = false;
   bool ending_ = false;
+  bool placed_ = false;      // within its frame
   int controlsPainted_ = 0;  // since the whole window was last brought up to date
   QElapsedTimer sinceControl_;
 };
@@ -199,13 +203,12 @@ void MainWindow::Private::Choose(const QString& key) {
 
 MainWindow::MainWindow(start::Program& program, screen::Ports& ports)
     : private_(std::make_unique<Private>(*this, program, ports)) {
-  QRect place(QPoint(), kSize);
-  if (const QScreen* where = QGuiApplication::primaryScreen()) {
-    const QRect screen = where->availableGeometry();
-    place.setSize(kSize.boundedTo(screen.size()));
-    place.moveCenter(screen.center());
-  }
-  setGeometry(place);
+  // No window system tells its frames before there is a window: a guess, for the first showing.
+  const QMargins frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
+  if (const QScreen* where = QGuiApplication::primaryScreen())
+    setGeometry(ContentPlace(kSize, where->availableGeometry(), frame));
+  else
+    resize(kSize);
 }
 
 MainWindow::~MainWindow() = default;
@@ -236,6 +239,36 @@ QAction* MainWindow::ActionOf(const screen::Form& form, const screen::Control& c
 }
 
 QTabBar* MainWindow::Strip() const { return private_->strip_; }
+
+// The desktop may turn dark, or its letters large, while the program runs.
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  for (const auto& binder : private_->binders_) {
+    if (event->type() == QEvent::PaletteChange) binder->PaletteChanged();
+    if (event->type() == QEvent::FontChange) binder->FontChanged();
+  }
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (!private_->placed_) windowHandle()->installEventFilter(this);
+}
+
+// Exposed for the first time, the window has its frame.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == windowHandle() && event->type() == QEvent::Expose && !private_->placed_) {
+    private_->placed_ = true;
+    QMetaObject::invokeMethod(this, &MainWindow::KeepOnScreen, Qt::QueuedConnection);
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::KeepOnScreen() {
+  const QRect available = screen()->availableGeometry();
+  const QMargins frame = windowHandle()->frameMargins();
+  if (isMaximized() || isFullScreen() || available.contains(geometry().marginsAdded(frame))) return;
+  setGeometry(ContentPlace(size(), available, frame));
+}
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   start::Program& program = private_->program_;

@@ -37,9 +37,14 @@ class MainWindow : public QMainWindow, public screen::Surface {
   QTabBar* Strip() const;
 
  protected:
+  void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void KeepOnScreen();
+
   class Private;
   std::unique_ptr<Private> private_;
 };

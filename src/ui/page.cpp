@@ -84,11 +84,8 @@ Page LoadPage(const std::string& formName, QMenuBar& menuBar) {
   Page page;
   page.captionTag = Typed(shell->property("Tag").toString());
   page.content = shell->takeCentralWidget();
-  page.area = new QScrollArea;
-  page.area->setFrameShape(QFrame::NoFrame);
-  page.area->setFocusPolicy(Qt::NoFocus);
-  page.area->setWidgetResizable(true);
-  page.area->setWidget(page.content);
+  page.sizes = std::make_unique<DesignSizes>(*page.content);
+  page.area = new PageArea(*page.content, *page.sizes);
   TakeMenus(*shell, menuBar, page);
   return page;
 }

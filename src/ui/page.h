@@ -3,17 +3,21 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScrollArea>
 
+#include <memory>
 #include <string>
 #include <vector>
+
+#include "ui/design_sizes.h"
+#include "ui/page_area.h"
 
 namespace ui {
 
 // One screen as its designer file lays it out: the page for the window's stack, and its menus.
 struct Page {
-  QScrollArea* area = nullptr;  // so that nothing is out of reach in a small window
+  PageArea* area = nullptr;
   QWidget* content = nullptr;
+  std::unique_ptr<DesignSizes> sizes;
   std::string captionTag;
   std::vector<QMenu*> menus;  // of the menu bar
 

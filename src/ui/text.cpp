@@ -14,6 +14,20 @@ bool StandsBeforeWord(const QString& text, qsizetype mark) {
   return mark == 0 || !text[mark - 1].isLetterOrNumber();
 }
 
+// A path without a blank would make the page as wide as itself: in a word beyond any, a line may
+// end anywhere.
+QString Breakable(const QString& text) {
+  constexpr int kLongestWord = 32;
+  QString broken;
+  int run = 0;
+  for (const QChar character : text) {
+    run = character.isSpace() ? 0 : run + 1;
+    broken += character;
+    if (run >= kLongestWord) broken += kBreak;
+  }
+  return broken;
+}
+
 }  // namespace
 
 QString Shown(const std::string& text) {
@@ -31,7 +45,7 @@ QString Lines(const std::string& text) {
 
 QString LabelText(const std::string& text, bool accessKeys) {
   const QString lines = Lines(text);
-  if (!accessKeys) return lines;
+  if (!accessKeys) return Breakable(lines);
   QString shown;
   for (qsizetype i = 0; i < lines.size(); ++i) {
     if (lines[i] == QLatin1Char('&')) {
@@ -42,7 +56,7 @@ QString LabelText(const std::string& text, bool accessKeys) {
     }
     shown += lines[i];
   }
-  return shown;
+  return Breakable(shown);
 }
 
 QString TipText(const std::string& tip) {

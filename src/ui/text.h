@@ -7,6 +7,9 @@
 // Texts on their way between the controls and the widgets.
 namespace ui {
 
+// Where a line may end within a word; it takes no room.
+inline constexpr QChar kBreak(0x200B);
+
 QString Shown(const std::string& text);
 std::string Typed(const QString& text);
 
@@ -14,7 +17,7 @@ std::string Typed(const QString& text);
 QString Lines(const std::string& text);
 
 // What a label shows: Lines, and with `accessKeys` "&&" as one "&", the mark of an access key
-// taken away. A mark stands before a word, so that the & of "R&D" stays.
+// taken away. A mark stands before a word, so that the & of "R&D" stays. Long words have breaks.
 QString LabelText(const std::string& text, bool accessKeys);
 
 // A tip that wraps when it is long.

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -14,7 +15,7 @@ namespace ui {
 
 VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
   verticalHeader()->hide();
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  FitRows();
   horizontalHeader()->setHighlightSections(false);
   setAlternatingRowColors(true);
   setTabKeyNavigation(false);
@@ -39,9 +40,8 @@ void VkrGridView::SetCaption(const QString& caption) {
 }
 
 void VkrGridView::Refresh() {
-  const int columns = model_->columnCount();
   model_->Refresh();
-  if (model_->columnCount() != columns) SpreadColumns();
+  SpreadColumns();
   if (currentIndex().row() != grid_->currentRow) GoTo(grid_->currentRow);
 }
 
@@ -122,18 +122,46 @@ void VkrGridView::resizeEvent(QResizeEvent* event) {
   SpreadColumns();
 }
 
+void VkrGridView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() != QEvent::FontChange) return;
+  FitRows();
+  SpreadColumns();
+}
+
+void VkrGridView::FitRows() {
+  verticalHeader()->setMinimumSectionSize(0);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+}
+
+int VkrGridView::LeastWidth(int column) const {
+  return std::max(horizontalHeader()->sectionSizeHint(column), sizeHintForColumn(column));
+}
+
+QSize VkrGridView::minimumSizeHint() const {
+  constexpr int kFewestRows = 6;
+  const int row = verticalHeader()->defaultSectionSize();
+  int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  for (int i = 0; model_ && i < model_->columnCount(); ++i) width += LeastWidth(i);
+  return {width, horizontalHeader()->sizeHint().height() + kFewestRows * row};
+}
+
 // The columns share the width as their widths in twips are to each other, but none is narrower
-// than its caption; the outcomes take what is left.
+// than its caption and its cells; the outcomes take what is left.
 void VkrGridView::SpreadColumns() {
   if (!grid_ || model_->columnCount() == 0) return;
   int twips = 0;
   for (const screen::Grid::Column& column : grid_->columns) twips += column.widthTwips;
+  int left = viewport()->width();
   for (int i = 0; i < model_->columnCount() && twips > 0; ++i) {
     const int share =
         viewport()->width() * grid_->columns[static_cast<std::size_t>(i)].widthTwips / twips;
-    setColumnWidth(i, std::max(share, horizontalHeader()->sectionSizeHint(i)));
+    const int width = std::max(share, LeastWidth(i));
+    if (i != model_->EditableColumn()) left -= width;
+    setColumnWidth(i, width);
   }
-  horizontalHeader()->setSectionResizeMode(model_->EditableColumn(), QHeaderView::Stretch);
+  setColumnWidth(model_->EditableColumn(), std::max(left, LeastWidth(model_->EditableColumn())));
+  updateGeometry();
 }
 
 }  // namespace ui

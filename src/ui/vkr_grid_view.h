@@ -25,18 +25,23 @@ class VkrGridView : public QTableView {
   void Refresh();
   // Takes what stands in an open editor.
   void CommitEditor();
+  // Wide enough for the captions and the widest cells in sight.
+  QSize minimumSizeHint() const override;
   void PasteClipboard();
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   void GoTo(int row);
   void CopySelection() const;
+  void FitRows();
   void SpreadColumns();
+  int LeastWidth(int column) const;
   bool TakesKey(const QKeyEvent& event);
 
   screen::Grid* grid_ = nullptr;

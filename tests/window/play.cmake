@@ -2,7 +2,8 @@
 # the raw files and the examples.
 #   cmake -DDRIVE=... -DSCRIPT=... -DFOLDER=... -DFILES=... -DEXAMPLES=...
 #         [-DFAILS=<regex>] [-DPRINTS=<file>] [-DLOCALE=<name>] -P play.cmake
-# With PRINTS the output must be what the file holds. With FAILS the script must end with exit code 1
+#         [-DFIRST=<command>|<command>...]
+# FIRST plays these commands before the script. With PRINTS the output must be what the file holds. With FAILS the script must end with exit code 1
 # and a last line that matches. With LOCALE it runs under that locale; where the machine lacks it,
 # the test says so and is skipped.
 cmake_minimum_required(VERSION 3.25)
@@ -27,16 +28,24 @@ function(make_large_files folder)
   file(WRITE "${folder}/lines_2000.vkr" "${lines}")
   file(WRITE "${folder}/lines_2001.vkr" "${lines}3.5\r\n")
   file(WRITE "${folder}/lines_2001_bad.vkr" "${lines}0\r\n")
+  string(REPEAT "n" 146 long)
+  configure_file("${EXAMPLES}/welding_fume.vkr" "${folder}/${long}.vkr" COPYONLY)
 endfunction()
 
 function(play script)
   get_filename_component(name "${script}" NAME_WE)
   set(folder "${FOLDER}/${name}")
   file(REMOVE_RECURSE "${folder}")
-  file(MAKE_DIRECTORY "${folder}/a_folder.vkr")
+  file(MAKE_DIRECTORY "${folder}/a_folder.vkr" "${folder}/pictures")
   file(GLOB files "${FILES}/*" "${EXAMPLES}/*.vkr")
   file(COPY ${files} DESTINATION "${folder}")
   make_large_files("${folder}")
+  if(FIRST)
+    string(REPLACE "|" "\n" first "${FIRST}")
+    file(READ "${script}" rest)
+    set(script "${folder}/${name}.session")
+    file(WRITE "${script}" "${first}\n${rest}")
+  endif()
   execute_process(COMMAND "${DRIVE}" "${script}" WORKING_DIRECTORY "${folder}"
     OUTPUT_VARIABLE output RESULT_VARIABLE code)
   message("${output}")

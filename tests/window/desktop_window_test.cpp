@@ -1,0 +1,153 @@
+// The window on the users' desktops: dark ones, high-contrast ones, small ones.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QWindow>
+
+#include "drive/palettes.h"
+#include "tests/support/program_session.h"
+#include "tests/window/toolkit.h"
+#include "ui/readable_colour.h"
+#include "ui/text.h"
+#include "ui/verdict_label.h"
+#include "ui/window_place.h"
+
+namespace {
+
+constexpr double kReadable = 4.5;
+const QColor kBlue(0, 0, 255);
+const QColor kRed(192, 0, 0);
+const QColor kGreen(0, 128, 0);
+
+QColor Window(const char* palette) {
+  return drive::PaletteByName(palette)->color(QPalette::Window);
+}
+
+TEST(Contrast, IsThatOfThePublishedFormula) {
+  EXPECT_DOUBLE_EQ(ui::Contrast(Qt::black, Qt::white), 21);
+  EXPECT_DOUBLE_EQ(ui::Contrast(Qt::white, Qt::white), 1);
+  EXPECT_NEAR(ui::Contrast(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.005);
+  EXPECT_NEAR(ui::Contrast(kBlue, QColor(50, 50, 50)), 1.49, 0.005);
+}
+
+TEST(StatedColours, StayAsTheyAreOnALightDesktop) {
+  for (const QColor& stated : {kBlue, kRed, kGreen}) {
+    EXPECT_EQ(ui::ReadableOn(Window("light"), stated), stated);
+    EXPECT_EQ(ui::ReadableOn(Qt::white, stated), stated);
+  }
+}
+
+TEST(StatedColours, AreReadableAndOfTheSameHueOnEveryDarkBackground) {
+  for (int grey = 0; grey <= 200; grey += 4)
+    for (const QColor& stated : {kBlue, kRed, kGreen}) {
+      const QColor background(grey, grey, grey);
+      const QColor shown = ui::ReadableOn(background, stated);
+      EXPECT_GE(ui::Contrast(shown, background), kReadable) << grey;
+      if (grey <= 60) {
+        EXPECT_NEAR(shown.hslHueF(), stated.hslHueF(), 0.01) << grey;
+      }
+    }
+}
+
+TEST(StatedColours, AreToldFromTheTextAroundThemOnADarkDesktop) {
+  for (const char* palette : {"dark", "contrast"})
+    for (const QColor& stated : {kBlue, kRed, kGreen})
+      EXPECT_GT(ui::ReadableOn(Window(palette), stated).hslSaturationF(), 0.3) << palette;
+}
+
+TEST(QuietTexts, AreReadableAndQuieterThanTheOthers) {
+  for (const char* palette : {"light", "dark", "contrast"}) {
+    const QColor text = drive::PaletteByName(palette)->color(QPalette::WindowText);
+    const QColor quiet = ui::QuietOn(Window(palette), text);
+    EXPECT_GE(ui::Contrast(quiet, Window(palette)), kReadable) << palette;
+    EXPECT_LT(ui::Contrast(quiet, Window(palette)), ui::Contrast(text, Window(palette)));
+  }
+}
+
+// A title bar above the top of the screen can't be dragged down again.
+TEST(PlaceOfTheWindow, IsWithinTheScreenWithItsFrame) {
+  const QRect screen(0, 30, 911, 482);
+  const QMargins frame(2, 28, 2, 3);
+  const QRect place = ui::ContentPlace({800, 613}, screen, frame);
+  EXPECT_TRUE(screen.contains(place.marginsAdded(frame)));
+  EXPECT_EQ(place.size(), QSize(800, 451));
+  EXPECT_EQ(ui::ContentPlace({800, 400}, screen, frame).size(), QSize(800, 400));
+}
+
+TEST(LongWords, CanEndALineAnywhereButShortOnesOnlyAtABlank) {
+  const std::string path(150, 'n');
+  EXPECT_GT(ui::LabelText("can't read " + path, false).count(ui::kBreak), 100);
+  EXPECT_EQ(ui::LabelText("can't read " + path, false).remove(ui::kBreak).toStdString(),
+            "can't read " + path);
+  EXPECT_EQ(ui::LabelText("12 outcomes read.", false).count(ui::kBreak), 0);
+}
+
+class Desktop : public testing::Test {
+ protected:
+  Desktop() { application.Start(); }
+  ~Desktop() override { QApplication::setPalette(*drive::PaletteByName("light")); }
+
+  QWidget& Widget(const char* name) {
+    return *application.Window().findChild<QWidget*>(QString::fromLatin1(name));
+  }
+  void Comply(double oelv) {
+    ExposureSession& s = application.Program().Session();
+    s.Mode = "D";
+    s.Name = "Welders";
+    s.M = 10;
+    s.df = 9;
+    s.GM = 1;
+    s.GSD = 2;
+    s.OELV = oelv;
+    s.IdentOk = s.DescOk = s.LimitsOk = true;
+    application.Program().Open(navigation::ScreenId::PercEx);
+    application.Window().ShowState();
+    static_cast<QPushButton&>(Widget("LeidelCmb")).click();
+    qApp->processEvents();
+  }
+
+  support::RecordingPorts around;
+  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+};
+
+TEST_F(Desktop, TheWindowStandsWithinTheScreenWithItsFrame) {
+  for (int round = 0; round < 4; ++round) qApp->processEvents();
+  ui::MainWindow& window = application.Window();
+  ASSERT_GT(window.windowHandle()->frameMargins().top(), 0) << "this platform draws no frame";
+  EXPECT_TRUE(window.screen()->availableGeometry().contains(window.frameGeometry()))
+      << window.frameGeometry().width() << " by " << window.frameGeometry().height();
+}
+
+TEST_F(Desktop, AVerdictIsToldByASignToo) {
+  auto& verdict = static_cast<ui::VerdictLabel&>(Widget("ComplianceLbl"));
+  Comply(1000);
+  EXPECT_EQ(verdict.Sign(), screen::Sign::Tick);
+  const QImage tick = verdict.grab().toImage();
+  Comply(1);
+  EXPECT_EQ(verdict.Sign(), screen::Sign::Cross);
+  const int room = verdict.contentsMargins().left();
+  ASSERT_GT(room, 0);
+  const QRect left(0, 0, room, verdict.height());
+  EXPECT_NE(tick.copy(left), verdict.grab().toImage().copy(left));
+}
+
+TEST_F(Desktop, TheColoursFollowADesktopThatTurnsDarkMeanwhile) {
+  Comply(1);
+  QWidget& verdict = Widget("ComplianceLbl");
+  const auto shown = [&] { return verdict.palette().color(QPalette::WindowText); };
+  EXPECT_EQ(shown(), kRed);
+  for (const char* palette : {"dark", "contrast"}) {
+    QApplication::setPalette(*drive::PaletteByName(palette));
+    qApp->processEvents();
+    EXPECT_GE(ui::Contrast(shown(), Window(palette)), kReadable) << palette;
+  }
+  QApplication::setPalette(*drive::PaletteByName("light"));
+  qApp->processEvents();
+  EXPECT_EQ(shown(), kRed);
+}
+
+}  // namespace
