@@ -1,10 +1,10 @@
 #include "ui/application.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 
 #include <clocale>
 
+#include "ui/outlined_style.h"
 #include "ui/picture_file.h"
 #include "ui/splash.h"
 #include "ui/text.h"
@@ -90,7 +90,7 @@ void Application::Start() {
 void PrepareToolkit() {
   // The toolkit has taken the user's locale over; numbers are the program's own.
   std::setlocale(LC_NUMERIC, "C");
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new OutlinedStyle(QStringLiteral("Fusion")));
 }
 
 }  // namespace ui

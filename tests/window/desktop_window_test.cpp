@@ -150,4 +150,19 @@ TEST_F(Desktop, TheColoursFollowADesktopThatTurnsDarkMeanwhile) {
   EXPECT_EQ(shown(), kRed);
 }
 
+// The toolkit's own outlines are a darker shade of the background: on black there is none.
+TEST_F(Desktop, FieldsAndBoxesHaveAnOutlineOnABlackDesktop) {
+  QApplication::setPalette(*drive::PaletteByName("contrast"));
+  static_cast<QAbstractButton&>(Widget("DesOpt")).click();
+  qApp->processEvents();
+  for (const char* name : {"NameTxB", "OriModiCmd", "RawOpt"}) {
+    const QImage picture = Widget(name).grab().toImage();
+    double best = 1;
+    for (int x = 0; x < picture.width() / 8; ++x)
+      for (int y = 0; y < picture.height(); ++y)
+        best = std::max(best, ui::Contrast(picture.pixelColor(x, y), Qt::black));
+    EXPECT_GE(best, kReadable) << name;
+  }
+}
+
 }  // namespace

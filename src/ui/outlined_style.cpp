@@ -1,0 +1,65 @@
+#include "ui/outlined_style.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+#include "ui/readable_colour.h"
+
+namespace ui {
+namespace {
+
+// The shade that the toolkit's style takes for its outlines.
+bool HidesOutlines(const QPalette& palette) {
+  constexpr int kDarker = 140;
+  constexpr double kSeen = 1.1;
+  const QColor window = palette.color(QPalette::Window);
+  return Contrast(window, window.darker(kDarker)) < kSeen;
+}
+
+void Outline(QPainter& painter, const QStyleOption& option, bool round) {
+  if (!HidesOutlines(option.palette)) return;
+  const bool focus = option.state & QStyle::State_HasFocus;
+  painter.save();
+  painter.setPen(option.palette.color(focus ? QPalette::Highlight : QPalette::WindowText));
+  painter.setBrush(Qt::NoBrush);
+  painter.setRenderHint(QPainter::Antialiasing, round);
+  const QRectF edge = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  if (round)
+    painter.drawEllipse(edge);
+  else
+    painter.drawRect(edge);
+  painter.restore();
+}
+
+}  // namespace
+
+void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                  QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  switch (element) {
+    case PE_FrameLineEdit:
+    case PE_Frame:
+    case PE_PanelButtonCommand:
+    case PE_IndicatorCheckBox:
+      return Outline(*painter, *option, false);
+    case PE_IndicatorRadioButton:
+      return Outline(*painter, *option, true);
+    default:
+      return;
+  }
+}
+
+void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_TabBarTabShape && (option->state & State_Selected))
+    Outline(*painter, *option, false);
+}
+
+void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                       QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_ComboBox || control == CC_ToolButton) Outline(*painter, *option, false);
+}
+
+}  // namespace ui

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ui {
+
+// The toolkit's style draws outlines in a darker shade of the window's colour. On a black desktop
+// there is none: fields, boxes, buttons and the open tab get an outline in the colour of the text.
+class OutlinedStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+};
+
+}  // namespace ui
