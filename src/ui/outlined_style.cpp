@@ -11,7 +11,7 @@ namespace {
 // The shade that the toolkit's style takes for its outlines.
 bool HidesOutlines(const QPalette& palette) {
   constexpr int kDarker = 140;
-  constexpr double kSeen = 1.1;
+  constexpr double kSeen = 1.5;
   const QColor window = palette.color(QPalette::Window);
   return Contrast(window, window.darker(kDarker)) < kSeen;
 }
@@ -20,7 +20,9 @@ void Outline(QPainter& painter, const QStyleOption& option, bool round) {
   if (!HidesOutlines(option.palette)) return;
   const bool focus = option.state & QStyle::State_HasFocus;
   painter.save();
-  painter.setPen(option.palette.color(focus ? QPalette::Highlight : QPalette::WindowText));
+  const QColor quiet =
+      QuietOn(option.palette.color(QPalette::Window), option.palette.color(QPalette::WindowText));
+  painter.setPen(focus ? option.palette.color(QPalette::Highlight) : quiet);
   painter.setBrush(Qt::NoBrush);
   painter.setRenderHint(QPainter::Antialiasing, round);
   const QRectF edge = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);

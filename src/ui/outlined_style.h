@@ -4,8 +4,9 @@
 
 namespace ui {
 
-// The toolkit's style draws outlines in a darker shade of the window's colour. On a black desktop
-// there is none: fields, boxes, buttons and the open tab get an outline in the colour of the text.
+// The toolkit's style draws outlines in a darker shade of the window's colour. On a dark desktop it
+// can hardly be seen, on a black one there is none: there fields, boxes, buttons and the open tab
+// get an outline in a quiet shade of the text.
 class OutlinedStyle : public QProxyStyle {
   Q_OBJECT
 

@@ -11,6 +11,7 @@
 #include "drive/palettes.h"
 #include "tests/support/program_session.h"
 #include "tests/window/toolkit.h"
+#include "ui/picture_view.h"
 #include "ui/readable_colour.h"
 #include "ui/text.h"
 #include "ui/verdict_label.h"
@@ -151,17 +152,51 @@ TEST_F(Desktop, TheColoursFollowADesktopThatTurnsDarkMeanwhile) {
 }
 
 // The toolkit's own outlines are a darker shade of the background: on black there is none.
-TEST_F(Desktop, FieldsAndBoxesHaveAnOutlineOnABlackDesktop) {
-  QApplication::setPalette(*drive::PaletteByName("contrast"));
+TEST_F(Desktop, FieldsAndBoxesHaveAnOutlineOnADarkDesktop) {
   static_cast<QAbstractButton&>(Widget("DesOpt")).click();
-  qApp->processEvents();
-  for (const char* name : {"NameTxB", "OriModiCmd", "RawOpt"}) {
-    const QImage picture = Widget(name).grab().toImage();
-    double best = 1;
-    for (int x = 0; x < picture.width() / 8; ++x)
-      for (int y = 0; y < picture.height(); ++y)
-        best = std::max(best, ui::Contrast(picture.pixelColor(x, y), Qt::black));
-    EXPECT_GE(best, kReadable) << name;
+  for (const char* palette : {"dark", "contrast"}) {
+    QApplication::setPalette(*drive::PaletteByName(palette));
+    qApp->processEvents();
+    for (const char* name : {"NameTxB", "OriModiCmd", "RawOpt"}) {
+      const QImage picture = Widget(name).grab().toImage();
+      double best = 1;
+      for (int x = 0; x < 3; ++x)
+        best = std::max(best,
+                        ui::Contrast(picture.pixelColor(x, picture.height() / 2), Window(palette)));
+      EXPECT_GE(best, 3) << name << " on " << palette;
+    }
+  }
+}
+
+TEST_F(Desktop, TheWindowOfTheProgressGrowsWithTheFont) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPointSize(16);
+  QApplication::setFont(large);
+  auto* side = dynamic_cast<screen::SideWindow*>(application.Program().FormByName("LandHulpForm"));
+  ASSERT_NE(side, nullptr);
+  side->shown = true;
+  application.Window().ShowState();
+  for (int round = 0; round < 4; ++round) qApp->processEvents();
+  const QWidget& window = Widget("LandHulpForm");
+  EXPECT_GE(window.width(), window.minimumSizeHint().width());
+  EXPECT_GE(window.height(), window.minimumSizeHint().height());
+  for (const QLabel* label : window.findChildren<QLabel*>())
+    if (label->isVisible() && !label->wordWrap()) {
+      EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+    }
+  side->shown = false;
+  application.Window().ShowState();
+  QApplication::setFont(before);
+}
+
+// A drawing is ink on white paper, whatever the desktop.
+TEST_F(Desktop, DrawingsKeepTheirWhitePaper) {
+  for (const char* palette : {"light", "dark", "contrast"}) {
+    QApplication::setPalette(*drive::PaletteByName(palette));
+    ui::PictureView picture;
+    picture.resize(60, 40);
+    EXPECT_EQ(picture.grab().toImage().pixelColor(30, 20), QColor(Qt::white)) << palette;
   }
 }
 
