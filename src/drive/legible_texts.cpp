@@ -126,14 +126,6 @@ QColor Commonest(const QImage& picture, const QRect& place) {
   return QColor::fromRgb(best);
 }
 
-double Strongest(const QImage& picture, const QRect& place, const QColor& background) {
-  double best = 1;
-  for (int y = place.top(); y <= place.bottom(); ++y)
-    for (int x = place.left(); x <= place.right(); ++x)
-      best = std::max(best, ui::Contrast(picture.pixelColor(x, y), background));
-  return best;
-}
-
 // The colours of a selection are the desktop's.
 bool Selected(const QWidget& widget) {
   if (auto* edit = qobject_cast<const QLineEdit*>(&widget)) return edit->hasSelectedText();
@@ -143,6 +135,7 @@ bool Selected(const QWidget& widget) {
 
 QPalette::ColorRole RoleOf(const QWidget& widget) {
   if (qobject_cast<const QLabel*>(&widget)) return widget.foregroundRole();
+  if (qobject_cast<const QPushButton*>(&widget)) return QPalette::ButtonText;
   if (qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
       qobject_cast<const QTableView*>(&widget))
     return QPalette::Text;
@@ -166,17 +159,20 @@ QString PaleText(const QWidget& widget, const QImage& picture) {
   constexpr double kReadable = 4.5;
   constexpr double kLight = 14;
   constexpr double kHair = 0.2;
+  constexpr int kEdge = 4;  // a button's outline, in pixels
   if (!widget.isEnabled() || Selected(widget) || qobject_cast<const QTabBar*>(&widget) ||
       qobject_cast<const QGroupBox*>(&widget))
     return {};
   const double dots = picture.devicePixelRatio();
-  const QPoint corner = widget.mapTo(widget.window(), QPoint()) * dots;
-  const QRect seen = QRect(corner, widget.size() * dots) & picture.rect();
-  if (seen.isEmpty() || widget.visibleRegion().isEmpty()) return {};
-  const QColor background = Commonest(picture, seen);
-  const bool face = qobject_cast<const QPushButton*>(&widget);
-  const double contrast = face ? Strongest(picture, seen, background)
-                               : ui::Contrast(widget.palette().color(RoleOf(widget)), background);
+  const QRect inView = widget.visibleRegion().boundingRect();
+  const QPoint corner = widget.mapTo(widget.window(), inView.topLeft()) * dots;
+  const QRect seen = QRect(corner, inView.size() * dots) & picture.rect();
+  const bool button = qobject_cast<const QPushButton*>(&widget);
+  const int edge = button ? qRound(kEdge * dots) : 0;
+  const QRect face = seen.adjusted(edge, edge, -edge, -edge);
+  if (face.isEmpty()) return {};
+  const QColor background = Commonest(picture, face);
+  const double contrast = ui::Contrast(widget.palette().color(RoleOf(widget)), background);
   // Light paper shows the colours as they are stated: the green is a hair below on light grey.
   const double wanted =
       ui::Contrast(background, Qt::black) > kLight ? kReadable - kHair : kReadable;

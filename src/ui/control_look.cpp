@@ -21,6 +21,7 @@ void ControlView::PushLook() {
     const QColor readable = ReadableOn(background, Shade(*shown_->colour));
     palette.setColor(QPalette::WindowText, readable);
     palette.setColor(QPalette::Button, readable);
+    palette.setColor(QPalette::ButtonText, TextOn(readable));
   }
   if (auto* button = qobject_cast<QPushButton*>(widget_)) PushFace(*button);
   if (auto* verdict = qobject_cast<VerdictLabel*>(widget_)) verdict->SetSign(shown_->sign);
