@@ -171,8 +171,11 @@ QString PaleText(const QWidget& widget, const QImage& picture) {
   const int edge = button ? qRound(kEdge * dots) : 0;
   const QRect face = seen.adjusted(edge, edge, -edge, -edge);
   if (face.isEmpty()) return {};
-  const QColor background = Commonest(picture, face);
-  const double contrast = ui::Contrast(widget.palette().color(RoleOf(widget)), background);
+  const QColor text = widget.palette().color(RoleOf(widget));
+  // A button's face goes over from one colour to another: beside its caption, not behind it.
+  const QRect beside(face.topLeft(), QSize(1, face.height()));
+  const QColor background = Commonest(picture, button ? beside : face);
+  const double contrast = ui::Contrast(text, background);
   // Light paper shows the colours as they are stated: the green is a hair below on light grey.
   const double wanted =
       ui::Contrast(background, Qt::black) > kLight ? kReadable - kHair : kReadable;
