@@ -21,12 +21,12 @@ class OneFile final : public screen::FileDialog {
 
 class StandingClock final : public screen::Clock {
  public:
-  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+  base::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
 };
 
 class NoPrinter final : public screen::PrinterSurface {
  public:
-  bool PrintPage(const screen::DrawingRecord&) override { return false; }
+  bool PrintPage(const drawing::DrawingRecord&) override { return false; }
 };
 
 }  // namespace bench

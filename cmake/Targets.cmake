@@ -1,5 +1,7 @@
-# valkorin_library(<folder> SOURCES ... USES ...): one static library a folder, which links only
-# the folders that it may use.
+# valkorin_library(<name> SOURCES ... [HEADERS ...] USES ...): a static library, which links only the
+# libraries that it may use. A folder of src/ has one of its name, or two: its formulas and drawings,
+# and under <folder>_screen its screen. A header belongs to the library of the source of its name;
+# HEADERS lists those without one, where the folder has two libraries.
 
 add_library(valkorin_options INTERFACE)
 target_include_directories(valkorin_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
@@ -21,12 +23,12 @@ if(VALKORIN_COVERAGE)
   target_link_options(valkorin_options INTERFACE --coverage)
 endif()
 
-function(valkorin_library folder)
-  cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
-  add_library(valkorin_${folder} STATIC ${arg_SOURCES})
-  target_link_libraries(valkorin_${folder} PUBLIC valkorin_options)
+function(valkorin_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;USES" ${ARGN})
+  add_library(valkorin_${name} STATIC ${arg_SOURCES} ${arg_HEADERS})
+  target_link_libraries(valkorin_${name} PUBLIC valkorin_options)
   foreach(used IN LISTS arg_USES)
-    target_link_libraries(valkorin_${folder} PUBLIC valkorin_${used})
+    target_link_libraries(valkorin_${name} PUBLIC valkorin_${used})
   endforeach()
 endfunction()
 

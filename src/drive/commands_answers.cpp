@@ -41,14 +41,14 @@ Look LookByName(Play& play, const std::string& name) {
 }
 
 // How much a drawing holds.
-std::string PictureMarks(const screen::DrawingRecord& drawing) {
+std::string PictureMarks(const drawing::DrawingRecord& drawing) {
   int lines = 0;
   int dots = 0;
   int texts = 0;
   for (const auto& item : drawing.Items()) {
-    lines += std::holds_alternative<screen::DrawnLine>(item);
-    dots += std::holds_alternative<screen::DrawnDot>(item);
-    texts += std::holds_alternative<screen::DrawnText>(item);
+    lines += std::holds_alternative<drawing::DrawnLine>(item);
+    dots += std::holds_alternative<drawing::DrawnDot>(item);
+    texts += std::holds_alternative<drawing::DrawnText>(item);
   }
   return " lines(" + IntText(lines) + ") dots(" + IntText(dots) + ") texts(" + IntText(texts) + ")";
 }

@@ -65,11 +65,11 @@ void Same(const Control& control, const char* what, bool shown, bool state) {
   Same(control, what, std::string(shown ? "yes" : "no"), std::string(state ? "yes" : "no"));
 }
 
-const screen::DrawnText* DrawnLabel(const screen::Form& form, const std::string& label) {
+const drawing::DrawnText* DrawnLabel(const screen::Form& form, const std::string& label) {
   for (const Control* control : form.controls) {
     if (control->kind != Kind::Picture) continue;
     for (const auto& item : static_cast<const screen::Picture*>(control)->drawing.Items()) {
-      const auto* text = std::get_if<screen::DrawnText>(&item);
+      const auto* text = std::get_if<drawing::DrawnText>(&item);
       if (text && text->label == label) return text;
     }
   }
@@ -196,7 +196,7 @@ Look StripLook(Stage& stage, const Target& target) {
 // A label that is drawn in a picture: its text may stand there in more lines than in its state.
 Look PictureLabelLook(const Target& target) {
   const Control& control = *target.control;
-  const screen::DrawnText* drawn = DrawnLabel(*target.form, control.name);
+  const drawing::DrawnText* drawn = DrawnLabel(*target.form, control.name);
   Same(control, "drawn", drawn != nullptr, control.visible);
   if (drawn) Same(control, "the text", WithoutBlanks(drawn->text), WithoutBlanks(control.text));
   Look look = TextLook(control.text);

@@ -15,7 +15,7 @@ struct Look {
   bool disabled = false;
   bool locked = false;
   bool ticked = false;
-  std::optional<screen::Colour> colour;
+  std::optional<drawing::Colour> colour;
 };
 
 // Of a mere text, such as a table's cell.

@@ -98,9 +98,9 @@ std::string ScriptedFileDialog::Ask(const Request&) {
   return path;
 }
 
-bool ScriptedPrinter::PrintPage(const screen::DrawingRecord& drawing) {
+bool ScriptedPrinter::PrintPage(const drawing::DrawingRecord& drawing) {
   for (const auto& item : drawing.Items())
-    if (const auto* text = std::get_if<screen::DrawnText>(&item)) lines_.push_back(text->text);
+    if (const auto* text = std::get_if<drawing::DrawnText>(&item)) lines_.push_back(text->text);
   return true;
 }
 

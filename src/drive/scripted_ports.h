@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 #include "screen/ports.h"
 
 namespace drive {
@@ -44,13 +44,13 @@ class ScriptedFileDialog final : public screen::FileDialog {
 // Stands still, so that what a script shows is the same at every playing.
 class StandingClock final : public screen::Clock {
  public:
-  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+  base::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
 };
 
 // Keeps the pages instead of printing them.
 class ScriptedPrinter final : public screen::PrinterSurface {
  public:
-  bool PrintPage(const screen::DrawingRecord& drawing) override;
+  bool PrintPage(const drawing::DrawingRecord& drawing) override;
 
   // The texts on the pages since the last call, one a line.
   std::vector<std::string> Take();

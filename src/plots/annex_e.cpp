@@ -15,11 +15,11 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Across;
-using screen::Colour;
-using screen::Down;
-using screen::Point;
-using screen::TextStyle;
+using drawing::Across;
+using drawing::Colour;
+using drawing::Down;
+using drawing::Point;
+using drawing::TextStyle;
 
 constexpr Colour kFrame{0, 0, 0};
 constexpr Colour kFineGrid{222, 226, 232};
@@ -54,7 +54,7 @@ constexpr std::array<ReadOff, 2> kReadOffs = {{
 // Draws one plot.
 class Annex {
  public:
-  Annex(screen::DrawSurface& surface, Labels& labels, const PlotData& data)
+  Annex(drawing::DrawSurface& surface, Labels& labels, const PlotData& data)
       : surface_(surface),
         labels_(labels),
         data_(data),
@@ -78,7 +78,7 @@ class Annex {
   bool PutExposure(const DecadeTick& tick, std::vector<std::pair<double, double>>& taken);
   void DrawReadOff(double p, double transformed, const char* label, const char* words);
 
-  screen::DrawSurface& surface_;
+  drawing::DrawSurface& surface_;
   Labels& labels_;
   const PlotData& data_;
   AnnexPaper paper_;
@@ -219,7 +219,7 @@ std::vector<std::string> AnnexLabelNames() {
   return names;
 }
 
-void DrawAnnexE(screen::DrawSurface& surface, Labels& labels, const PlotData& data) {
+void DrawAnnexE(drawing::DrawSurface& surface, Labels& labels, const PlotData& data) {
   Annex annex(surface, labels, data);
   surface.Clear();
   annex.DrawGrid();
@@ -241,7 +241,7 @@ AnnexLine AnnexLineOf(const AnnexPaper& paper, const PlotData& data,
   return line;
 }
 
-void DrawAnnexRegression(screen::DrawSurface& surface, Labels& labels, const PlotData& data,
+void DrawAnnexRegression(drawing::DrawSurface& surface, Labels& labels, const PlotData& data,
                          const analysis::Regression& fit) {
   Annex annex(surface, labels, data);
   annex.PutTexts(fit);

@@ -68,7 +68,7 @@ std::vector<DecadeTick> TicksOf(const Decades& decades) {
   return ticks;
 }
 
-AnnexPaper::AnnexPaper(const screen::DrawSurface& surface, const PlotData& data)
+AnnexPaper::AnnexPaper(const drawing::DrawSurface& surface, const PlotData& data)
     : data_(data),
       width_(surface.ScaleWidth()),
       height_(surface.ScaleHeight()),

@@ -40,7 +40,7 @@ std::vector<DecadeTick> TicksOf(const Decades& decades);
 class AnnexPaper {
  public:
   // Subscript fault unless the data hold M >= 3 outcomes with their scores.
-  AnnexPaper(const screen::DrawSurface& surface, const PlotData& data);
+  AnnexPaper(const drawing::DrawSurface& surface, const PlotData& data);
 
   const Frame& Edges() const { return frame_; }
   const ProbabilityAxis& Axis() const { return axis_; }

@@ -19,29 +19,29 @@ constexpr double kLeastMark = 0.2;         // of the peak's height
 constexpr double kArrow = 240;  // beyond the end of the axis
 
 constexpr double kPen = 15;
-constexpr screen::Colour kFrame{0, 0, 0};
-constexpr screen::Colour kCurve{0, 0, 255};
+constexpr drawing::Colour kFrame{0, 0, 0};
+constexpr drawing::Colour kCurve{0, 0, 255};
 
-void DrawAxes(screen::DrawSurface& surface, const DensityScale& scale) {
+void DrawAxes(drawing::DrawSurface& surface, const DensityScale& scale) {
   const double foot = scale.Foot();
   surface.Line({kMargin, foot}, {scale.AxisEnd(), foot}, kFrame, kPen);
   surface.Line({kMargin, kMargin}, {kMargin, foot}, kFrame, kPen);
 }
 
 // Below the axis, where the label hangs.
-void DrawTick(screen::DrawSurface& surface, const DensityScale& scale, double X,
-              screen::Colour colour) {
+void DrawTick(drawing::DrawSurface& surface, const DensityScale& scale, double X,
+              drawing::Colour colour) {
   surface.Line({X, scale.Foot() + 30}, {X, scale.Foot() + 90}, colour, kPen);
 }
 
-void DrawArrow(screen::DrawSurface& surface, const DensityScale& scale, screen::Colour colour) {
-  const screen::Point tip{scale.AxisEnd() + kArrow, scale.Foot()};
+void DrawArrow(drawing::DrawSurface& surface, const DensityScale& scale, drawing::Colour colour) {
+  const drawing::Point tip{scale.AxisEnd() + kArrow, scale.Foot()};
   surface.Line({scale.AxisEnd(), tip.y}, tip, colour, kPen);
   surface.Line({tip.x - 90, tip.y - 45}, tip, colour, kPen);
   surface.Line({tip.x - 90, tip.y + 45}, tip, colour, kPen);
 }
 
-void DrawMark(screen::DrawSurface& surface, const DensityScale& scale, const DensityMark& mark) {
+void DrawMark(drawing::DrawSurface& surface, const DensityScale& scale, const DensityMark& mark) {
   const double X = MarkPlace(scale, mark);
   if (scale.X(mark.x) > scale.AxisEnd())
     DrawArrow(surface, scale, mark.colour);
@@ -50,14 +50,14 @@ void DrawMark(screen::DrawSurface& surface, const DensityScale& scale, const Den
   DrawTick(surface, scale, X, mark.colour);
 }
 
-void DrawCurve(screen::DrawSurface& surface, const DensityScale& scale, const DensityData& data) {
+void DrawCurve(drawing::DrawSurface& surface, const DensityScale& scale, const DensityData& data) {
   for (double x = data.xStart; x <= data.xEnd; x = scale.Next(x))
     surface.Dot({scale.X(x), scale.Y(scale.Density(x))}, kCurve);
 }
 
 }  // namespace
 
-DensityScale::DensityScale(const screen::DrawSurface& surface, const DensityData& data)
+DensityScale::DensityScale(const drawing::DrawSurface& surface, const DensityData& data)
     : s_(Log(data.GSD)),
       peak_(Divide(Divide(Exp(s_ * s_ / 2), s_), Sqrt(kTwoPi))),
       step_(Power(data.GSD, kStepPower)),
@@ -105,7 +105,7 @@ double MarkTop(const DensityScale& scale, const DensityMark& mark) {
   return std::min(scale.CurveTop(X, X), least);
 }
 
-void DrawDensity(screen::DrawSurface& surface, const DensityData& data) {
+void DrawDensity(drawing::DrawSurface& surface, const DensityData& data) {
   surface.Clear();
   const DensityScale scale(surface, data);
   DrawAxes(surface, scale);

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 
 // The picture of a lognormal density. Concentrations are relative to the geometric mean: x = C /
 // GM.
@@ -14,7 +14,7 @@ struct DensityMark {
   std::string name;  // of the label
   std::string text;  // lines separated by CR
   double x = 0;
-  screen::Colour colour;
+  drawing::Colour colour;
 };
 
 // What is drawn.
@@ -34,7 +34,7 @@ struct DensityData {
 class DensityScale {
  public:
   // Domain: GSD > 1, xStart > 0, xEnd > 0; otherwise a run-time fault.
-  DensityScale(const screen::DrawSurface& surface, const DensityData& data);
+  DensityScale(const drawing::DrawSurface& surface, const DensityData& data);
 
   double Density(double x) const;
   double X(double x) const;  // 60 + 0.9 W x / xEnd
@@ -58,7 +58,7 @@ class DensityScale {
 };
 
 // Clears the surface and draws axes, marks, curve and labels.
-void DrawDensity(screen::DrawSurface& surface, const DensityData& data);
+void DrawDensity(drawing::DrawSurface& surface, const DensityData& data);
 
 // The upper end of a mark's line: the curve, or a fifth of its height where it lies lower.
 double MarkTop(const DensityScale& scale, const DensityMark& mark);

@@ -10,10 +10,10 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Across;
-using screen::Down;
-using screen::Point;
-using screen::TextStyle;
+using drawing::Across;
+using drawing::Down;
+using drawing::Point;
+using drawing::TextStyle;
 
 constexpr double kEdge = 120;  // of the surface, which stays free
 constexpr double kGap = 120;   // between a text and what is beside it
@@ -21,8 +21,8 @@ constexpr double kHair = 10;
 constexpr double kMarkSize = 9;
 constexpr double kLeastSize = 4;
 
-constexpr screen::Colour kQuiet{110, 110, 110};
-constexpr screen::Colour kFrame{0, 0, 0};
+constexpr drawing::Colour kQuiet{110, 110, 110};
+constexpr drawing::Colour kFrame{0, 0, 0};
 
 // One blank for each run of them, as FormatMask leaves in front of a number.
 std::string Squeezed(const std::string& text) {
@@ -62,13 +62,13 @@ void ToEitherSide(std::vector<Stand>& stands) {
 // The labels below the axis.
 class MarkRow {
  public:
-  MarkRow(screen::DrawSurface& surface, const DensityScale& scale, const DensityData& data);
+  MarkRow(drawing::DrawSurface& surface, const DensityScale& scale, const DensityData& data);
   void Write();
 
  private:
   struct Entry {
     double X = 0;
-    screen::Colour colour;
+    drawing::Colour colour;
     std::vector<std::pair<std::string, std::string>> texts;  // label, text
   };
   void ChooseSize();
@@ -76,14 +76,14 @@ class MarkRow {
   double TotalWidth() const;
   void Write(const Entry& entry, double centre);
 
-  screen::DrawSurface& surface_;
+  drawing::DrawSurface& surface_;
   double foot_;
   double leader_;  // how far below the axis the labels begin
   std::vector<Entry> entries_;
   TextStyle style_;
 };
 
-MarkRow::MarkRow(screen::DrawSurface& surface, const DensityScale& scale, const DensityData& data)
+MarkRow::MarkRow(drawing::DrawSurface& surface, const DensityScale& scale, const DensityData& data)
     : surface_(surface),
       foot_(scale.Foot()),
       leader_(60 + 160 * TextScale(surface.ScaleWidth(), surface.ScaleHeight())) {
@@ -143,13 +143,13 @@ void MarkRow::Write() {
 // The headlines, one below the other, in the first place that is free of curve and marks.
 class Headlines {
  public:
-  Headlines(screen::DrawSurface& surface, const DensityScale& scale, const DensityData& data)
+  Headlines(drawing::DrawSurface& surface, const DensityScale& scale, const DensityData& data)
       : surface_(surface), scale_(scale), data_(data) {}
   void Write();
 
  private:
   struct Block {
-    std::vector<screen::DrawnText> texts;  // from the corner (0, 0) on
+    std::vector<drawing::DrawnText> texts;  // from the corner (0, 0) on
     double width = 0;
     double height = 0;
   };
@@ -158,7 +158,7 @@ class Headlines {
   bool Place(const Block& block);
   void WriteAt(const Block& block, Point corner);
 
-  screen::DrawSurface& surface_;
+  drawing::DrawSurface& surface_;
   const DensityScale& scale_;
   const DensityData& data_;
 };
@@ -169,12 +169,12 @@ Headlines::Block Headlines::Set(double width, double share) const {
   const double H = surface_.ScaleHeight();
   Block block;
   auto add = [&](const char* label, const std::string& text, double size, bool bold,
-                 screen::Colour colour) {
+                 drawing::Colour colour) {
     if (text.empty()) return;
     TextStyle style = Style(W, H, size * share, Across::Left, Down::Top);
     style.bold = bold;
     style.colour = colour;
-    screen::DrawnText drawn{{0, block.height}, Wrapped(text, width, style.size), style, label};
+    drawing::DrawnText drawn{{0, block.height}, Wrapped(text, width, style.size), style, label};
     block.width = std::max(block.width, TextWidth(drawn.text, style.size));
     block.height += RowHeight(style) * RowCount(drawn.text) + 60;
     block.texts.push_back(std::move(drawn));
@@ -208,7 +208,7 @@ bool Headlines::Place(const Block& block) {
 }
 
 void Headlines::WriteAt(const Block& block, Point corner) {
-  for (const screen::DrawnText& text : block.texts)
+  for (const drawing::DrawnText& text : block.texts)
     surface_.Text({corner.x + text.at.x, corner.y + text.at.y}, text.text, text.style, text.label);
 }
 
@@ -248,7 +248,7 @@ std::string Wrapped(const std::string& text, double width, double size) {
   return wrapped;
 }
 
-Box BoxOf(const screen::DrawnText& text) {
+Box BoxOf(const drawing::DrawnText& text) {
   const double width = TextWidth(text.text, text.style.size);
   const double height = RowHeight(text.style) * RowCount(text.text);
   const double left = text.style.across == Across::Left     ? 0
@@ -261,7 +261,7 @@ Box BoxOf(const screen::DrawnText& text) {
   return {corner.x, corner.y, corner.x + width, corner.y + height};
 }
 
-void WriteDensityLabels(screen::DrawSurface& surface, const DensityScale& scale,
+void WriteDensityLabels(drawing::DrawSurface& surface, const DensityScale& scale,
                         const DensityData& data) {
   MarkRow(surface, scale, data).Write();
   Headlines(surface, scale, data).Write();

@@ -19,9 +19,9 @@ struct Box {
 std::string Wrapped(const std::string& text, double width, double size);
 
 // The room of a text that was drawn, by the estimate of its width.
-Box BoxOf(const screen::DrawnText& text);
+Box BoxOf(const drawing::DrawnText& text);
 
-void WriteDensityLabels(screen::DrawSurface& surface, const DensityScale& scale,
+void WriteDensityLabels(drawing::DrawSurface& surface, const DensityScale& scale,
                         const DensityData& data);
 
 }  // namespace PlotWBas

@@ -12,10 +12,10 @@ namespace {
 constexpr int kTests = 90;
 constexpr int kMean = 92;
 
-constexpr screen::Colour kPopulation{70, 70, 70};
-constexpr screen::Colour kUpperLimit{128, 64, 0};
-constexpr screen::Colour kLimitValue{192, 0, 0};
-constexpr screen::Colour kArithmetic{0, 110, 0};
+constexpr drawing::Colour kPopulation{70, 70, 70};
+constexpr drawing::Colour kUpperLimit{128, 64, 0};
+constexpr drawing::Colour kLimitValue{192, 0, 0};
+constexpr drawing::Colour kArithmetic{0, 110, 0};
 
 bool CalledFrom(const ExposureSession& s, int tab) { return s.CurrentTab == LoadResString(tab); }
 
@@ -117,7 +117,7 @@ const char* DensityWindow(const ExposureSession& s) {
   return "20d";
 }
 
-DensityData DensityOf(const ExposureSession& s, const screen::DateTime& time) {
+DensityData DensityOf(const ExposureSession& s, const base::DateTime& time) {
   constexpr int kProduct = 17;
   constexpr int kOf = 1702;
   constexpr int kTestHeadline = 2510;
@@ -130,8 +130,8 @@ DensityData DensityOf(const ExposureSession& s, const screen::DateTime& time) {
   AddMarks(data, s);
   data.endText = extent.endText;
   data.endValue = WithUnit(s, s.GM * extent.xEnd);
-  data.header = GlobalBAS::Trim(LoadResString(kProduct)) + s.CR +
-                "date: " + screen::DateText(time) + s.CR + "time : " + screen::TimeText(time);
+  data.header = GlobalBAS::Trim(LoadResString(kProduct)) + s.CR + "date: " + base::DateText(time) +
+                s.CR + "time : " + base::TimeText(time);
   data.headline = LoadResString(CalledFrom(s, kTests) ? kTestHeadline : kHeadline) + s.CR +
                   LoadResString(kOf) + GlobalBAS::Trim(s.Name);
   data.explanation = Explanation(s);

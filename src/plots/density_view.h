@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/date_time.h"
 #include "plots/density.h"
-#include "screen/clock.h"
 #include "session/exposure_session.h"
 
 // What the density picture shows of the record, by the screen that it was called from: CurrentTab
@@ -23,6 +23,6 @@ DensityExtent ExtentOf(const ExposureSession& s);
 const char* DensityWindow(const ExposureSession& s);
 
 // AMu must be in the record. Changes nothing.
-DensityData DensityOf(const ExposureSession& s, const screen::DateTime& time);
+DensityData DensityOf(const ExposureSession& s, const base::DateTime& time);
 
 }  // namespace PlotWBas

@@ -47,13 +47,13 @@ const Label* FindLabel(const Labels& labels, const std::string& name) {
   return found == labels.end() ? nullptr : &*found;
 }
 
-void WriteLabels(screen::DrawSurface& surface, const Labels& labels) {
+void WriteLabels(drawing::DrawSurface& surface, const Labels& labels) {
   for (const Label& label : labels)
     surface.Text(label.at, std::string(WithoutLastLineEnd(label.text)), label.style, label.name);
 }
 
-double RowHeight(const screen::TextStyle& style) {
-  return kTwipsPerPoint * screen::kLineSpacing * style.size;
+double RowHeight(const drawing::TextStyle& style) {
+  return kTwipsPerPoint * drawing::kLineSpacing * style.size;
 }
 
 double TextWidth(const std::string& text, double size) {

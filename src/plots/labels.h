@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 
 // Labels of a plot: texts that are drawn in the picture and can be read by their names.
 namespace PlotWBas {
@@ -11,8 +11,8 @@ namespace PlotWBas {
 struct Label {
   std::string name;
   std::string text;  // lines separated by CR
-  screen::Point at;
-  screen::TextStyle style;
+  drawing::Point at;
+  drawing::TextStyle style;
 };
 
 using Labels = std::vector<Label>;
@@ -21,11 +21,11 @@ using Labels = std::vector<Label>;
 const Label* FindLabel(const Labels& labels, const std::string& name);
 
 // Draws all labels in their order. A line end behind the last line is not drawn.
-void WriteLabels(screen::DrawSurface& surface, const Labels& labels);
+void WriteLabels(drawing::DrawSurface& surface, const Labels& labels);
 
 // Height of one line of text, and an upper estimate of the width of the longest line, in twips. A
 // drawing is laid out without a font at hand, since the same one goes to screen, file and printer.
-double RowHeight(const screen::TextStyle& style);
+double RowHeight(const drawing::TextStyle& style);
 double TextWidth(const std::string& text, double size);
 int RowCount(const std::string& text);
 

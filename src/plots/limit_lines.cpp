@@ -7,12 +7,12 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Across;
-using screen::Down;
-using screen::Point;
+using drawing::Across;
+using drawing::Down;
+using drawing::Point;
 
-constexpr screen::Colour kLOQ{0, 110, 60};
-constexpr screen::Colour kURR{140, 70, 0};
+constexpr drawing::Colour kLOQ{0, 110, 60};
+constexpr drawing::Colour kURR{140, 70, 0};
 constexpr double kPen = 15;
 constexpr double kBeside = 45;  // from the line to its label
 
@@ -28,11 +28,11 @@ LimitMark MarkAt(const Paper& paper, const PlotData& data, double limit) {
 struct Limit {
   const char* label;
   std::string text;
-  screen::Colour colour;
+  drawing::Colour colour;
   const LimitMark& mark;
 };
 
-void DrawLine(screen::DrawSurface& surface, const Paper& paper, const Limit& limit) {
+void DrawLine(drawing::DrawSurface& surface, const Paper& paper, const Limit& limit) {
   const Frame& f = paper.Edges();
   const double place = limit.mark.place;
   if (paper.OutcomesUp())
@@ -51,14 +51,14 @@ Label LabelAt(const Paper& paper, const Limit& limit, Across across, Down down) 
       paper.OutcomesUp()
           ? Point{right ? f.XasEinde : f.XasStart, place + (bottom ? -kBeside : kBeside)}
           : Point{place + (right ? -kBeside : kBeside), bottom ? f.YasBot : f.YasTop};
-  screen::TextStyle style = Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, across, down);
+  drawing::TextStyle style = Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, across, down);
   style.colour = limit.colour;
   return {limit.label, limit.text, at, style};
 }
 
 // The first places lie away from the points, on the side outside of the range: low limits have
 // room below the rising points, high ones above them.
-void DrawLimit(screen::DrawSurface& surface, Labels& labels, const Paper& paper, const Room& room,
+void DrawLimit(drawing::DrawSurface& surface, Labels& labels, const Paper& paper, const Room& room,
                const Limit& limit, Across across, Down down) {
   if (!limit.mark.shown) return;
   DrawLine(surface, paper, limit);
@@ -90,7 +90,7 @@ LimitMark URRMark(const Paper& paper, const PlotData& data, bool active) {
   return MarkAt(paper, data, s.URR);
 }
 
-void DrawLimits(screen::DrawSurface& surface, Labels& labels, const Paper& paper,
+void DrawLimits(drawing::DrawSurface& surface, Labels& labels, const Paper& paper,
                 const PlotData& data, const Room& room, const LimitMark& LOQ,
                 const LimitMark& URR) {
   const ExposureSession& s = data.s;

@@ -71,7 +71,7 @@ ListedPlaces PlacesOf(const Paper& paper, const PlotData& data, const analysis::
           URR};
 }
 
-ListedPlaces PlacesOf(const screen::DrawSurface& surface, const PlotData& data,
+ListedPlaces PlacesOf(const drawing::DrawSurface& surface, const PlotData& data,
                       const analysis::Regression& fit) {
   const AnnexPaper paper(surface, data);
   const int M = SampleCount(data.s);
@@ -108,8 +108,8 @@ std::string DevelopmentListing(const ListedPlaces& places, const PlotData& data,
 }
 
 void PutListing(Labels& labels, const ListedPlaces& places, const std::string& listing) {
-  const screen::TextStyle style =
-      Style(places.width, places.height, 6, screen::Across::Left, screen::Down::Top);
+  const drawing::TextStyle style =
+      Style(places.width, places.height, 6, drawing::Across::Left, drawing::Down::Top);
   labels.push_back(
       {"LblOntwikkel", listing, {places.frame.XasStart + 120, places.frame.YasTop}, style});
 }

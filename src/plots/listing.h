@@ -12,8 +12,8 @@ struct ListedPlaces {
   Frame frame;
   double width = 0;  // of the surface
   double height = 0;
-  screen::Point lowest;  // the outermost points
-  screen::Point highest;
+  drawing::Point lowest;  // the outermost points
+  drawing::Point highest;
   LineEnds line;  // all 0 without one
   LimitMark LOQ;
   LimitMark URR;
@@ -22,7 +22,7 @@ struct ListedPlaces {
 // Of a cumulative plot, and of the paper of Annex E, which has no limits.
 ListedPlaces PlacesOf(const Paper& paper, const PlotData& data, const analysis::Regression& fit,
                       const LimitMark& LOQ, const LimitMark& URR);
-ListedPlaces PlacesOf(const screen::DrawSurface& surface, const PlotData& data,
+ListedPlaces PlacesOf(const drawing::DrawSurface& surface, const PlotData& data,
                       const analysis::Regression& fit);
 
 // The inner values of a plot for whoever works on the program, a line each.

@@ -9,12 +9,12 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Point;
+using drawing::Point;
 
-constexpr screen::Colour kFrame{0, 0, 0};
-constexpr screen::Colour kTick{110, 110, 110};
-constexpr screen::Colour kPoint{0, 0, 170};
-constexpr screen::Colour kOutside{150, 150, 150};  // a point that the line does not follow
+constexpr drawing::Colour kFrame{0, 0, 0};
+constexpr drawing::Colour kTick{110, 110, 110};
+constexpr drawing::Colour kPoint{0, 0, 170};
+constexpr drawing::Colour kOutside{150, 150, 150};  // a point that the line does not follow
 
 constexpr double kHair = 10;
 constexpr double kPen = 15;
@@ -22,7 +22,7 @@ constexpr double kHalfCross = 60;
 constexpr double kAside = 60;       // the frame stands this far outside of the outermost points
 constexpr double kOvershoot = 120;  // and its axes run this far
 
-void DrawFrame(screen::DrawSurface& surface, const Frame& f) {
+void DrawFrame(drawing::DrawSurface& surface, const Frame& f) {
   const double left = f.XasStart - kAside;
   const double right = f.XasEinde + kAside;
   const double top = f.YasTop - kAside;
@@ -33,7 +33,7 @@ void DrawFrame(screen::DrawSurface& surface, const Frame& f) {
   surface.Line({right, top}, {right, bottom}, kFrame, kPen);
 }
 
-void DrawCross(screen::DrawSurface& surface, Point at, screen::Colour colour) {
+void DrawCross(drawing::DrawSurface& surface, Point at, drawing::Colour colour) {
   surface.Line({at.x - kHalfCross, at.y - kHalfCross}, {at.x + kHalfCross, at.y + kHalfCross},
                colour, kPen);
   surface.Line({at.x - kHalfCross, at.y + kHalfCross}, {at.x + kHalfCross, at.y - kHalfCross},
@@ -41,12 +41,12 @@ void DrawCross(screen::DrawSurface& surface, Point at, screen::Colour colour) {
 }
 
 // A tick for the point on either axis.
-void DrawTicks(screen::DrawSurface& surface, const Frame& f, Point at) {
+void DrawTicks(drawing::DrawSurface& surface, const Frame& f, Point at) {
   surface.Line({at.x, f.YasBot + 30}, {at.x, f.YasBot + 150}, kTick, kHair);
   surface.Line({f.XasStart - 30, at.y}, {f.XasStart - 90, at.y}, kTick, kHair);
 }
 
-void DrawPoint(screen::DrawSurface& surface, const Paper& paper, const PlotData& data, int i) {
+void DrawPoint(drawing::DrawSurface& surface, const Paper& paper, const PlotData& data, int i) {
   const ExposureSession& s = data.s;
   const double z = analysis::Score(data.RankitTable, SampleCount(s), i);
   const Point at = paper.At(s.LnC[static_cast<std::size_t>(i)], z);
@@ -56,7 +56,7 @@ void DrawPoint(screen::DrawSurface& surface, const Paper& paper, const PlotData&
 }
 
 // From both ends to the middle, the i-th from the bottom beside the i-th from the top.
-void DrawPoints(screen::DrawSurface& surface, const Paper& paper, const PlotData& data) {
+void DrawPoints(drawing::DrawSurface& surface, const Paper& paper, const PlotData& data) {
   const int M = SampleCount(data.s);
   for (int i = 1; i <= M / 2; ++i) {
     DrawPoint(surface, paper, data, i);
@@ -65,7 +65,8 @@ void DrawPoints(screen::DrawSurface& surface, const Paper& paper, const PlotData
   if (M % 2 == 1) DrawPoint(surface, paper, data, M / 2 + 1);
 }
 
-void DrawCumulative(Axes axes, screen::DrawSurface& surface, Labels& labels, const PlotData& data) {
+void DrawCumulative(Axes axes, drawing::DrawSurface& surface, Labels& labels,
+                    const PlotData& data) {
   const Paper paper(axes, surface, data);
   surface.Clear();
   DrawFrame(surface, paper.Edges());
@@ -75,7 +76,7 @@ void DrawCumulative(Axes axes, screen::DrawSurface& surface, Labels& labels, con
 
 }  // namespace
 
-Paper::Paper(Axes axes, const screen::DrawSurface& surface, const PlotData& data)
+Paper::Paper(Axes axes, const drawing::DrawSurface& surface, const PlotData& data)
     : axes_(axes), width_(surface.ScaleWidth()), height_(surface.ScaleHeight()) {
   const auto M = static_cast<std::size_t>(SampleCount(data.s));
   if (M < 3 || data.s.LnC.size() <= M || data.s.C.size() <= M || data.RankitTable.size() <= M / 2)
@@ -110,16 +111,16 @@ double TextScale(double width, double height) {
   return std::clamp(std::min(width / kWidth, height / kHeight), 0.7, 1.4);
 }
 
-screen::TextStyle Style(double width, double height, double size, screen::Across across,
-                        screen::Down down) {
+drawing::TextStyle Style(double width, double height, double size, drawing::Across across,
+                         drawing::Down down) {
   return {across, down, size * TextScale(width, height), false, {}};
 }
 
-void DrawProbabilityPaper(screen::DrawSurface& surface, Labels& labels, const PlotData& data) {
+void DrawProbabilityPaper(drawing::DrawSurface& surface, Labels& labels, const PlotData& data) {
   DrawCumulative(Axes::OutcomesUp, surface, labels, data);
 }
 
-void DrawInverseCumulative(screen::DrawSurface& surface, Labels& labels, const PlotData& data) {
+void DrawInverseCumulative(drawing::DrawSurface& surface, Labels& labels, const PlotData& data) {
   DrawCumulative(Axes::OutcomesAcross, surface, labels, data);
 }
 

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "base/date_time.h"
+#include "drawing/drawing.h"
 #include "plots/labels.h"
-#include "screen/clock.h"
-#include "screen/drawing.h"
 #include "session/exposure_session.h"
 
 // Cumulative plots of a series: outcomes on the scale of a transformation against their scores. All
@@ -19,7 +19,7 @@ struct PlotData {
   const ExposureSession& s;
   const std::vector<double>& RankitTable;
   std::string Transformation;
-  screen::DateTime time;
+  base::DateTime time;
 };
 
 // Corners of the area between the first and the last point.
@@ -37,7 +37,7 @@ enum class Axes { OutcomesUp, OutcomesAcross };
 class Paper {
  public:
   // Subscript fault unless the data hold M >= 3 outcomes with their scores.
-  Paper(Axes axes, const screen::DrawSurface& surface, const PlotData& data);
+  Paper(Axes axes, const drawing::DrawSurface& surface, const PlotData& data);
 
   const Frame& Edges() const { return frame_; }
   Axes Which() const { return axes_; }
@@ -51,7 +51,7 @@ class Paper {
   // Along the axis of the outcomes, and along that of the scores.
   double OutcomePlace(double CTransf) const;
   double ScorePlace(double z) const;
-  screen::Point At(double CTransf, double z) const;
+  drawing::Point At(double CTransf, double z) const;
 
  private:
   Axes axes_;
@@ -66,13 +66,13 @@ class Paper {
 
 // Sizes and colours of all plots follow the surface: 1 on the window as it opens.
 double TextScale(double width, double height);
-screen::TextStyle Style(double width, double height, double size, screen::Across across,
-                        screen::Down down);
+drawing::TextStyle Style(double width, double height, double size, drawing::Across across,
+                         drawing::Down down);
 
 // Clears the surface and draws frame, axes, ticks and points, and adds the fixed labels, which are
 // left to the caller to write. The score of the lowest outcome stands at the foot or at the left.
-void DrawProbabilityPaper(screen::DrawSurface& surface, Labels& labels, const PlotData& data);
+void DrawProbabilityPaper(drawing::DrawSurface& surface, Labels& labels, const PlotData& data);
 // The same with the axes exchanged.
-void DrawInverseCumulative(screen::DrawSurface& surface, Labels& labels, const PlotData& data);
+void DrawInverseCumulative(drawing::DrawSurface& surface, Labels& labels, const PlotData& data);
 
 }  // namespace PlotWBas

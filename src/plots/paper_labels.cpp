@@ -11,9 +11,9 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Across;
-using screen::Down;
-using screen::Point;
+using drawing::Across;
+using drawing::Down;
+using drawing::Point;
 
 constexpr double kBeside = 150;     // from the frame to what stands beside its ticks
 constexpr double kBesideBar = 340;  // the same where a scroll bar may lie above the frame
@@ -37,10 +37,10 @@ class Writer {
   void PutPercentages();
 
  private:
-  screen::TextStyle StyleOf(double size, Across across, Down down) const {
+  drawing::TextStyle StyleOf(double size, Across across, Down down) const {
     return Style(paper_.ScaleWidth(), paper_.ScaleHeight(), size, across, down);
   }
-  void Put(const char* name, std::string text, Point at, screen::TextStyle style) {
+  void Put(const char* name, std::string text, Point at, drawing::TextStyle style) {
     labels_.push_back({name, std::move(text), at, style});
   }
   void PutOutcome(const char* name, const std::string& text, double CTransf);
@@ -55,7 +55,7 @@ class Writer {
 void Writer::PutTitles() {
   const std::string outcomes = OutcomesTitle(data_.s, data_.Transformation);
   const std::string scores = ScoresTitle(data_.s);
-  const screen::TextStyle vertical = StyleOf(8.5, Across::Right, Down::Bottom);
+  const drawing::TextStyle vertical = StyleOf(8.5, Across::Right, Down::Bottom);
   // The label of the highest mark of the axis lies between.
   Put("LblYasTop", paper_.OutcomesUp() ? outcomes : scores,
       {f_.XasStart - (paper_.OutcomesUp() ? kBeside : kBesideBar),
@@ -120,10 +120,10 @@ std::string HeadlineText(const ExposureSession& s, const std::string& Transforma
          LoadResString(1704);
 }
 
-std::string HeaderText(const ExposureSession& s, const screen::DateTime& time) {
+std::string HeaderText(const ExposureSession& s, const base::DateTime& time) {
   constexpr int kProduct = 17;
-  return GlobalBAS::Trim(LoadResString(kProduct)) + s.CR + "date: " + screen::DateText(time) +
-         s.CR + "time : " + screen::TimeText(time) + s.CR + "window_17a";
+  return GlobalBAS::Trim(LoadResString(kProduct)) + s.CR + "date: " + base::DateText(time) + s.CR +
+         "time : " + base::TimeText(time) + s.CR + "window_17a";
 }
 
 std::string OutcomesTitle(const ExposureSession& s, const std::string& Transformation) {
@@ -138,7 +138,7 @@ std::string ScoresTitle(const ExposureSession& s) {
 
 void PutHeadlines(Labels& labels, double width, double height, const PlotData& data) {
   const std::string headline = HeadlineText(data.s, data.Transformation);
-  screen::TextStyle style = Style(width, height, 11, Across::Centre, Down::Top);
+  drawing::TextStyle style = Style(width, height, 11, Across::Centre, Down::Top);
   style.bold = true;
   style.size = FittingSize(headline, 0.6 * width, style.size, kSmallest);
   labels.push_back({"LblKoptekst", headline, {0.5 * width, kMargin}, style});

@@ -9,7 +9,7 @@ namespace PlotWBas {
 // "A cumulative frequency distribution", of what, on which paper.
 std::string HeadlineText(const ExposureSession& s, const std::string& Transformation);
 // Product, date and time of the drawing, number of the window.
-std::string HeaderText(const ExposureSession& s, const screen::DateTime& time);
+std::string HeaderText(const ExposureSession& s, const base::DateTime& time);
 std::string OutcomesTitle(const ExposureSession& s, const std::string& Transformation);
 std::string ScoresTitle(const ExposureSession& s);
 
@@ -22,10 +22,10 @@ void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data);
 void ArrangeOutcomeLabels(Labels& labels, const Paper& paper);
 
 // The foot of what stands to the right of the plot above the title of an axis of outcomes.
-screen::Point AboveAxisTitle(const Frame& frame, double width, double height);
+drawing::Point AboveAxisTitle(const Frame& frame, double width, double height);
 
 // The foot of what stands to the right of the plot above the title of the horizontal axis, and how
 // far right of the frame it stands.
-screen::Point RightColumn(const Paper& paper);
+drawing::Point RightColumn(const Paper& paper);
 
 }  // namespace PlotWBas

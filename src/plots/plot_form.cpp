@@ -81,7 +81,7 @@ void PlotForm::PlotStatus() {
 
 void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
   using namespace PlotWBas;
-  screen::DrawSurface& surface = PicPlot.drawing;
+  drawing::DrawSurface& surface = PicPlot.drawing;
   const PlotData data = Data();
   if (Upright())
     DrawProbabilityPaper(surface, labels, data);

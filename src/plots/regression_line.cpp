@@ -14,11 +14,11 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Across;
-using screen::Down;
-using screen::Point;
+using drawing::Across;
+using drawing::Down;
+using drawing::Point;
 
-constexpr screen::Colour kLine{190, 0, 0};
+constexpr drawing::Colour kLine{190, 0, 0};
 constexpr double kPen = 22;
 constexpr double kCorner = 1000;
 constexpr double kAbove = 120;  // from the frame to the label of the line's upper end
@@ -46,7 +46,7 @@ std::string Shown(const ExposureSession& s, double outcome) {
 void PutLowerEnd(Labels& labels, const Paper& paper, const std::string& text, double yLow) {
   const Frame& f = paper.Edges();
   const bool up = paper.OutcomesUp();
-  screen::TextStyle style =
+  drawing::TextStyle style =
       Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, up ? Across::Right : Across::Centre,
             up ? Down::Middle : Down::Top);
   style.colour = kLine;
@@ -63,7 +63,7 @@ void PutUpperEnd(Labels& labels, const Paper& paper, const std::string& text, do
                  double texts) {
   const Frame& f = paper.Edges();
   const bool up = paper.OutcomesUp();
-  screen::TextStyle style =
+  drawing::TextStyle style =
       Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, up ? Across::Left : Across::Centre,
             up ? Down::Middle : Down::Bottom);
   style.colour = kLine;
@@ -156,19 +156,19 @@ std::string DescripText(const ExposureSession& s, const analysis::Regression& fi
          GlobalBAS::ShownTrimmed(s, s.M) + LoadResString(1764);
 }
 
-void PutRegressionTexts(Labels& labels, const screen::DrawSurface& surface, const PlotData& data,
+void PutRegressionTexts(Labels& labels, const drawing::DrawSurface& surface, const PlotData& data,
                         const analysis::Regression& fit, Point column) {
   const double W = surface.ScaleWidth();
   const double H = surface.ScaleHeight();
   const double YasBot = 0.9 * H;
-  const screen::TextStyle beside = Style(W, H, 8, Across::Left, Down::Bottom);
+  const drawing::TextStyle beside = Style(W, H, 8, Across::Left, Down::Bottom);
   labels.push_back({"LblShapiro", fit.TestText, column, beside});
   const double above = (RowCount(fit.TestText) + 0.6) * RowHeight(beside);
   labels.push_back(
       {"LblDescrip", DescripText(data.s, fit), {0.8 * W + 150, column.y - above}, beside});
   if (!fit.line) return;
   const std::string through = RegresText(data.s, data.Transformation);
-  screen::TextStyle below = Style(W, H, 8, Across::Centre, Down::Top);
+  drawing::TextStyle below = Style(W, H, 8, Across::Centre, Down::Top);
   // The numbers of the horizontal axis stand between.
   const double under = YasBot + 120 + 1.2 * RowHeight(below);
   // The corners are left to the title of the axis.
@@ -176,7 +176,7 @@ void PutRegressionTexts(Labels& labels, const screen::DrawSurface& surface, cons
   labels.push_back({"LblRegres", through, {0.5 * W, under}, below});
 }
 
-void DrawRegression(screen::DrawSurface& surface, Labels& labels, const Paper& paper,
+void DrawRegression(drawing::DrawSurface& surface, Labels& labels, const Paper& paper,
                     const PlotData& data, const analysis::Regression& fit) {
   PutRegressionTexts(labels, surface, data, fit, RightColumn(paper));
   if (!fit.line) return;

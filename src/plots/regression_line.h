@@ -9,8 +9,8 @@
 namespace PlotWBas {
 
 struct LineEnds {
-  screen::Point lower;
-  screen::Point upper;
+  drawing::Point lower;
+  drawing::Point upper;
 };
 
 // Where the line enters and leaves the frame, by the score at which it meets the lowest and the
@@ -33,12 +33,12 @@ std::string RegresText(const ExposureSession& s, const std::string& Transformati
 std::string DescripText(const ExposureSession& s, const analysis::Regression& fit);
 
 // Draws the line, if there is one, and adds its labels.
-void DrawRegression(screen::DrawSurface& surface, Labels& labels, const Paper& paper,
+void DrawRegression(drawing::DrawSurface& surface, Labels& labels, const Paper& paper,
                     const PlotData& data, const analysis::Regression& fit);
 
 // The three labels about the regression, LblRegres, LblDescrip and LblShapiro. The last stands with
 // its foot at `column`.
-void PutRegressionTexts(Labels& labels, const screen::DrawSurface& surface, const PlotData& data,
-                        const analysis::Regression& fit, screen::Point column);
+void PutRegressionTexts(Labels& labels, const drawing::DrawSurface& surface, const PlotData& data,
+                        const analysis::Regression& fit, drawing::Point column);
 
 }  // namespace PlotWBas

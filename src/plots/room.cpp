@@ -7,9 +7,9 @@
 namespace PlotWBas {
 namespace {
 
-using screen::Across;
-using screen::Down;
-using screen::Point;
+using drawing::Across;
+using drawing::Down;
+using drawing::Point;
 
 constexpr double kHalfCross = 60;
 

@@ -20,7 +20,7 @@ class Room {
 
  private:
   Frame frame_;
-  std::vector<screen::Point> points_;
+  std::vector<drawing::Point> points_;
   std::optional<LineEnds> line_;
 };
 

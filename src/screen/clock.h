@@ -1,28 +1,14 @@
 #pragma once
 
-#include <string>
+#include "base/date_time.h"
 
 namespace screen {
-
-struct DateTime {
-  int year = 2000;
-  int month = 1;  // 1 to 12
-  int day = 1;
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-};
 
 class Clock {
  public:
   virtual ~Clock() = default;
   // The local date and time.
-  virtual DateTime Now() const = 0;
+  virtual base::DateTime Now() const = 0;
 };
-
-// "d mmm yyyy", such as "7 Mar 2024": in English everywhere, like the catalogue.
-std::string DateText(const DateTime& when);
-// "hh:mm:ss", such as "09:05:00".
-std::string TimeText(const DateTime& when);
 
 }  // namespace screen

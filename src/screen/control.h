@@ -1,10 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "drawing/drawing.h"
 
 // The vocabulary of screens: controls as plain state plus handlers. Rules read and write the
 // state; a binder shows it with some toolkit and calls the handlers.
@@ -30,12 +31,7 @@ enum class Kind {
   CommonDialog
 };
 
-struct Colour {
-  std::uint8_t red = 0;
-  std::uint8_t green = 0;
-  std::uint8_t blue = 0;
-  bool operator==(const Colour&) const = default;
-};
+using drawing::Colour;
 
 // What a verdict's words say, for who does not see its colour.
 enum class Sign { None, Tick, Cross };

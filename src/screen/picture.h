@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 #include "screen/form.h"
 
 namespace screen {
@@ -14,7 +14,7 @@ struct Picture : Control {
   Picture(Form& form, std::string pictureName)
       : Control(form, Kind::Picture, std::move(pictureName)) {}
 
-  DrawingRecord drawing{11400, 8100};  // until a view gives it its size
+  drawing::DrawingRecord drawing{11400, 8100};  // until a view gives it its size
 
   Handler Resized;                                    // `drawing` has a new scale
   std::function<void(double x, double y)> MouseDown;  // the place in twips

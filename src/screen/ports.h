@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "drawing/drawing.h"
 #include "screen/clock.h"
 
 // What the screens need of the system around them. The window toolkit has the real ones, tests
@@ -10,7 +11,6 @@ namespace screen {
 
 struct Control;
 struct Form;
-class DrawingRecord;
 
 enum class Icon { None, Exclamation, Question, Information };
 enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
@@ -59,14 +59,14 @@ class PictureFile {
   virtual ~PictureFile() = default;
   // Writes `drawing` as a bitmap beside the file first and then renames it over it, so that the
   // old file survives a failure. Returns false, with nothing changed, on any failure.
-  virtual bool Write(const std::string& path, const DrawingRecord& drawing) = 0;
+  virtual bool Write(const std::string& path, const drawing::DrawingRecord& drawing) = 0;
 };
 
 class PrinterSurface {
  public:
   virtual ~PrinterSurface() = default;
   // Prints `drawing` on a page of its own, as large as the page allows. False when it can't.
-  virtual bool PrintPage(const DrawingRecord& drawing) = 0;
+  virtual bool PrintPage(const drawing::DrawingRecord& drawing) = 0;
 };
 
 struct Ports {

@@ -4,7 +4,7 @@
 
 namespace ui {
 
-screen::DateTime Clock::Now() const {
+base::DateTime Clock::Now() const {
   const QDateTime now = QDateTime::currentDateTime();
   const QDate date = now.date();
   const QTime time = now.time();

@@ -7,7 +7,7 @@ namespace ui {
 // The system's clock.
 class Clock final : public screen::Clock {
  public:
-  screen::DateTime Now() const override;
+  base::DateTime Now() const override;
 };
 
 }  // namespace ui

@@ -12,9 +12,9 @@ namespace {
 constexpr double kTwipsToThePoint = 20;
 constexpr double kDotWidth = 26;  // twips
 
-QColor Shade(screen::Colour colour) { return {colour.red, colour.green, colour.blue}; }
+QColor Shade(drawing::Colour colour) { return {colour.red, colour.green, colour.blue}; }
 
-QFont FontOf(const screen::TextStyle& style, double pixelsToTheTwip) {
+QFont FontOf(const drawing::TextStyle& style, double pixelsToTheTwip) {
   QFont font;
   font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
                     QStringLiteral("Nimbus Sans"), QStringLiteral("DejaVu Sans")});
@@ -24,11 +24,11 @@ QFont FontOf(const screen::TextStyle& style, double pixelsToTheTwip) {
 }
 
 // How far left of its point, in its own widths, a text begins; and how far above, a block of lines.
-double Share(screen::Across across) {
-  return across == screen::Across::Left ? 0 : across == screen::Across::Centre ? 0.5 : 1;
+double Share(drawing::Across across) {
+  return across == drawing::Across::Left ? 0 : across == drawing::Across::Centre ? 0.5 : 1;
 }
-double Share(screen::Down down) {
-  return down == screen::Down::Top ? 0 : down == screen::Down::Middle ? 0.5 : 1;
+double Share(drawing::Down down) {
+  return down == drawing::Down::Top ? 0 : down == drawing::Down::Middle ? 0.5 : 1;
 }
 
 }  // namespace
@@ -39,31 +39,31 @@ PainterSurface::PainterSurface(QPainter& painter, const QRectF& target, QSizeF s
   painter_.setRenderHint(QPainter::TextAntialiasing);
 }
 
-QPointF PainterSurface::Place(screen::Point at) const {
+QPointF PainterSurface::Place(drawing::Point at) const {
   return target_.topLeft() + QPointF(at.x, at.y) * factor_;
 }
 
 void PainterSurface::Clear() { painter_.fillRect(target_, Qt::white); }
 
-void PainterSurface::Line(screen::Point from, screen::Point to, screen::Colour colour,
+void PainterSurface::Line(drawing::Point from, drawing::Point to, drawing::Colour colour,
                           double width) {
   painter_.setPen(QPen(Shade(colour), width * factor_, Qt::SolidLine, Qt::FlatCap));
   painter_.drawLine(Place(from), Place(to));
 }
 
-void PainterSurface::Dot(screen::Point at, screen::Colour colour) {
+void PainterSurface::Dot(drawing::Point at, drawing::Colour colour) {
   painter_.setPen(QPen(Shade(colour), kDotWidth * factor_, Qt::SolidLine, Qt::RoundCap));
   painter_.drawPoint(Place(at));
 }
 
-void PainterSurface::Text(screen::Point at, const std::string& text, const screen::TextStyle& style,
-                          const std::string&) {
+void PainterSurface::Text(drawing::Point at, const std::string& text,
+                          const drawing::TextStyle& style, const std::string&) {
   const QFont font = FontOf(style, factor_);
   painter_.setFont(font);
   painter_.setPen(Shade(style.colour));
   const QFontMetricsF metrics(font, painter_.device());
   const QStringList lines = Lines(text).split(QLatin1Char('\n'));
-  const double spacing = style.size * kTwipsToThePoint * screen::kLineSpacing * factor_;
+  const double spacing = style.size * kTwipsToThePoint * drawing::kLineSpacing * factor_;
   QPointF corner = Place(at);
   corner.ry() -= Share(style.down) * spacing * static_cast<double>(lines.size());
   corner.ry() += (spacing + metrics.ascent() - metrics.descent()) / 2;
@@ -74,7 +74,7 @@ void PainterSurface::Text(screen::Point at, const std::string& text, const scree
   }
 }
 
-void PaintDrawing(QPainter& painter, const QRectF& target, const screen::DrawingRecord& drawing) {
+void PaintDrawing(QPainter& painter, const QRectF& target, const drawing::DrawingRecord& drawing) {
   const QSizeF scale(drawing.ScaleWidth(), drawing.ScaleHeight());
   QRectF place(QPointF(), scale.scaled(target.size(), Qt::KeepAspectRatio));
   place.moveCenter(target.center());

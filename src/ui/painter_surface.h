@@ -2,13 +2,13 @@
 
 #include <QPainter>
 
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 
 namespace ui {
 
 // A drawing surface on anything that can be painted: a widget, an image, a printer's page. Fonts
 // and lines are made in the painter's own size, so that they are sharp on each.
-class PainterSurface final : public screen::DrawSurface {
+class PainterSurface final : public drawing::DrawSurface {
  public:
   // The drawing of `scale` twips fills `target`, which has the same proportions.
   PainterSurface(QPainter& painter, const QRectF& target, QSizeF scale);
@@ -17,13 +17,13 @@ class PainterSurface final : public screen::DrawSurface {
   double ScaleHeight() const override { return scale_.height(); }
   // White paper.
   void Clear() override;
-  void Line(screen::Point from, screen::Point to, screen::Colour colour, double width) override;
-  void Dot(screen::Point at, screen::Colour colour) override;
-  void Text(screen::Point at, const std::string& text, const screen::TextStyle& style,
+  void Line(drawing::Point from, drawing::Point to, drawing::Colour colour, double width) override;
+  void Dot(drawing::Point at, drawing::Colour colour) override;
+  void Text(drawing::Point at, const std::string& text, const drawing::TextStyle& style,
             const std::string& label) override;
 
  private:
-  QPointF Place(screen::Point at) const;
+  QPointF Place(drawing::Point at) const;
 
   QPainter& painter_;
   QRectF target_;
@@ -32,6 +32,6 @@ class PainterSurface final : public screen::DrawSurface {
 };
 
 // Paints the drawing on white paper, as large as fits and in the middle of `target`.
-void PaintDrawing(QPainter& painter, const QRectF& target, const screen::DrawingRecord& drawing);
+void PaintDrawing(QPainter& painter, const QRectF& target, const drawing::DrawingRecord& drawing);
 
 }  // namespace ui

@@ -15,7 +15,7 @@ constexpr int kDotsToTheMetre = 7559;  // 192 to the inch
 
 }  // namespace
 
-bool PictureFile::Write(const std::string& path, const screen::DrawingRecord& drawing) {
+bool PictureFile::Write(const std::string& path, const drawing::DrawingRecord& drawing) {
   const QSizeF size = QSizeF(drawing.ScaleWidth(), drawing.ScaleHeight()) * kDotsToTheTwip;
   QImage image(size.toSize(), QImage::Format_RGB32);
   if (image.isNull()) return false;

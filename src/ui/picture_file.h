@@ -7,7 +7,7 @@ namespace ui {
 // Bitmap files, at twice the window's resolution.
 class PictureFile final : public screen::PictureFile {
  public:
-  bool Write(const std::string& path, const screen::DrawingRecord& drawing) override;
+  bool Write(const std::string& path, const drawing::DrawingRecord& drawing) override;
 };
 
 }  // namespace ui

@@ -24,7 +24,7 @@ void PictureView::Refresh() {
 void PictureView::Describe() {
   QStringList texts;
   for (const auto& item : picture_->drawing.Items())
-    if (const auto* text = std::get_if<screen::DrawnText>(&item))
+    if (const auto* text = std::get_if<drawing::DrawnText>(&item))
       texts += Lines(text->text).simplified();
   setAccessibleDescription(texts.join(QLatin1String("; ")));
 }
@@ -42,7 +42,7 @@ void PictureView::showEvent(QShowEvent*) { TakeSize(); }
 void PictureView::TakeSize() {
   if (!picture_ || !isVisible() || size().isEmpty()) return;
   const QPointF scale = Twips({static_cast<double>(width()), static_cast<double>(height())});
-  screen::DrawingRecord& drawing = picture_->drawing;
+  drawing::DrawingRecord& drawing = picture_->drawing;
   if (drawing.ScaleWidth() == scale.x() && drawing.ScaleHeight() == scale.y()) return;
   drawing.SetScale(scale.x(), scale.y());
   emit Resized();

@@ -7,7 +7,7 @@
 
 namespace ui {
 
-bool PrintOn(QPagedPaintDevice& device, const screen::DrawingRecord& drawing) {
+bool PrintOn(QPagedPaintDevice& device, const drawing::DrawingRecord& drawing) {
   const bool lying = drawing.ScaleWidth() > drawing.ScaleHeight();
   device.setPageOrientation(lying ? QPageLayout::Landscape : QPageLayout::Portrait);
   QPainter painter;
@@ -16,7 +16,7 @@ bool PrintOn(QPagedPaintDevice& device, const screen::DrawingRecord& drawing) {
   return painter.end();
 }
 
-bool Printer::PrintPage(const screen::DrawingRecord& drawing) {
+bool Printer::PrintPage(const drawing::DrawingRecord& drawing) {
   QPrinter printer(QPrinter::HighResolution);
   // Without a printer the toolkit would offer to print into a file.
   if (!printer.isValid() || printer.outputFormat() != QPrinter::NativeFormat) return false;

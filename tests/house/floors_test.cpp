@@ -17,9 +17,10 @@ Floors TableOfThePage() {
 
 TEST(Floors, EveryFolderOfTheHouseHasItsRowInTheArchitecturePage) {
   const Floors floors = TableOfThePage();
-  for (const char* folder : {"base", "catalog", "session", "stats", "screen", "navigation",
-                             "analysis", "rawdata", "limits", "compliance", "start", "ui", "drive"})
-    EXPECT_TRUE(floors.contains(folder)) << folder;
+  for (const char* library :
+       {"base", "catalog", "session", "stats", "drawing", "screen", "navigation", "analysis",
+        "rawdata", "limits", "compliance", "plots", "plots_screen", "start", "ui", "drive"})
+    EXPECT_TRUE(floors.contains(library)) << library;
 }
 
 std::set<std::string> EverythingBelow(const Floors& floors, const std::string& folder) {
@@ -44,25 +45,27 @@ TEST(Floors, TheTableLeadsDownwardsOnly) {
     EXPECT_FALSE(EverythingBelow(floors, folder).contains(folder)) << folder << " uses itself";
 }
 
-TEST(Floors, NoFileIncludesAFolderThatItsRowLacks) {
+TEST(Floors, NoFileIncludesALibraryThatItsRowLacks) {
   const Floors floors = TableOfThePage();
+  const std::vector<SourceFile> tree = ReadTree(kRoot);
+  const Libraries libraries(tree);
   int looked = 0;
-  for (const SourceFile& file : ReadTree(kRoot)) {
-    looked += floors.contains(file.Folder()) ? 1 : 0;
-    EXPECT_THAT(IncludeFaults(file, floors), IsEmpty());
+  for (const SourceFile& file : tree) {
+    looked += IsCpp(file) && file.path.starts_with("src/") ? 1 : 0;
+    EXPECT_THAT(IncludeFaults(file, libraries, floors), IsEmpty());
   }
   EXPECT_GT(looked, 40) << "the tree was not read";
 }
 
-TEST(Floors, EveryFolderLinksExactlyWhatItsRowNames) {
+TEST(Floors, EveryLibraryLinksExactlyWhatItsRowNames) {
   const Floors floors = TableOfThePage();
   int libraries = 0;
   for (const SourceFile& file : ReadTree(kRoot)) {
     if (!IsCMake(file)) continue;
-    for (const auto& [folder, linked] : LinkedFolders(file.text)) {
+    for (const auto& [library, linked] : LinkedLibraries(file.text)) {
       ++libraries;
-      ASSERT_TRUE(floors.contains(folder)) << folder;
-      EXPECT_EQ(linked, floors.at(folder)) << folder;
+      ASSERT_TRUE(floors.contains(library)) << library;
+      EXPECT_EQ(linked, floors.at(library)) << library;
     }
   }
   EXPECT_GE(libraries, 11);
@@ -86,24 +89,70 @@ TEST(FloorsCheck, ReadsTheTable) {
             (Floors{{"roof", {"cellar", "hall"}}, {"hall", {"cellar"}}, {"cellar", {}}}));
 }
 
+// Each folder of the page above with one library.
+Libraries OneEach() {
+  return Libraries(std::vector<SourceFile>{
+      {"src/roof/CMakeLists.txt", "valkorin_library(roof SOURCES tile.cpp)"},
+      {"src/hall/CMakeLists.txt", "valkorin_library(hall SOURCES door.cpp)"},
+      {"src/cellar/CMakeLists.txt", "valkorin_library(cellar SOURCES wine.cpp)"}});
+}
+
 TEST(FloorsCheck, BitesOnAnIncludeFromAbove) {
   const SourceFile file{"src/hall/door.cpp",
                         "#include \"cellar/wine.h\"\n#include \"roof/tile.h\"\n"};
-  EXPECT_THAT(IncludeFaults(file, ReadFloors(kPage)),
-              ElementsAre("src/hall/door.cpp:2: hall/ may not include roof/tile.h"));
+  EXPECT_THAT(IncludeFaults(file, OneEach(), ReadFloors(kPage)),
+              ElementsAre("src/hall/door.cpp:2: hall may not include roof/tile.h"));
 }
 
 TEST(FloorsCheck, BitesOnAnIncludeWithoutItsFolder) {
   const SourceFile file{"src/hall/door.cpp",
                         "#include \"handle.h\"\n  # include \"hall/lock.h\"\n"};
-  EXPECT_THAT(IncludeFaults(file, ReadFloors(kPage)),
-              ElementsAre("src/hall/door.cpp:1: hall/ may not include handle.h"));
+  EXPECT_THAT(IncludeFaults(file, OneEach(), ReadFloors(kPage)),
+              ElementsAre("src/hall/door.cpp:1: hall may not include handle.h"));
 }
 
 TEST(FloorsCheck, ReadsWhatALibraryLinks) {
-  EXPECT_EQ(LinkedFolders("valkorin_library(hall\n SOURCES a.cpp b.cpp\n USES cellar roof)\n"
-                          "valkorin_library(cellar SOURCES c.cpp)\n"),
+  EXPECT_EQ(LinkedLibraries("valkorin_library(hall\n SOURCES a.cpp b.cpp\n USES cellar roof)\n"
+                            "valkorin_library(cellar SOURCES c.cpp)\n"),
             (Floors{{"hall", {"cellar", "roof"}}, {"cellar", {}}}));
+}
+
+// A folder with formulas and a screen.
+const char* const kTwoRows =
+    "| 2 | `hall/` screens | what one sees | `hall` |\n"
+    "| 1 | `hall/` | sums | nothing |\n";
+
+Libraries Two() {
+  return Libraries(std::vector<SourceFile>{
+      {"src/hall/CMakeLists.txt",
+       "valkorin_library(hall SOURCES sum.cpp HEADERS word.h)\n"
+       "valkorin_library(hall_screen\n  SOURCES form.cpp\n  USES hall)\n"}});
+}
+
+TEST(FloorsCheck, ReadsTheRowOfAFoldersScreens) {
+  EXPECT_EQ(ReadFloors(kTwoRows), (Floors{{"hall_screen", {"hall"}}, {"hall", {}}}));
+}
+
+TEST(FloorsCheck, AHeaderBelongsToTheLibraryOfTheSourceOfItsName) {
+  const Libraries libraries = Two();
+  EXPECT_EQ(libraries.Of("hall/sum.h"), "hall");
+  EXPECT_EQ(libraries.Of("hall/word.h"), "hall");
+  EXPECT_EQ(libraries.Of("hall/form.h"), "hall_screen");
+  EXPECT_EQ(libraries.Of("hall/form.cpp"), "hall_screen");
+  EXPECT_EQ(libraries.Of("hall/stray.h"), "");
+}
+
+TEST(FloorsCheck, BitesOnAFormulaThatKnowsItsOwnScreen) {
+  const SourceFile formula{"src/hall/sum.cpp", "#include \"hall/form.h\"\n#include \"hall/sum.h\""};
+  EXPECT_THAT(IncludeFaults(formula, Two(), ReadFloors(kTwoRows)),
+              ElementsAre("src/hall/sum.cpp:1: hall may not include hall/form.h"));
+  const SourceFile screen{"src/hall/form.cpp", "#include \"hall/sum.h\"\n"};
+  EXPECT_THAT(IncludeFaults(screen, Two(), ReadFloors(kTwoRows)), IsEmpty());
+}
+
+TEST(FloorsCheck, BitesOnAFileThatNoLibraryLists) {
+  EXPECT_THAT(IncludeFaults({"src/hall/stray.h", ""}, Two(), ReadFloors(kTwoRows)),
+              ElementsAre("src/hall/stray.h: belongs to no library of the table"));
 }
 
 TEST(FloorsCheck, BitesOnTheToolkitInARule) {

@@ -33,7 +33,7 @@ void Restrict(ExposureSession& s) {
 }
 
 // The drawing without its grid, which other tests check; of many crosses, some.
-std::string Kept(const screen::DrawingRecord& drawing, int everyCross) {
+std::string Kept(const drawing::DrawingRecord& drawing, int everyCross) {
   const std::string whole = drawing_text::Whole(drawing);
   std::string kept;
   int crosses = 0;

@@ -61,9 +61,9 @@ struct Annex {
     return *label;
   }
   bool Has(const std::string& name) const { return PlotWBas::FindLabel(labels, name) != nullptr; }
-  bool HasLine(screen::Point from, screen::Point to) const {
+  bool HasLine(drawing::Point from, drawing::Point to) const {
     for (const auto& item : drawing.Items()) {
-      const auto* line = std::get_if<screen::DrawnLine>(&item);
+      const auto* line = std::get_if<drawing::DrawnLine>(&item);
       if (line && std::abs(line->from.x - from.x) + std::abs(line->from.y - from.y) +
                           std::abs(line->to.x - to.x) + std::abs(line->to.y - to.y) <
                       1e-6)
@@ -71,7 +71,7 @@ struct Annex {
     }
     return false;
   }
-  bool HasCross(screen::Point at) const {
+  bool HasCross(drawing::Point at) const {
     return HasLine({at.x - 60, at.y - 60}, {at.x + 60, at.y + 60}) &&
            HasLine({at.x - 60, at.y + 60}, {at.x + 60, at.y - 60});
   }
@@ -79,7 +79,7 @@ struct Annex {
   ExposureSession s;
   analysis::FitState state;
   analysis::Regression fit;
-  screen::DrawingRecord drawing{kWidth, kHeight};
+  drawing::DrawingRecord drawing{kWidth, kHeight};
   PlotWBas::Labels labels;
 
  private:

@@ -12,12 +12,12 @@
 
 namespace {
 
+using drawing::DrawingRecord;
+using drawing::DrawnDot;
+using drawing::DrawnText;
 using PlotWBas::Box;
 using PlotWBas::BoxOf;
 using PlotWBas::Wrapped;
-using screen::DrawingRecord;
-using screen::DrawnDot;
-using screen::DrawnText;
 
 struct Size {
   double width;
@@ -52,7 +52,7 @@ bool Touch(const Box& a, const Box& b) {
   return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
-bool Holds(const Box& box, screen::Point at) {
+bool Holds(const Box& box, drawing::Point at) {
   return at.x > box.left && at.x < box.right && at.y > box.top && at.y < box.bottom;
 }
 

@@ -9,11 +9,11 @@
 
 namespace {
 
+using drawing::DrawingRecord;
+using drawing::DrawnDot;
+using drawing::DrawnLine;
 using PlotWBas::DensityData;
 using PlotWBas::DrawDensity;
-using screen::DrawingRecord;
-using screen::DrawnDot;
-using screen::DrawnLine;
 
 constexpr double kWidth = 11400;
 constexpr double kHeight = 8100;
@@ -43,7 +43,7 @@ std::vector<DrawnDot> Curve(const DensityData& data, double width = kWidth,
   return All<DrawnDot>(drawing);
 }
 
-bool HasLine(const DrawingRecord& drawing, screen::Point from, screen::Point to) {
+bool HasLine(const DrawingRecord& drawing, drawing::Point from, drawing::Point to) {
   for (const DrawnLine& line : All<DrawnLine>(drawing)) {
     const double off = std::abs(line.from.x - from.x) + std::abs(line.from.y - from.y) +
                        std::abs(line.to.x - to.x) + std::abs(line.to.y - to.y);
@@ -75,7 +75,7 @@ TEST(Density, ThePeakReachesTheTopOfTheAxisAndTheCurveIsBlue) {
   double top = kHeight;
   for (const DrawnDot& dot : dots) {
     top = std::min(top, dot.at.y);
-    EXPECT_EQ(dot.colour, (screen::Colour{0, 0, 255}));
+    EXPECT_EQ(dot.colour, (drawing::Colour{0, 0, 255}));
   }
   EXPECT_GE(top, 60);
   EXPECT_LT(top, 62);

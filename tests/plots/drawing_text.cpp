@@ -12,11 +12,11 @@
 namespace drawing_text {
 namespace {
 
-using screen::Colour;
-using screen::DrawnDot;
-using screen::DrawnLine;
-using screen::DrawnText;
-using screen::Point;
+using drawing::Colour;
+using drawing::DrawnDot;
+using drawing::DrawnLine;
+using drawing::DrawnText;
+using drawing::Point;
 
 std::string Number(double value) {
   std::array<char, 400> buffer{};
@@ -51,14 +51,14 @@ std::string Text(const DrawnDot& dot) { return "dot " + Text(dot.at) + " " + Tex
 std::string Text(const DrawnText& text) {
   constexpr std::array kAcross = {"left", "centre", "right"};
   constexpr std::array kDown = {"top", "middle", "bottom"};
-  const screen::TextStyle& style = text.style;
+  const drawing::TextStyle& style = text.style;
   return text.label + " " + Text(text.at) + " " +
          kAcross.at(static_cast<std::size_t>(style.across)) + " " +
          kDown.at(static_cast<std::size_t>(style.down)) + " " + Number(style.size) +
          (style.bold ? " bold " : " ") + Text(style.colour) + " " + Quoted(text.text);
 }
 
-using Items = std::vector<screen::DrawingRecord::Item>;
+using Items = std::vector<drawing::DrawingRecord::Item>;
 
 const DrawnLine* LineAt(const Items& items, std::size_t i) {
   return i < items.size() ? std::get_if<DrawnLine>(&items[i]) : nullptr;
@@ -81,7 +81,7 @@ bool PointAt(const Items& items, std::size_t i) {
          near(l[3]->from.y, l[2]->to.y);
 }
 
-std::vector<std::string> LinesOf(const screen::DrawingRecord& drawing) {
+std::vector<std::string> LinesOf(const drawing::DrawingRecord& drawing) {
   const Items& items = drawing.Items();
   std::vector<std::string> lines;
   for (std::size_t i = 0; i < items.size(); ++i) {
@@ -107,13 +107,13 @@ std::uint64_t Sum(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-std::string Whole(const screen::DrawingRecord& drawing) {
+std::string Whole(const drawing::DrawingRecord& drawing) {
   std::string text;
   for (const std::string& line : LinesOf(drawing)) text += line + "\n";
   return text;
 }
 
-std::string Digest(const screen::DrawingRecord& drawing) {
+std::string Digest(const drawing::DrawingRecord& drawing) {
   const std::vector<std::string> lines = LinesOf(drawing);
   std::string text = "sum " + Whole(Sum(lines)) + " of " + Whole(lines.size()) + " lines\n";
   std::size_t points = 0;

@@ -39,11 +39,11 @@ TEST(PlotLabels, CountTheLinesThatAreShown) {
 }
 
 TEST(PlotLabels, AreDrawnWithoutALineEndBehindThem) {
-  screen::DrawingRecord drawing(1000, 1000);
+  drawing::DrawingRecord drawing(1000, 1000);
   const Labels labels = {{"One", "a\rb\r", {1, 2}, {}}, {"Two", "", {3, 4}, {}}};
   PlotWBas::WriteLabels(drawing, labels);
   ASSERT_EQ(drawing.Items().size(), 2U);
-  const auto& one = std::get<screen::DrawnText>(drawing.Items()[0]);
+  const auto& one = std::get<drawing::DrawnText>(drawing.Items()[0]);
   EXPECT_EQ(one.label, "One");
   EXPECT_EQ(one.text, "a\rb");
   EXPECT_EQ(PlotWBas::FindLabel(labels, "Two"), &labels[1]);

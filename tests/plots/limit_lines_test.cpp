@@ -93,9 +93,9 @@ TEST(LimitLines, AreDrawnAcrossTheFrameWithTheirLimitsBesideThem) {
   plot.Draw(Axes::OutcomesUp);
   EXPECT_EQ(plot.Text("LblLnLOQ"), "LOQ      3");
   EXPECT_EQ(plot.Text("LblLnURR"), "URR     20");
-  std::vector<screen::DrawnLine> level;
+  std::vector<drawing::DrawnLine> level;
   for (const auto& item : plot.drawing.Items())
-    if (const auto* line = std::get_if<screen::DrawnLine>(&item))
+    if (const auto* line = std::get_if<drawing::DrawnLine>(&item))
       if (line->from.x == 0.2 * W && line->to.x == 0.8 * W && line->from.y == line->to.y)
         level.push_back(*line);
   ASSERT_EQ(level.size(), 2U);
@@ -108,7 +108,7 @@ TEST(LimitLines, StandUprightWhereTheOutcomesRunAcross) {
   limits.plot.Draw(Axes::OutcomesAcross);
   int upright = 0;
   for (const auto& item : limits.plot.drawing.Items())
-    if (const auto* line = std::get_if<screen::DrawnLine>(&item))
+    if (const auto* line = std::get_if<drawing::DrawnLine>(&item))
       upright += line->from.y == 0.2 * H && line->to.y == 0.9 * H && line->from.x == line->to.x;
   EXPECT_EQ(upright, 2);
 }

@@ -11,11 +11,11 @@
 
 namespace {
 
-using screen::Across;
-using screen::Down;
-using screen::DrawnLine;
-using screen::DrawnText;
-using screen::Point;
+using drawing::Across;
+using drawing::Down;
+using drawing::DrawnLine;
+using drawing::DrawnText;
+using drawing::Point;
 
 struct Box {
   double left;
@@ -67,7 +67,7 @@ struct Seen {
   std::vector<DrawnLine> slanting;
 };
 
-Seen Look(const screen::DrawingRecord& drawing) {
+Seen Look(const drawing::DrawingRecord& drawing) {
   Seen seen;
   for (const auto& item : drawing.Items()) {
     if (const auto* text = std::get_if<DrawnText>(&item)) seen.texts.push_back(*text);
@@ -77,7 +77,7 @@ Seen Look(const screen::DrawingRecord& drawing) {
   return seen;
 }
 
-void ExpectReadable(const screen::DrawingRecord& drawing) {
+void ExpectReadable(const drawing::DrawingRecord& drawing) {
   const Seen seen = Look(drawing);
   for (std::size_t i = 0; i < seen.texts.size(); ++i) {
     const Box box = BoxOf(seen.texts[i]);

@@ -12,10 +12,10 @@
 
 namespace {
 
+using drawing::DrawnLine;
+using drawing::Point;
 using plot_data::Plot;
 using PlotWBas::Axes;
-using screen::DrawnLine;
-using screen::Point;
 using support::Row;
 
 // The marks of one point in the order in which they are drawn.
@@ -28,7 +28,7 @@ struct Marks {
 
 constexpr std::size_t kFrameLines = 4;
 
-Marks MarksAt(const screen::DrawingRecord& drawing, std::size_t point) {
+Marks MarksAt(const drawing::DrawingRecord& drawing, std::size_t point) {
   const auto line = [&](std::size_t k) {
     return std::get<DrawnLine>(drawing.Items().at(kFrameLines + 4 * point + k));
   };
@@ -121,8 +121,8 @@ TEST_P(ProbabilityPaper, ShowsThePointsOutsideOfTheRangeInAnotherColour) {
   ExposureSession s = plot_data::Series(20);
   plot_data::Restrict(s);
   const Plot plot = Drawn(s, "Log(x)", GetParam());
-  const screen::Colour outside = MarksAt(plot.drawing, 0).falling.colour;  // of the lowest
-  const screen::Colour inside = MarksAt(plot.drawing, 19).falling.colour;  // of the middle
+  const drawing::Colour outside = MarksAt(plot.drawing, 0).falling.colour;  // of the lowest
+  const drawing::Colour inside = MarksAt(plot.drawing, 19).falling.colour;  // of the middle
   EXPECT_NE(outside, inside);
   EXPECT_EQ(MarksAt(plot.drawing, 1).falling.colour, outside);  // of the highest
   EXPECT_EQ(MarksAt(plot.drawing, 4).falling.colour, inside);   // of the third: two lie below
@@ -150,7 +150,7 @@ TEST_P(ProbabilityPaper, OfTwoOutcomesIsASubscriptFault) {
   ExposureSession s = plot_data::Series(3);
   s.M = 2;
   const std::vector<double> R = {0, 0.5};
-  screen::DrawingRecord drawing(1000, 1000);
+  drawing::DrawingRecord drawing(1000, 1000);
   PlotWBas::Labels labels;
   const PlotWBas::PlotData data{s, R, "Log(x)", {}};
   EXPECT_THROW(DrawProbabilityPaper(drawing, labels, data), RunTimeError);

@@ -27,7 +27,7 @@ struct Plot {
   ExposureSession s;
   analysis::FitState state;
   analysis::Regression fit;
-  screen::DrawingRecord drawing;
+  drawing::DrawingRecord drawing;
   PlotWBas::Labels labels;
 
   PlotWBas::PlotData Data() const;

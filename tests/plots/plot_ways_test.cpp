@@ -110,7 +110,7 @@ TEST_F(PlotWays, RedrawThePictureWhenItsSizeChanges) {
   screen::Picture& picture = p.Plot().PicPlot;
   picture.drawing.SetScale(20000, 12000);
   screen::Guarded(p.ports, picture.Resized);
-  const auto& frame = std::get<screen::DrawnLine>(picture.drawing.Items().front());
+  const auto& frame = std::get<drawing::DrawnLine>(picture.drawing.Items().front());
   EXPECT_EQ(frame.from.x, 0.2 * 20000 - 60);
 }
 

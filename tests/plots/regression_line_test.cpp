@@ -37,7 +37,7 @@ struct Line {
   LineEnds Ends(Axes axes) const { return RegressionEnds(plot.Paper(axes), plot.fit); }
 };
 
-void ExpectAt(screen::Point at, double x, double y) {
+void ExpectAt(drawing::Point at, double x, double y) {
   EXPECT_NEAR(at.x, x, 1e-6);
   EXPECT_NEAR(at.y, y, 1e-6);
 }
@@ -172,10 +172,10 @@ TEST(RegressionTexts, StandAHundredAndTwentyTwipsUnderTheFrameAndInItsMiddle) {
   plot.Draw(Axes::OutcomesUp);
   const PlotWBas::Label& shapiro = *PlotWBas::FindLabel(plot.labels, "LblShapiro");
   EXPECT_EQ(shapiro.at.y, 0.9 * H + 120);
-  EXPECT_EQ(shapiro.style.down, screen::Down::Bottom);
+  EXPECT_EQ(shapiro.style.down, drawing::Down::Bottom);
   const PlotWBas::Label& regres = *PlotWBas::FindLabel(plot.labels, "LblRegres");
   EXPECT_EQ(regres.at.x, 0.5 * W);
-  EXPECT_EQ(regres.style.across, screen::Across::Centre);
+  EXPECT_EQ(regres.style.across, drawing::Across::Centre);
   // One row of the scale's percentages stands between.
   EXPECT_NEAR(regres.at.y, 0.9 * H + 120 + 1.2 * PlotWBas::RowHeight(regres.style), 1e-9);
 }

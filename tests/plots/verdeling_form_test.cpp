@@ -45,7 +45,7 @@ std::vector<screen::ControlState> Look(const screen::Form& form) {
 }
 
 // The drawing as text; of the curve every fiftieth point.
-std::string Kept(const screen::DrawingRecord& drawing) {
+std::string Kept(const drawing::DrawingRecord& drawing) {
   const std::string whole = drawing_text::Whole(drawing);
   std::string kept;
   int dots = 0;
@@ -150,7 +150,7 @@ TEST(FrequencyPicture, FollowsANewSize) {
   screen::Picture& picture = user.Picture().VerdelingPict;
   picture.drawing.SetScale(18000, 10000);
   screen::Guarded(user.ports, picture.Resized);
-  screen::DrawingRecord expected(18000, 10000);
+  drawing::DrawingRecord expected(18000, 10000);
   PlotWBas::DrawDensity(expected, PlotWBas::DensityOf(user.Record(), user.clock.Now()));
   EXPECT_EQ(picture.drawing.Items(), expected.Items());
 }

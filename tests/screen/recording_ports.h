@@ -28,15 +28,15 @@ struct Surface : screen::Surface {
 };
 
 struct Clock : screen::Clock {
-  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+  base::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
 };
 
 struct PictureFile : screen::PictureFile {
-  bool Write(const std::string&, const screen::DrawingRecord&) override { return false; }
+  bool Write(const std::string&, const drawing::DrawingRecord&) override { return false; }
 };
 
 struct Printer : screen::PrinterSurface {
-  bool PrintPage(const screen::DrawingRecord&) override { return false; }
+  bool PrintPage(const drawing::DrawingRecord&) override { return false; }
 };
 
 struct Ports {

@@ -32,12 +32,12 @@ std::string RecordingDialog::Ask(const Request& request) {
   return Next(answers, std::string());
 }
 
-bool RecordingPictures::Write(const std::string& path, const screen::DrawingRecord& drawing) {
+bool RecordingPictures::Write(const std::string& path, const drawing::DrawingRecord& drawing) {
   if (!fails) written.push_back({path, drawing});
   return !fails;
 }
 
-bool RecordingPrinter::PrintPage(const screen::DrawingRecord& drawing) {
+bool RecordingPrinter::PrintPage(const drawing::DrawingRecord& drawing) {
   if (!fails) pages.push_back(drawing);
   return !fails;
 }

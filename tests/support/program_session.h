@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 #include "screen/ports.h"
 #include "start/program.h"
 
@@ -48,7 +48,7 @@ class CountingSurface final : public screen::Surface {
 // A clock that stands still.
 class FixedClock final : public screen::Clock {
  public:
-  screen::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
+  base::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
 };
 
 // Keeps the pictures that were to be written, or refuses them all.
@@ -56,9 +56,9 @@ class RecordingPictures final : public screen::PictureFile {
  public:
   struct Written {
     std::string path;
-    screen::DrawingRecord drawing;
+    drawing::DrawingRecord drawing;
   };
-  bool Write(const std::string& path, const screen::DrawingRecord& drawing) override;
+  bool Write(const std::string& path, const drawing::DrawingRecord& drawing) override;
   std::vector<Written> written;
   bool fails = false;
 };
@@ -66,8 +66,8 @@ class RecordingPictures final : public screen::PictureFile {
 // Keeps the printed pages, or has no paper.
 class RecordingPrinter final : public screen::PrinterSurface {
  public:
-  bool PrintPage(const screen::DrawingRecord& drawing) override;
-  std::vector<screen::DrawingRecord> pages;
+  bool PrintPage(const drawing::DrawingRecord& drawing) override;
+  std::vector<drawing::DrawingRecord> pages;
   bool fails = false;
 };
 

@@ -20,10 +20,10 @@
 
 namespace {
 
-using screen::Across;
-using screen::DrawingRecord;
+using drawing::Across;
+using drawing::DrawingRecord;
 
-constexpr screen::Colour kRed{255, 0, 0};
+constexpr drawing::Colour kRed{255, 0, 0};
 
 class Painting : public testing::Test {
  protected:

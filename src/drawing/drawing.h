@@ -1,14 +1,20 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <variant>
 #include <vector>
 
-#include "screen/control.h"
-
 // Drawings as lines, points and texts in twips (1440 to the inch). The screen, a bitmap file and a
 // printer page are surfaces for one and the same drawing routine.
-namespace screen {
+namespace drawing {
+
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  bool operator==(const Colour&) const = default;
+};
 
 // From the top left corner, in twips.
 struct Point {
@@ -102,4 +108,4 @@ class DrawingRecord final : public DrawSurface {
   std::vector<Item> items_;
 };
 
-}  // namespace screen
+}  // namespace drawing

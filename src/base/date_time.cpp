@@ -1,9 +1,9 @@
-#include "screen/clock.h"
+#include "base/date_time.h"
 
 #include <array>
 #include <charconv>
 
-namespace screen {
+namespace base {
 namespace {
 
 std::string Digits(int value) {
@@ -27,4 +27,4 @@ std::string TimeText(const DateTime& when) {
   return TwoDigits(when.hour) + ":" + TwoDigits(when.minute) + ":" + TwoDigits(when.second);
 }
 
-}  // namespace screen
+}  // namespace base

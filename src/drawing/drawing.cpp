@@ -1,8 +1,8 @@
-#include "screen/drawing.h"
+#include "drawing/drawing.h"
 
 #include <utility>
 
-namespace screen {
+namespace drawing {
 namespace {
 
 struct Replay {
@@ -49,4 +49,4 @@ void DrawingRecord::Add(Item item) {
   ++revision_;
 }
 
-}  // namespace screen
+}  // namespace drawing
