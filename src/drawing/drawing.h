@@ -39,6 +39,9 @@ struct TextStyle {
 // From one line of a text to the next, in font sizes.
 inline constexpr double kLineSpacing = 1.2;
 
+// Of a point that Dot draws, in twips.
+inline constexpr double kDotWidth = 26;
+
 class DrawSurface {
  public:
   virtual ~DrawSurface() = default;
@@ -48,7 +51,7 @@ class DrawSurface {
   // `width` of the stroke in twips.
   virtual void Line(Point from, Point to, Colour colour, double width) = 0;
   virtual void Dot(Point at, Colour colour) = 0;
-  // `label` names the text on the screen; lines are separated by CR. Family Arial.
+  // `label` names the text on the screen; lines are separated by CR.
   virtual void Text(Point at, const std::string& text, const TextStyle& style,
                     const std::string& label) = 0;
 };

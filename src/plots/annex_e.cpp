@@ -115,7 +115,7 @@ bool Annex::PutExposure(const DecadeTick& tick, std::vector<std::pair<double, do
   const TextStyle style = StyleOf(8, Across::Centre, Down::Top);
   const std::string text = GlobalBAS::FileText(tick.value);
   const double x = paper_.X(analysis::TransformValue(data_.Transformation, tick.value));
-  const double half = TextWidth(text, style.size) / 2 + 30;
+  const double half = TextWidth(text, style) / 2 + 30;
   for (const auto& [left, right] : taken)
     if (x - half < right && left < x + half) return false;
   taken.push_back({x - half, x + half});

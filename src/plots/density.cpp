@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "base/fault.h"
 #include "plots/density_labels.h"
@@ -50,9 +51,16 @@ void DrawMark(drawing::DrawSurface& surface, const DensityScale& scale, const De
   DrawTick(surface, scale, X, mark.colour);
 }
 
+// The points of the method, and on a large surface lines that close the gaps between them.
 void DrawCurve(drawing::DrawSurface& surface, const DensityScale& scale, const DensityData& data) {
-  for (double x = data.xStart; x <= data.xEnd; x = scale.Next(x))
-    surface.Dot({scale.X(x), scale.Y(scale.Density(x))}, kCurve);
+  std::optional<drawing::Point> last;
+  for (double x = data.xStart; x <= data.xEnd; x = scale.Next(x)) {
+    const drawing::Point at{scale.X(x), scale.Y(scale.Density(x))};
+    if (last && std::hypot(at.x - last->x, at.y - last->y) > drawing::kDotWidth / 2)
+      surface.Line(*last, at, kCurve, drawing::kDotWidth);
+    surface.Dot(at, kCurve);
+    last = at;
+  }
 }
 
 }  // namespace

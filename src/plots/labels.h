@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "drawing/drawing.h"
+#include "plots/fitting.h"
 
 // Labels of a plot: texts that are drawn in the picture and can be read by their names.
 namespace PlotWBas {
@@ -17,23 +18,17 @@ struct Label {
 
 using Labels = std::vector<Label>;
 
+Box BoxOf(const Label& label);
+
 // Null when the drawing has no label of that name.
 const Label* FindLabel(const Labels& labels, const std::string& name);
 
 // Draws all labels in their order. A line end behind the last line is not drawn.
 void WriteLabels(drawing::DrawSurface& surface, const Labels& labels);
 
-// Height of one line of text, and an upper estimate of the width of the longest line, in twips. A
-// drawing is laid out without a font at hand, since the same one goes to screen, file and printer.
-double RowHeight(const drawing::TextStyle& style);
-double TextWidth(const std::string& text, double size);
-int RowCount(const std::string& text);
-
-// What is smaller than this is not worth its ink.
-inline constexpr double kSmallest = 4;
-
-// The largest size up to `wanted` in which the text is no wider than `width`, but `least` at least.
-double FittingSize(const std::string& text, double width, double wanted, double least);
+// Whether the drawn label has the whole of `text`, on however many lines.
+bool Shows(const drawing::DrawingRecord& drawing, const std::string& label,
+           const std::string& text);
 
 // Something that wants to stand at `centre` and takes `half` on either side of it.
 struct Stand {

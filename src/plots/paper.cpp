@@ -113,7 +113,7 @@ double TextScale(double width, double height) {
 
 drawing::TextStyle Style(double width, double height, double size, drawing::Across across,
                          drawing::Down down) {
-  return {across, down, size * TextScale(width, height), false, {}};
+  return {across, down, std::max(kSmallest, size * TextScale(width, height)), false, {}};
 }
 
 void DrawProbabilityPaper(drawing::DrawSurface& surface, Labels& labels, const PlotData& data) {

@@ -140,7 +140,7 @@ void PutHeadlines(Labels& labels, double width, double height, const PlotData& d
   const std::string headline = HeadlineText(data.s, data.Transformation);
   drawing::TextStyle style = Style(width, height, 11, Across::Centre, Down::Top);
   style.bold = true;
-  style.size = FittingSize(headline, 0.6 * width, style.size, kSmallest);
+  style.size = FittingSize(headline, 0.6 * width, style);
   labels.push_back({"LblKoptekst", headline, {0.5 * width, kMargin}, style});
   labels.push_back({"LblRightTxt",
                     HeaderText(data.s, data.time),
@@ -163,7 +163,7 @@ void ArrangeOutcomeLabels(Labels& labels, const Paper& paper) {
   for (const Label& label : labels)
     if (OfOutcome(label)) {
       row = RowHeight(label.style);
-      const double size = up ? row : TextWidth(label.text, label.style.size) + 80;
+      const double size = up ? row : TextWidth(label.text, label.style) + 80;
       wanted.push_back({up ? label.at.y : label.at.x, size / 2});
     }
   const Frame& f = paper.Edges();

@@ -51,9 +51,8 @@ void PutLowerEnd(Labels& labels, const Paper& paper, const std::string& text, do
             up ? Down::Middle : Down::Top);
   style.colour = kLine;
   const double place = paper.OutcomePlace(yLow);
-  const Point at =
-      up ? Point{f.XasStart - 150, std::min(place, f.YasBot + 2 * RowHeight(style))}
-         : Point{std::max(place, f.XasStart - TextWidth(text, style.size)), f.YasBot + 150};
+  const Point at = up ? Point{f.XasStart - 150, std::min(place, f.YasBot + 2 * RowHeight(style))}
+                      : Point{std::max(place, f.XasStart - TextWidth(text, style)), f.YasBot + 150};
   labels.push_back({"LblCBegin", text, at, style});
 }
 
@@ -78,7 +77,7 @@ void PutUpperEnd(Labels& labels, const Paper& paper, const std::string& text, do
 void PutEndLabels(Labels& labels, const Paper& paper, const PlotData& data,
                   const analysis::Regression& fit) {
   const Label& texts = *FindLabel(labels, "LblDescrip");
-  const double top = texts.at.y - RowCount(texts.text) * RowHeight(texts.style);
+  const double top = texts.at.y - TextHeight(texts.text, texts.style);
   if (const auto low = OutcomeAtEnd(data.Transformation, fit.yLow))
     PutLowerEnd(labels, paper, Shown(data.s, *low), fit.yLow);
   if (const auto high = OutcomeAtEnd(data.Transformation, fit.yHigh))
@@ -172,7 +171,7 @@ void PutRegressionTexts(Labels& labels, const drawing::DrawSurface& surface, con
   // The numbers of the horizontal axis stand between.
   const double under = YasBot + 120 + 1.2 * RowHeight(below);
   // The corners are left to the title of the axis.
-  below.size = FittingSize(through, W - 2 * kCorner * TextScale(W, H), below.size, kSmallest);
+  below.size = FittingSize(through, W - 2 * kCorner * TextScale(W, H), below);
   labels.push_back({"LblRegres", through, {0.5 * W, under}, below});
 }
 

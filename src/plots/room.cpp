@@ -7,32 +7,9 @@
 namespace PlotWBas {
 namespace {
 
-using drawing::Across;
-using drawing::Down;
 using drawing::Point;
 
 constexpr double kHalfCross = 60;
-
-struct Box {
-  double left;
-  double top;
-  double right;
-  double bottom;
-};
-
-Box BoxOf(const Label& label) {
-  const double width = TextWidth(label.text, label.style.size);
-  const double height = RowCount(label.text) * RowHeight(label.style);
-  const double before = label.style.across == Across::Left     ? 0
-                        : label.style.across == Across::Centre ? width / 2
-                                                               : width;
-  const double above = label.style.down == Down::Top      ? 0
-                       : label.style.down == Down::Middle ? height / 2
-                                                          : height;
-  const double left = label.at.x - before;
-  const double top = label.at.y - above;
-  return {left, top, left + width, top + height};
-}
 
 // Whether the line from one point to the other meets the box: the parts of it that lie between the
 // sides of the box, across and down, have something in common.

@@ -3,6 +3,8 @@
 #include "base/fault.h"
 #include "catalog/catalog.h"
 #include "plots/density_view.h"
+#include "plots/labels.h"
+#include "session/global_bas.h"
 #include "stats/estimators.h"
 
 namespace plots {
@@ -19,7 +21,7 @@ VerdelingForm::VerdelingForm(ExposureSession& record, navigation::Desk& programD
 }
 
 void VerdelingForm::Activate() {
-  WindnrLbl.text = PlotWBas::DensityWindow(session);
+  WindnrLbl.text = PlotWBas::DensityWindow(PlotWBas::NumbersOf(session).of);
   Draw();
 }
 
@@ -30,8 +32,14 @@ void VerdelingForm::Draw() {
   if (session.AMu == 0)
     session.AMu = StatFWinBAS::FinneyMeanMVU(session.df, session.GM, session.GSD);
   session.LnGSD = Log(session.GSD);
-  const PlotWBas::DensityData data = PlotWBas::DensityOf(session, ports.clock.Now());
+  const PlotWBas::DensityData data =
+      PlotWBas::DensityOf(PlotWBas::NumbersOf(session), ports.clock.Now());
   PlotWBas::DrawDensity(VerdelingPict.drawing, data);
+  // The headline may have had to shorten it.
+  VerdelingPict.tip =
+      PlotWBas::Shows(VerdelingPict.drawing, "LblKoptekst", GlobalBAS::Trim(session.Name))
+          ? ""
+          : GlobalBAS::Trim(session.Name);
   for (const PlotWBas::DensityMark& mark : data.marks) ShowLabel(mark.name, mark.text);
   ShowLabel("XasLbl(0)", data.endText);
   ShowLabel("XasLbl", data.endValue);

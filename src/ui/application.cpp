@@ -6,6 +6,7 @@
 
 #include "ui/outlined_style.h"
 #include "ui/picture_file.h"
+#include "ui/picture_font.h"
 #include "ui/splash.h"
 #include "ui/text.h"
 
@@ -90,6 +91,7 @@ void Application::Start() {
 void PrepareToolkit() {
   // The toolkit has taken the user's locale over; numbers are the program's own.
   std::setlocale(LC_NUMERIC, "C");
+  LoadPictureFont();
   QApplication::setStyle(new OutlinedStyle(QStringLiteral("Fusion")));
 }
 

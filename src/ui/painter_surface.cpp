@@ -1,27 +1,13 @@
 #include "ui/painter_surface.h"
 
-#include <QFontMetricsF>
-
-#include <algorithm>
-
+#include "drawing/font.h"
+#include "ui/picture_font.h"
 #include "ui/text.h"
 
 namespace ui {
 namespace {
 
-constexpr double kTwipsToThePoint = 20;
-constexpr double kDotWidth = 26;  // twips
-
 QColor Shade(drawing::Colour colour) { return {colour.red, colour.green, colour.blue}; }
-
-QFont FontOf(const drawing::TextStyle& style, double pixelsToTheTwip) {
-  QFont font;
-  font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
-                    QStringLiteral("Nimbus Sans"), QStringLiteral("DejaVu Sans")});
-  font.setPixelSize(std::max(1, qRound(style.size * kTwipsToThePoint * pixelsToTheTwip)));
-  font.setBold(style.bold);
-  return font;
-}
 
 // How far left of its point, in its own widths, a text begins; and how far above, a block of lines.
 double Share(drawing::Across across) {
@@ -52,24 +38,23 @@ void PainterSurface::Line(drawing::Point from, drawing::Point to, drawing::Colou
 }
 
 void PainterSurface::Dot(drawing::Point at, drawing::Colour colour) {
-  painter_.setPen(QPen(Shade(colour), kDotWidth * factor_, Qt::SolidLine, Qt::RoundCap));
+  painter_.setPen(QPen(Shade(colour), drawing::kDotWidth * factor_, Qt::SolidLine, Qt::RoundCap));
   painter_.drawPoint(Place(at));
 }
 
 void PainterSurface::Text(drawing::Point at, const std::string& text,
                           const drawing::TextStyle& style, const std::string&) {
-  const QFont font = FontOf(style, factor_);
-  painter_.setFont(font);
+  const double pixels = style.size * drawing::kTwipsPerPoint * factor_;
+  const PictureFont font(pixels, style.bold);
   painter_.setPen(Shade(style.colour));
-  const QFontMetricsF metrics(font, painter_.device());
   const QStringList lines = Lines(text).split(QLatin1Char('\n'));
-  const double spacing = style.size * kTwipsToThePoint * drawing::kLineSpacing * factor_;
+  const double spacing = pixels * drawing::kLineSpacing;
   QPointF corner = Place(at);
   corner.ry() -= Share(style.down) * spacing * static_cast<double>(lines.size());
-  corner.ry() += (spacing + metrics.ascent() - metrics.descent()) / 2;
+  corner.ry() += (spacing + (drawing::Ascent() - drawing::Descent()) * pixels) / 2;
   for (const QString& line : lines) {
-    const double indent = Share(style.across) * metrics.horizontalAdvance(line);
-    painter_.drawText(corner - QPointF(indent, 0), line);
+    const double indent = Share(style.across) * font.Width(line);
+    font.Draw(painter_, corner - QPointF(indent, 0), line);
     corner.ry() += spacing;
   }
 }

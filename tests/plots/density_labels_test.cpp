@@ -16,8 +16,6 @@ using drawing::DrawingRecord;
 using drawing::DrawnDot;
 using drawing::DrawnText;
 using PlotWBas::Box;
-using PlotWBas::BoxOf;
-using PlotWBas::Wrapped;
 
 struct Size {
   double width;
@@ -61,7 +59,7 @@ std::string Trouble(const DrawingRecord& drawing) {
   std::vector<std::pair<std::string, Box>> boxes;
   for (const auto& item : drawing.Items())
     if (const auto* text = std::get_if<DrawnText>(&item))
-      boxes.push_back({text->label, BoxOf(*text)});
+      boxes.push_back({text->label, PlotWBas::BoxOf(text->at, text->text, text->style)});
   std::string trouble;
   for (std::size_t i = 0; i < boxes.size(); ++i) {
     const auto& [name, box] = boxes[i];
@@ -92,7 +90,7 @@ TEST_P(DensityLabels, KeepClearOfEachOtherTheCurveAndTheEdge) {
         ExposureSession s = Sample(GSD, GetParam().tab, GetParam().TestTag);
         s.OELV = OELV;
         DrawingRecord drawing(size.width, size.height);
-        PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(s, {}));
+        PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
         EXPECT_EQ(Trouble(drawing), "")
             << "GSD " << GSD << " OELV " << OELV << " on " << size.width << " by " << size.height;
       }
@@ -107,7 +105,7 @@ TEST(DensityLabels, TakeALongNameAndALongUnit) {
   s.Name = "/home/hygiene/measurements/2024/Foundry west, moulders and core makers, March.vkr";
   s.Unit = "fibres/ml, eight-hour mean";
   DrawingRecord drawing(11580, 8330);
-  PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(s, {}));
+  PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
   EXPECT_EQ(Trouble(drawing), "");
 }
 
@@ -122,15 +120,6 @@ TEST(DensityLabels, TroubleIsSeen) {
   EXPECT_EQ(Trouble(drawing),
             "One touches Two; One stands on the curve; Two stands on the curve; "
             "Three leaves the surface; ");
-}
-
-TEST(DensityLabels, AreBrokenAtBlanks) {
-  const double width = PlotWBas::TextWidth("abc abc", 9);
-  EXPECT_EQ(Wrapped("abc abc abc", width, 9), "abc abc\rabc");
-  EXPECT_EQ(Wrapped("abc\rabc abc", width, 9), "abc\rabc abc");
-  EXPECT_EQ(Wrapped("abc  abc", width, 9), "abc abc");
-  EXPECT_EQ(Wrapped("abcabcabcabc abc", width, 9), "abcabcabcabc\rabc");
-  EXPECT_EQ(Wrapped("", width, 9), "");
 }
 
 }  // namespace

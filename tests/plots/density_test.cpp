@@ -99,6 +99,27 @@ TEST(Density, TheAxesStandSixtyTwipsFromTheEdgeAndTheMarksHangBelow) {
   }
 }
 
+// On a large window the points of the method stand far apart; a curve is a line.
+TEST(Density, TheCurveHasNoGapsOnAnyWindow) {
+  for (const double scale : {1.0, 2.5, 5.0}) {
+    DrawingRecord drawing(scale * kWidth, scale * kHeight);
+    DrawDensity(drawing, Population(2.5));
+    const drawing::Point* last = nullptr;
+    bool joined = false;
+    for (const auto& item : drawing.Items()) {
+      const auto* line = std::get_if<DrawnLine>(&item);
+      if (line && last && line->from == *last) joined = true;
+      const auto* dot = std::get_if<DrawnDot>(&item);
+      if (!dot) continue;
+      if (last && std::hypot(dot->at.x - last->x, dot->at.y - last->y) > drawing::kDotWidth) {
+        EXPECT_TRUE(joined) << dot->at.x;
+      }
+      last = &dot->at;
+      joined = false;
+    }
+  }
+}
+
 // A limit that lies beyond the picture is still named, at the tip of an arrow.
 TEST(Density, AMarkBeyondTheEndOfTheAxisStandsAtAnArrow) {
   DensityData data = Population(2);

@@ -14,6 +14,7 @@ using PlotWBas::DensityMark;
 using PlotWBas::DensityOf;
 using PlotWBas::DensityWindow;
 using PlotWBas::ExtentOf;
+using PlotWBas::NumbersOf;
 
 constexpr int kTests = 90;
 constexpr int kMean = 92;
@@ -42,7 +43,7 @@ ExposureSession CalledFrom(int tab, const char* TestTag = "") {
 }
 
 void ExpectExtent(const ExposureSession& s, double xStart, double xEnd, const std::string& text) {
-  const DensityExtent extent = ExtentOf(s);
+  const DensityExtent extent = ExtentOf(NumbersOf(s));
   EXPECT_NEAR(extent.xStart, xStart, 1e-14 * xStart);
   EXPECT_NEAR(extent.xEnd, xEnd, 1e-14 * xEnd);
   EXPECT_EQ(extent.endText, text);
@@ -87,7 +88,7 @@ TEST(DensityExtents, ALimitOfHalfTheUTLEndsTheAxisAtTwiceTheUTL) {
   s.OELV = 4;
   ExpectExtent(s, std::pow(4, -6), 8, "2 * UTL");
   s.OELV = std::nextafter(4, 5);
-  ExpectExtent(s, std::pow(2, -6), 4, "2 * Limit H");
+  ExpectExtent(s, std::pow(3, -6), 4, "2 * Limit H");
 }
 
 TEST(DensityExtents, OfTheMeanFollowTheUCLThatIsHeldAsALogarithm) {
@@ -105,7 +106,17 @@ TEST(DensityExtents, WithoutALimitTheTestsEndAtTwiceTheUTL) {
   ExpectExtent(s, std::pow(4, -6), 8, "2 * UTL");
 }
 
-// A limit below the geometric mean: its sixth power would start the curve behind the axis's end.
+// Near the geometric mean or below it, the sixth power of the ratio lies right of the peak: the
+// picture would lack what it is about.
+TEST(DensityExtents, ALimitNearTheGeometricMeanLeavesThePeakInThePicture) {
+  ExposureSession s = CalledFrom(kMean, "Ap");
+  s.GM = 1;
+  s.GSD = 2;
+  s.UCL = std::log(1.3);
+  s.OELV = 1.1;
+  ExpectExtent(s, std::pow(2, -6), 2.2, "2 * Limit H");
+}
+
 TEST(DensityExtents, AStartBehindTheEndIsThatOfTheDataScreens) {
   ExposureSession s = CalledFrom(kTests);
   s.UTL = 1.5;
@@ -123,7 +134,7 @@ TEST(DensityExtents, AStartBeyondTheNumbersIsThatOfTheDataScreens) {
 }
 
 TEST(DensityMarks, FromTheDescriptiveScreenAreGMAndGSDOnly) {
-  const DensityData data = DensityOf(CalledFrom(84), {});
+  const DensityData data = DensityOf(NumbersOf(CalledFrom(84)), {});
   EXPECT_THAT(Marks(data), testing::ElementsAre("GMLbl", "GSDPercLbl"));
   EXPECT_EQ(MarkOf(data, "GMLbl").x, 1);
   EXPECT_EQ(MarkOf(data, "GMLbl").text, "GM=     2 ppm\r50%");
@@ -136,7 +147,7 @@ TEST(DensityMarks, FromTheDescriptiveScreenAreGMAndGSDOnly) {
 }
 
 TEST(DensityMarks, FromTheTestsAreUTLAndLimitToo) {
-  const DensityData data = DensityOf(CalledFrom(kTests, "Le"), {});
+  const DensityData data = DensityOf(NumbersOf(CalledFrom(kTests, "Le")), {});
   EXPECT_THAT(Marks(data), testing::ElementsAre("GMLbl", "GSDPercLbl", "UTLLbl", "VkrValLbl"));
   EXPECT_EQ(MarkOf(data, "UTLLbl").x, 4);
   EXPECT_EQ(MarkOf(data, "UTLLbl").text, "UTL 95.0 %\r     8 ppm");
@@ -145,7 +156,7 @@ TEST(DensityMarks, FromTheTestsAreUTLAndLimitToo) {
 }
 
 TEST(DensityMarks, FromTheMeanAreItsEstimateItsUCLAndTheLimit) {
-  const DensityData data = DensityOf(CalledFrom(kMean, "Ex"), {});
+  const DensityData data = DensityOf(NumbersOf(CalledFrom(kMean, "Ex")), {});
   EXPECT_THAT(Marks(data),
               testing::ElementsAre("GMLbl", "GSDPercLbl", "AMuLbl", "UCLLbl", "VkrValLbl"));
   EXPECT_EQ(MarkOf(data, "AMuLbl").x, 1.75);
@@ -158,14 +169,14 @@ TEST(DensityMarks, FromTheMeanAreItsEstimateItsUCLAndTheLimit) {
 TEST(DensityMarks, WithoutAUnitNoneIsShown) {
   ExposureSession s = CalledFrom(84);
   s.Unit.clear();
-  const DensityData data = DensityOf(s, {});
+  const DensityData data = DensityOf(NumbersOf(s), {});
   EXPECT_EQ(MarkOf(data, "GMLbl").text, "GM=     2\r50%");
   EXPECT_EQ(data.endValue, "     9");
 }
 
 TEST(DensityHeadlines, OfTheTestsTellTheMethodAndItsLimit) {
   auto words = [](const char* TestTag) {
-    const DensityData data = DensityOf(CalledFrom(kTests, TestTag), {});
+    const DensityData data = DensityOf(NumbersOf(CalledFrom(kTests, TestTag)), {});
     EXPECT_EQ(data.headline, LoadResString(2510) + "\rof Welders");
     return data.explanation;
   };
@@ -179,24 +190,24 @@ TEST(DensityHeadlines, OfTheTestsTellTheMethodAndItsLimit) {
 }
 
 TEST(DensityHeadlines, OfTheMeanTellTheMethod) {
-  EXPECT_EQ(DensityOf(CalledFrom(kMean, "Ex"), {}).explanation, LoadResString(2431));
-  EXPECT_EQ(DensityOf(CalledFrom(kMean, "Ap"), {}).explanation, LoadResString(2430));
+  EXPECT_EQ(DensityOf(NumbersOf(CalledFrom(kMean, "Ex")), {}).explanation, LoadResString(2431));
+  EXPECT_EQ(DensityOf(NumbersOf(CalledFrom(kMean, "Ap")), {}).explanation, LoadResString(2430));
 }
 
 TEST(DensityHeadlines, TellProgramDateAndTime) {
-  EXPECT_EQ(DensityOf(CalledFrom(84), {2024, 3, 7, 9, 5, 30}).header,
+  EXPECT_EQ(DensityOf(NumbersOf(CalledFrom(84)), {2024, 3, 7, 9, 5, 30}).header,
             "VALKORIN\rdate: 7 Mar 2024\rtime : 09:05:30");
 }
 
 TEST(DensityWindowNumber, FollowsTheScreenAndItsTest) {
-  EXPECT_STREQ(DensityWindow(CalledFrom(82)), "20d");
-  EXPECT_STREQ(DensityWindow(CalledFrom(84)), "20d");
-  EXPECT_STREQ(DensityWindow(CalledFrom(86)), "20d");
-  EXPECT_STREQ(DensityWindow(CalledFrom(kTests, "Le")), "25");
-  EXPECT_STREQ(DensityWindow(CalledFrom(kTests, "Wi")), "26");
-  EXPECT_STREQ(DensityWindow(CalledFrom(kTests, "Tu")), "27");
-  EXPECT_STREQ(DensityWindow(CalledFrom(kMean, "Ex")), "24a");
-  EXPECT_STREQ(DensityWindow(CalledFrom(kMean, "Ap")), "24b");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(82)).of), "20d");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(84)).of), "20d");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(86)).of), "20d");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kTests, "Le")).of), "25");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kTests, "Wi")).of), "26");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kTests, "Tu")).of), "27");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kMean, "Ex")).of), "24a");
+  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kMean, "Ap")).of), "24b");
 }
 
 }  // namespace

@@ -22,22 +22,6 @@ TEST(PlotLabels, StayWithinTheirRoom) {
   EXPECT_EQ(SpreadOut({{2, 10}, {1, 10}}, 0, 400), (Centres{30, 10}));
 }
 
-TEST(PlotLabels, TakeNoMoreThanTheirWidth) {
-  EXPECT_EQ(PlotWBas::FittingSize("short", 10000, 8, 6), 8);
-  const std::string text(100, 'x');
-  const double size = PlotWBas::FittingSize(text, 8000, 8, 6);
-  EXPECT_LT(size, 8);
-  EXPECT_NEAR(PlotWBas::TextWidth(text, size), 8000, 1e-6);
-  EXPECT_EQ(PlotWBas::FittingSize(std::string(1000, 'x'), 8000, 8, 6), 6);
-}
-
-TEST(PlotLabels, CountTheLinesThatAreShown) {
-  EXPECT_EQ(PlotWBas::RowCount(""), 0);
-  EXPECT_EQ(PlotWBas::RowCount("a"), 1);
-  EXPECT_EQ(PlotWBas::RowCount("a\rb\r"), 2);
-  EXPECT_EQ(PlotWBas::TextWidth("ab\rabcd\rabc", 9), PlotWBas::TextWidth("abcd", 9));
-}
-
 TEST(PlotLabels, AreDrawnWithoutALineEndBehindThem) {
   drawing::DrawingRecord drawing(1000, 1000);
   const Labels labels = {{"One", "a\rb\r", {1, 2}, {}}, {"Two", "", {3, 4}, {}}};

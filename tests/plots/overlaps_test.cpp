@@ -30,8 +30,8 @@ double Before(Across across) {
 double Above(Down down) { return down == Down::Top ? 0 : down == Down::Middle ? 0.5 : 1; }
 
 Box BoxOf(const DrawnText& text) {
-  const double width = PlotWBas::TextWidth(text.text, text.style.size);
-  const double height = PlotWBas::RowCount(text.text) * PlotWBas::RowHeight(text.style);
+  const double width = PlotWBas::TextWidth(text.text, text.style);
+  const double height = PlotWBas::TextHeight(text.text, text.style);
   const double left = text.at.x - Before(text.style.across) * width;
   const double top = text.at.y - Above(text.style.down) * height;
   // Between two lines of text there is some room.

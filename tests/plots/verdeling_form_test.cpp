@@ -44,7 +44,7 @@ std::vector<screen::ControlState> Look(const screen::Form& form) {
   return look;
 }
 
-// The drawing as text; of the curve every fiftieth point.
+// The drawing as text; of the curve every fiftieth point, and not the lines between.
 std::string Kept(const drawing::DrawingRecord& drawing) {
   const std::string whole = drawing_text::Whole(drawing);
   std::string kept;
@@ -52,7 +52,8 @@ std::string Kept(const drawing::DrawingRecord& drawing) {
   for (std::size_t at = 0; at < whole.size();) {
     const std::size_t end = whole.find('\n', at) + 1;
     const std::string line = whole.substr(at, end - at);
-    if (!line.starts_with("dot ") || dots++ % 50 == 0) kept += line;
+    const bool between = line.ends_with(" rgb(0,0,255) 26.0\n");
+    if (!between && (!line.starts_with("dot ") || dots++ % 50 == 0)) kept += line;
     at = end;
   }
   return kept;
@@ -143,6 +144,18 @@ TEST(FrequencyPicture, LeavesTheLogarithmOfTheSpreadInTheRecord) {
   EXPECT_DOUBLE_EQ(user.Record().LnGSD, std::log(user.Record().GSD));
 }
 
+TEST(FrequencyPicture, ANameThatIsTooLongForTheHeadlineStandsInTheTip) {
+  User user;
+  user.GoTo("descript");
+  user.SeePicture();
+  EXPECT_EQ(user.Picture().VerdelingPict.tip, "");
+  user.Click("Menuclose");
+  user.Record().Name = std::string(63, 'W');
+  user.SeePicture();
+  EXPECT_EQ(user.Picture().VerdelingPict.tip, user.Record().Name);
+  EXPECT_THAT(user.Text("LblKoptekst"), HasSubstr(user.Record().Name));
+}
+
 TEST(FrequencyPicture, FollowsANewSize) {
   User user;
   user.GoTo("descript");
@@ -151,7 +164,8 @@ TEST(FrequencyPicture, FollowsANewSize) {
   picture.drawing.SetScale(18000, 10000);
   screen::Guarded(user.ports, picture.Resized);
   drawing::DrawingRecord expected(18000, 10000);
-  PlotWBas::DrawDensity(expected, PlotWBas::DensityOf(user.Record(), user.clock.Now()));
+  PlotWBas::DrawDensity(expected,
+                        PlotWBas::DensityOf(PlotWBas::NumbersOf(user.Record()), user.clock.Now()));
   EXPECT_EQ(picture.drawing.Items(), expected.Items());
 }
 
