@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "analysis/transformations.h"
@@ -33,8 +34,8 @@ constexpr double kHair = 10;
 constexpr double kPen = 15;
 constexpr double kLinePen = 22;
 constexpr double kHalfCross = 60;
-constexpr double kBeside = 150;  // from the frame to what stands beside it
 constexpr double kTick = 60;
+constexpr double kInside = 90;  // from the frame to what stands within it
 
 std::string ProbabilityLabel(int percent) {
   return "LblYas_" + GlobalBAS::GeneralText(percent) + "_procent";
@@ -76,7 +77,8 @@ class Annex {
   void DrawExposures();
   void PutExposures(const std::vector<DecadeTick>& ticks);
   bool PutExposure(const DecadeTick& tick, std::vector<std::pair<double, double>>& taken);
-  void DrawReadOff(double p, double transformed, const char* label, const char* words);
+  void DrawReadOff(double p, double transformed, std::optional<double> otherX, const char* label,
+                   const char* words);
 
   drawing::DrawSurface& surface_;
   Labels& labels_;
@@ -170,10 +172,11 @@ void Annex::PutTitles() {
                      above});
   // The axis that is labelled "Results" in the other kinds, with the same words below.
   const std::string results = OutcomesTitle(data_.s, data_.Transformation);
-  labels_.push_back({"LblXasEinde",
-                     "Exposure Xk" + results.substr(results.find('\r')),
-                     {f_.XasEinde + kBeside, f_.YasBot + 60},
-                     StyleOf(8.5, Across::Left, Down::Bottom)});
+  const Fitted title =
+      FittedNumbers("Exposure Xk" + results.substr(results.find('\r')),
+                    RightRoom(surface_.ScaleWidth()), StyleOf(8.5, Across::Left, Down::Bottom));
+  labels_.push_back(
+      {"LblXasEinde", title.text, {f_.XasEinde + kBeside, f_.YasBot + 60}, title.style});
 }
 
 void Annex::DrawLine(const analysis::Regression& fit) {
@@ -182,18 +185,23 @@ void Annex::DrawLine(const analysis::Regression& fit) {
 }
 
 // From the axis of the probabilities to the line, and down to the exposure. The words stand at the
-// end of the level that is farther from the line.
-void Annex::DrawReadOff(double p, double transformed, const char* label, const char* words) {
+// end of the level that is farther from the line, unless the upper mark's way down, at `otherX`,
+// passes there.
+void Annex::DrawReadOff(double p, double transformed, std::optional<double> otherX,
+                        const char* label, const char* words) {
   const Point at{paper_.X(transformed), paper_.Y(p)};
   if (at.x < f_.XasStart || at.x > f_.XasEinde) return;
   surface_.Line({f_.XasStart, at.y}, at, kMark, kPen);
   surface_.Line(at, {at.x, f_.YasBot}, kMark, kPen);
   if (!words) return;
-  const bool left = at.x - f_.XasStart > f_.XasEinde - at.x;
-  TextStyle style = StyleOf(8, left ? Across::Left : Across::Right, Down::Bottom);
+  TextStyle style = StyleOf(8, Across::Right, Down::Bottom);
   style.colour = kMark;
-  const double x = left ? f_.XasStart + 90 : f_.XasEinde - 90;
-  labels_.push_back({label, words, {x, at.y - 20}, style});
+  const double rightEdge = f_.XasEinde - kInside;
+  const bool crossed =
+      otherX && *otherX > rightEdge - TextWidth(words, style) && *otherX < rightEdge;
+  const bool left = crossed || at.x - f_.XasStart > f_.XasEinde - at.x;
+  if (left) style.across = Across::Left;
+  labels_.push_back({label, words, {left ? f_.XasStart + kInside : rightEdge, at.y - 20}, style});
 }
 
 void Annex::DrawReadOffs(const analysis::Regression& fit) {
@@ -202,8 +210,9 @@ void Annex::DrawReadOffs(const analysis::Regression& fit) {
   const bool known = words != kReadOffs.end();
   const double z85 = StatFWinBAS::NormalUpperInverse(0.15);
   const double up = paper_.Reversed() ? -fit.b : fit.b;
-  DrawReadOff(0.5, fit.a, "LblC50", known ? words->at50 : nullptr);
-  DrawReadOff(0.85, fit.a + up * z85, "LblC85", known ? words->at85 : nullptr);
+  const double at85 = fit.a + up * z85;
+  DrawReadOff(0.5, fit.a, paper_.X(at85), "LblC50", known ? words->at50 : nullptr);
+  DrawReadOff(0.85, at85, std::nullopt, "LblC85", known ? words->at85 : nullptr);
 }
 
 void Annex::PutTexts(const analysis::Regression& fit) {

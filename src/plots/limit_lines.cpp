@@ -41,35 +41,58 @@ void DrawLine(drawing::DrawSurface& surface, const Paper& paper, const Limit& li
     surface.Line({place, f.YasTop}, {place, f.YasBot}, limit.colour, kPen);
 }
 
-// The label at one of the line's ends, on one of its sides.
-Label LabelAt(const Paper& paper, const Limit& limit, Across across, Down down) {
+// The label at one of the line's ends, or so far from it, on one of its sides.
+Label LabelAt(const Paper& paper, const Limit& limit, Across across, Down down, double away) {
   const Frame& f = paper.Edges();
   const double place = limit.mark.place;
   const bool right = across == Across::Right;
   const bool bottom = down == Down::Bottom;
-  const Point at =
-      paper.OutcomesUp()
-          ? Point{right ? f.XasEinde : f.XasStart, place + (bottom ? -kBeside : kBeside)}
-          : Point{place + (right ? -kBeside : kBeside), bottom ? f.YasBot : f.YasTop};
+  const Point at = paper.OutcomesUp() ? Point{right ? f.XasEinde - away : f.XasStart + away,
+                                              place + (bottom ? -kBeside : kBeside)}
+                                      : Point{place + (right ? -kBeside : kBeside),
+                                              bottom ? f.YasBot - away : f.YasTop + away};
   drawing::TextStyle style = Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, across, down);
   style.colour = limit.colour;
   return {limit.label, limit.text, at, style};
 }
 
-// The first places lie away from the points, on the side outside of the range: low limits have
-// room below the rising points, high ones above them.
-void DrawLimit(drawing::DrawSurface& surface, Labels& labels, const Paper& paper, const Room& room,
-               const Limit& limit, Across across, Down down) {
-  if (!limit.mark.shown) return;
-  DrawLine(surface, paper, limit);
+// From both ends of the line inward.
+std::vector<Label> PlacesAlong(const Paper& paper, const Limit& limit, Across across, Down down) {
+  constexpr int kSteps = 40;
+  const Frame& f = paper.Edges();
   const Across otherSide = across == Across::Left ? Across::Right : Across::Left;
   const Down otherWay = down == Down::Top ? Down::Bottom : Down::Top;
   const bool up = paper.OutcomesUp();
-  labels.push_back(
-      room.FirstFree({LabelAt(paper, limit, across, down),
-                      LabelAt(paper, limit, up ? across : otherSide, up ? otherWay : down),
-                      LabelAt(paper, limit, up ? otherSide : across, up ? down : otherWay),
-                      LabelAt(paper, limit, otherSide, otherWay)}));
+  const double length = up ? f.XasEinde - f.XasStart : f.YasBot - f.YasTop;
+  std::vector<Label> places;
+  for (int i = 0; i < kSteps; ++i) {
+    const double away = i * length / kSteps;
+    places.push_back(LabelAt(paper, limit, across, down, away));
+    places.push_back(LabelAt(paper, limit, up ? across : otherSide, up ? otherWay : down, away));
+    places.push_back(LabelAt(paper, limit, up ? otherSide : across, up ? down : otherWay, away));
+    places.push_back(LabelAt(paper, limit, otherSide, otherWay, away));
+  }
+  return places;
+}
+
+// The first places lie away from the points, on the side outside of the range: low limits have
+// room below the rising points, high ones above them.
+void PutLabel(Labels& labels, const Paper& paper, Room& room, const Limit& limit, Across across,
+              Down down) {
+  if (!limit.mark.shown) return;
+  const Label label = room.FirstFree(PlacesAlong(paper, limit, across, down));
+  room.Take(BoxOf(label));
+  labels.push_back(label);
+}
+
+// Neither label lies on the line of the other limit.
+void TakeLine(Room& room, const Paper& paper, const LimitMark& mark) {
+  if (!mark.shown) return;
+  const Frame& f = paper.Edges();
+  if (paper.OutcomesUp())
+    room.Take({f.XasStart, mark.place, f.XasEinde, mark.place});
+  else
+    room.Take({mark.place, f.YasTop, mark.place, f.YasBot});
 }
 
 }  // namespace
@@ -91,13 +114,16 @@ LimitMark URRMark(const Paper& paper, const PlotData& data, bool active) {
 }
 
 void DrawLimits(drawing::DrawSurface& surface, Labels& labels, const Paper& paper,
-                const PlotData& data, const Room& room, const LimitMark& LOQ,
-                const LimitMark& URR) {
+                const PlotData& data, Room room, const LimitMark& LOQ, const LimitMark& URR) {
   const ExposureSession& s = data.s;
   const Limit low{"LblLnLOQ", "LOQ " + GlobalBAS::Shown(s, s.LOQ), kLOQ, LOQ};
   const Limit high{"LblLnURR", "URR " + GlobalBAS::Shown(s, s.URR), kURR, URR};
-  DrawLimit(surface, labels, paper, room, low, Across::Right, Down::Top);
-  DrawLimit(surface, labels, paper, room, high, Across::Left, Down::Bottom);
+  for (const Limit& limit : {low, high}) {
+    if (limit.mark.shown) DrawLine(surface, paper, limit);
+    TakeLine(room, paper, limit.mark);
+  }
+  PutLabel(labels, paper, room, low, Across::Right, Down::Top);
+  PutLabel(labels, paper, room, high, Across::Left, Down::Bottom);
 }
 
 }  // namespace PlotWBas

@@ -21,6 +21,6 @@ LimitMark URRMark(const Paper& paper, const PlotData& data, bool active);
 // Draws the lines of those marks that are shown, each with its label, LblLnLOQ or LblLnURR, beside
 // it where there is room.
 void DrawLimits(drawing::DrawSurface& surface, Labels& labels, const Paper& paper,
-                const PlotData& data, const Room& room, const LimitMark& LOQ, const LimitMark& URR);
+                const PlotData& data, Room room, const LimitMark& LOQ, const LimitMark& URR);
 
 }  // namespace PlotWBas

@@ -116,6 +116,17 @@ drawing::TextStyle Style(double width, double height, double size, drawing::Acro
   return {across, down, std::max(kSmallest, size * TextScale(width, height)), false, {}};
 }
 
+// Those above the frame lie between the headline and the outcome at the end of the line.
+BarRoom BarRoomOf(double width, double height) {
+  constexpr double kGap = 15;
+  const double thickness = 260 * TextScale(width, height);
+  const double row =
+      RowHeight(Style(width, height, 8.5, drawing::Across::Centre, drawing::Down::Bottom));
+  return {thickness, 0.02 * width, UpperLabelFoot(height) - row - kGap - thickness};
+}
+
+double UpperLabelFoot(double height) { return 0.2 * height - kOvershoot; }
+
 void DrawProbabilityPaper(drawing::DrawSurface& surface, Labels& labels, const PlotData& data) {
   DrawCumulative(Axes::OutcomesUp, surface, labels, data);
 }

@@ -69,6 +69,18 @@ double TextScale(double width, double height);
 drawing::TextStyle Style(double width, double height, double size, drawing::Across across,
                          drawing::Down down);
 
+// Where the scroll bars of the limits lie: how thick they are, the left edge of those beside the
+// frame and the upper edge of those above it. No text comes there, whether they are shown or not.
+struct BarRoom {
+  double thickness = 0;
+  double left = 0;
+  double top = 0;
+};
+BarRoom BarRoomOf(double width, double height);
+
+// From the frame to the label of an outcome above it, and the height of that label's foot.
+double UpperLabelFoot(double height);
+
 // Clears the surface and draws frame, axes, ticks and points, and adds the fixed labels, which are
 // left to the caller to write. The score of the lowest outcome stands at the foot or at the left.
 void DrawProbabilityPaper(drawing::DrawSurface& surface, Labels& labels, const PlotData& data);

@@ -15,15 +15,21 @@ using drawing::Across;
 using drawing::Down;
 using drawing::Point;
 
-constexpr double kBeside = 150;     // from the frame to what stands beside its ticks
 constexpr double kBesideBar = 340;  // the same where a scroll bar may lie above the frame
 constexpr double kTitleFoot = 60;   // from the frame's foot to that of the title of its axis
 constexpr double kMargin = 150;     // from the edge of the surface
+constexpr double kGap = 60;         // between two things that must not touch
 constexpr std::array<std::string_view, 4> kOfOutcomes = {"LblC1", "LblMedian", "LblCm",
                                                          "LblCBegin"};
 
 bool OfOutcome(const Label& label) {
   return std::ranges::find(kOfOutcomes, label.name) != kOfOutcomes.end();
+}
+
+// Where the room to the left of the frame begins, beside the scroll bars that may lie there.
+double BesideBars(const Paper& paper) {
+  const BarRoom bar = BarRoomOf(paper.ScaleWidth(), paper.ScaleHeight());
+  return bar.left + bar.thickness + kGap;
 }
 
 // Puts the labels of one paper.
@@ -43,7 +49,10 @@ class Writer {
   void Put(const char* name, std::string text, Point at, drawing::TextStyle style) {
     labels_.push_back({name, std::move(text), at, style});
   }
-  void PutOutcome(const char* name, const std::string& text, double CTransf);
+  void PutOutcome(const char* name, const std::string& text, double CTransf) {
+    labels_.push_back(OutcomeLabel(paper_, name, text, CTransf));
+  }
+  void PutVerticalTitle(const std::string& text);
   void PutPercentage(const char* name, const std::string& text, double z, Across across);
 
   Labels& labels_;
@@ -52,30 +61,27 @@ class Writer {
   const Frame& f_;
 };
 
+// The label of the highest mark of the axis lies below the vertical one.
+void Writer::PutVerticalTitle(const std::string& text) {
+  const drawing::TextStyle style = StyleOf(8.5, Across::Right, Down::Bottom);
+  const double right = f_.XasStart - (paper_.OutcomesUp() ? kBeside : kBesideBar);
+  const Fitted fitted = FittedNumbers(text, right - BesideBars(paper_), style);
+  Put("LblYasTop", fitted.text, {right, f_.YasTop - 1.2 * RowHeight(style)}, fitted.style);
+}
+
+// In the corner under the axis, or above its end, as the number of lines allows.
 void Writer::PutTitles() {
   const std::string outcomes = OutcomesTitle(data_.s, data_.Transformation);
   const std::string scores = ScoresTitle(data_.s);
-  const drawing::TextStyle vertical = StyleOf(8.5, Across::Right, Down::Bottom);
-  // The label of the highest mark of the axis lies between.
-  Put("LblYasTop", paper_.OutcomesUp() ? outcomes : scores,
-      {f_.XasStart - (paper_.OutcomesUp() ? kBeside : kBesideBar),
-       f_.YasTop - 1.2 * RowHeight(vertical)},
-      vertical);
-  // In the corner under the axis, or above its end, as the number of lines allows.
-  if (paper_.OutcomesUp())
+  PutVerticalTitle(paper_.OutcomesUp() ? outcomes : scores);
+  if (paper_.OutcomesUp()) {
     Put("LblXasEinde", scores, {paper_.ScaleWidth() - kMargin, f_.YasBot + kBeside},
         StyleOf(8.5, Across::Right, Down::Top));
-  else
-    Put("LblXasEinde", outcomes, {f_.XasEinde + kBeside, f_.YasBot + kTitleFoot},
-        StyleOf(8.5, Across::Left, Down::Bottom));
-}
-
-void Writer::PutOutcome(const char* name, const std::string& text, double CTransf) {
-  const double place = paper_.OutcomePlace(CTransf);
-  if (paper_.OutcomesUp())
-    Put(name, text, {f_.XasStart - kBeside, place}, StyleOf(8.5, Across::Right, Down::Middle));
-  else
-    Put(name, text, {place, f_.YasBot + kBeside}, StyleOf(8.5, Across::Centre, Down::Top));
+    return;
+  }
+  const Fitted fitted = FittedNumbers(outcomes, RightRoom(paper_.ScaleWidth()),
+                                      StyleOf(8.5, Across::Left, Down::Bottom));
+  Put("LblXasEinde", fitted.text, {f_.XasEinde + kBeside, f_.YasBot + kTitleFoot}, fitted.style);
 }
 
 // The reciprocal turns the order round: the lowest outcome then has the highest place.
@@ -114,10 +120,10 @@ void Writer::PutPercentages() {
 
 }  // namespace
 
-std::string HeadlineText(const ExposureSession& s, const std::string& Transformation) {
-  return LoadResString(1701) + s.CR + LoadResString(1702) + GlobalBAS::Trim(s.Name) + s.CR +
-         LoadResString(1703) + (Transformation == "Unt" ? std::string() : Transformation) +
-         LoadResString(1704);
+std::string HeadlineText(const ExposureSession& s, const std::string& Transformation,
+                         const std::string& name) {
+  return LoadResString(1701) + s.CR + LoadResString(1702) + name + s.CR + LoadResString(1703) +
+         (Transformation == "Unt" ? std::string() : Transformation) + LoadResString(1704);
 }
 
 std::string HeaderText(const ExposureSession& s, const base::DateTime& time) {
@@ -137,15 +143,35 @@ std::string ScoresTitle(const ExposureSession& s) {
 }
 
 void PutHeadlines(Labels& labels, double width, double height, const PlotData& data) {
-  const std::string headline = HeadlineText(data.s, data.Transformation);
+  const auto headline = [&](const std::string& name) {
+    return HeadlineText(data.s, data.Transformation, name);
+  };
+  const std::string name = GlobalBAS::Trim(data.s.Name);
   drawing::TextStyle style = Style(width, height, 11, Across::Centre, Down::Top);
   style.bold = true;
-  style.size = FittingSize(headline, 0.6 * width, style);
-  labels.push_back({"LblKoptekst", headline, {0.5 * width, kMargin}, style});
+  const double room = BarRoomOf(width, height).top - kGap - kMargin;
+  const double wanted = TextHeight(headline(name), style);
+  if (wanted > room) style.size = std::max(kSmallest, style.size * room / wanted);
+  const Fitted fitted = FittedName(headline, name, 0.6 * width, style);
+  labels.push_back({"LblKoptekst", fitted.text, {0.5 * width, kMargin}, fitted.style});
   labels.push_back({"LblRightTxt",
                     HeaderText(data.s, data.time),
                     {width - kMargin, kMargin},
                     Style(width, height, 8, Across::Right, Down::Top)});
+}
+
+double RightRoom(double width) { return 0.2 * width - kBeside - kGap; }
+
+Label OutcomeLabel(const Paper& paper, const char* name, const std::string& text, double CTransf) {
+  const Frame& f = paper.Edges();
+  const double W = paper.ScaleWidth();
+  const double H = paper.ScaleHeight();
+  const double place = paper.OutcomePlace(CTransf);
+  if (!paper.OutcomesUp())
+    return {name, text, {place, f.YasBot + kBeside}, Style(W, H, 8.5, Across::Centre, Down::Top)};
+  const double room = f.XasStart - kBeside - BesideBars(paper);
+  const Fitted fitted = FittedNumbers(text, room, Style(W, H, 8.5, Across::Right, Down::Middle));
+  return {name, fitted.text, {f.XasStart - kBeside, place}, fitted.style};
 }
 
 void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data) {
@@ -156,23 +182,54 @@ void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data) {
   writer.PutPercentages();
 }
 
+namespace {
+
+constexpr double kBetween = 80;  // two labels below the frame
+
+double TotalWidth(const std::vector<Label*>& labels) {
+  double total = 0;
+  for (const Label* label : labels) total += TextWidth(label->text, label->style) + kBetween;
+  return total;
+}
+
+// All alike, so that they stand beside each other: smaller letters, then shorter numbers.
+void FitBeside(const std::vector<Label*>& labels, double room) {
+  const auto shrink = [&] {
+    const double total = TotalWidth(labels);
+    if (total <= room) return true;
+    for (Label* label : labels)
+      label->style.size = std::max(kSmallest, label->style.size * room / total);
+    return TotalWidth(labels) <= room;
+  };
+  if (shrink()) return;
+  for (Label* label : labels) label->text = RoundedNumbers(label->text);
+  shrink();
+}
+
+}  // namespace
+
 void ArrangeOutcomeLabels(Labels& labels, const Paper& paper) {
   const bool up = paper.OutcomesUp();
-  double row = 0;
-  std::vector<Stand> wanted;
-  for (const Label& label : labels)
-    if (OfOutcome(label)) {
-      row = RowHeight(label.style);
-      const double size = up ? row : TextWidth(label.text, label.style) + 80;
-      wanted.push_back({up ? label.at.y : label.at.x, size / 2});
-    }
   const Frame& f = paper.Edges();
-  const double low = up ? f.YasTop - kBeside : f.XasStart - 6 * kBeside;
-  const double high = up ? f.YasBot + 1.25 * row : f.XasEinde + 6 * kBeside;
-  const std::vector<double> centres = SpreadOut(wanted, low, high);
-  auto centre = centres.begin();
+  std::vector<Label*> outcomes;
   for (Label& label : labels)
-    if (OfOutcome(label)) (up ? label.at.y : label.at.x) = *centre++;
+    if (OfOutcome(label)) outcomes.push_back(&label);
+  double low = f.XasStart - 6 * kBeside;
+  double high = f.XasEinde + 6 * kBeside;
+  if (!up) FitBeside(outcomes, high - low);
+  std::vector<Stand> wanted;
+  for (const Label* label : outcomes) {
+    const double size = up ? TextHeight(label->text, label->style)
+                           : TextWidth(label->text, label->style) + kBetween;
+    wanted.push_back({up ? label->at.y : label->at.x, size / 2});
+  }
+  if (up) {
+    low = f.YasTop - kBeside;
+    high = f.YasBot + 1.25 * RowHeight(outcomes.front()->style);
+  }
+  const std::vector<double> centres = SpreadOut(wanted, low, high);
+  for (std::size_t i = 0; i < outcomes.size(); ++i)
+    (up ? outcomes[i]->at.y : outcomes[i]->at.x) = centres[i];
 }
 
 Point AboveAxisTitle(const Frame& frame, double width, double height) {

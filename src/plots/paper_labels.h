@@ -7,7 +7,8 @@
 namespace PlotWBas {
 
 // "A cumulative frequency distribution", of what, on which paper.
-std::string HeadlineText(const ExposureSession& s, const std::string& Transformation);
+std::string HeadlineText(const ExposureSession& s, const std::string& Transformation,
+                         const std::string& name);
 // Product, date and time of the drawing, number of the window.
 std::string HeaderText(const ExposureSession& s, const base::DateTime& time);
 std::string OutcomesTitle(const ExposureSession& s, const std::string& Transformation);
@@ -15,6 +16,13 @@ std::string ScoresTitle(const ExposureSession& s);
 
 // The headline above the plot and the header beside it.
 void PutHeadlines(Labels& labels, double width, double height, const PlotData& data);
+
+// A label on the axis of the outcomes, in the room that the axis has.
+Label OutcomeLabel(const Paper& paper, const char* name, const std::string& text, double CTransf);
+
+// From the frame to what stands beside its ticks, and how wide what stands to the right may be.
+inline constexpr double kBeside = 150;
+double RightRoom(double width);
 
 void PutPaperLabels(Labels& labels, const Paper& paper, const PlotData& data);
 

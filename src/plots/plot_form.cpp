@@ -7,6 +7,7 @@
 #include "plots/annex_e.h"
 #include "plots/paper_labels.h"
 #include "plots/regression_line.h"
+#include "session/global_bas.h"
 
 namespace plots {
 namespace {
@@ -75,6 +76,9 @@ void PlotForm::PlotStatus() {
     DrawCumulative(labels);
   PlotWBas::WriteLabels(PicPlot.drawing, labels);
   ShowLabels(labels);
+  // The headline may have had to shorten it.
+  const std::string series = GlobalBAS::Trim(session.Name);
+  PicPlot.tip = PlotWBas::Shows(PicPlot.drawing, "LblKoptekst", series) ? "" : series;
   TickChoices();
   menuExtrPol.visible = menuExtrPol.enabled = session.LimitsOk;
 }

@@ -118,18 +118,16 @@ void PlotForm::HideBars() {
   }
 }
 
-// With room for the arrows of a bar, so that its slide runs along the axis. Those across lie
-// between the headline and the outcome at the end of the line.
+// With room for the arrows of a bar, so that its slide runs along the axis.
 void PlotForm::PlaceBars() {
   constexpr double kArrow = 280;
   const double W = PicPlot.drawing.ScaleWidth();
   const double H = PicPlot.drawing.ScaleHeight();
-  const double thick = 260 * PlotWBas::TextScale(W, H);
-  const double above = PlotWBas::UpperEndTop(W, H) - 15 - thick;
+  const PlotWBas::BarRoom room = PlotWBas::BarRoomOf(W, H);
   for (screen::Control* bar : {&VScLowLimit, &VScUplimit})
-    bar->place = {0.02 * W, 0.2 * H - kArrow, thick, 0.7 * H + 2 * kArrow};
+    bar->place = {room.left, 0.2 * H - kArrow, room.thickness, 0.7 * H + 2 * kArrow};
   for (screen::Control* bar : {&HScLowLimit, &HScUplimit})
-    bar->place = {0.2 * W - kArrow, above, 0.6 * W + 2 * kArrow, thick};
+    bar->place = {0.2 * W - kArrow, room.top, 0.6 * W + 2 * kArrow, room.thickness};
   for (screen::Control* bar : {&VScLowLimit, &VScUplimit, &HScLowLimit, &HScUplimit}) {
     const bool fits = !AnnexE() && Upright() == (bar == &VScLowLimit || bar == &VScUplimit);
     if (fits) continue;

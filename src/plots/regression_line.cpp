@@ -20,8 +20,6 @@ using drawing::Point;
 
 constexpr drawing::Colour kLine{190, 0, 0};
 constexpr double kPen = 22;
-constexpr double kCorner = 1000;
-constexpr double kAbove = 120;  // from the frame to the label of the line's upper end
 
 // Up to which value of the transformed scale, from which, an outcome is shown.
 struct Guard {
@@ -46,14 +44,13 @@ std::string Shown(const ExposureSession& s, double outcome) {
 void PutLowerEnd(Labels& labels, const Paper& paper, const std::string& text, double yLow) {
   const Frame& f = paper.Edges();
   const bool up = paper.OutcomesUp();
-  drawing::TextStyle style =
-      Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, up ? Across::Right : Across::Centre,
-            up ? Down::Middle : Down::Top);
-  style.colour = kLine;
-  const double place = paper.OutcomePlace(yLow);
-  const Point at = up ? Point{f.XasStart - 150, std::min(place, f.YasBot + 2 * RowHeight(style))}
-                      : Point{std::max(place, f.XasStart - TextWidth(text, style)), f.YasBot + 150};
-  labels.push_back({"LblCBegin", text, at, style});
+  Label label = OutcomeLabel(paper, "LblCBegin", text, yLow);
+  label.style.colour = kLine;
+  if (up)
+    label.at.y = std::min(label.at.y, f.YasBot + 2 * RowHeight(label.style));
+  else
+    label.at.x = std::max(label.at.x, f.XasStart - TextWidth(label.text, label.style));
+  labels.push_back(label);
 }
 
 // The one at the upper end stands outside of the frame where the line leaves it, but above `texts`,
@@ -61,17 +58,20 @@ void PutLowerEnd(Labels& labels, const Paper& paper, const std::string& text, do
 void PutUpperEnd(Labels& labels, const Paper& paper, const std::string& text, double yHigh,
                  double texts) {
   const Frame& f = paper.Edges();
+  const double W = paper.ScaleWidth();
   const bool up = paper.OutcomesUp();
-  drawing::TextStyle style =
-      Style(paper.ScaleWidth(), paper.ScaleHeight(), 8.5, up ? Across::Left : Across::Centre,
-            up ? Down::Middle : Down::Bottom);
+  drawing::TextStyle style = Style(W, paper.ScaleHeight(), 8.5, up ? Across::Left : Across::Centre,
+                                   up ? Down::Middle : Down::Bottom);
   style.colour = kLine;
-  const double row = RowHeight(style);
+  const Fitted fitted = FittedNumbers(text, RightRoom(W), style);
+  const double row = RowHeight(fitted.style);
   const double place = paper.OutcomePlace(yHigh);
-  const Point at =
-      up ? Point{f.XasEinde + 150, std::max(f.YasTop - row, std::min(place, texts - row))}
-         : Point{std::min(place, f.XasEinde), f.YasTop - kAbove};
-  labels.push_back({"LblCEinde", text, at, style});
+  Point at = {f.XasEinde + kBeside, std::max(f.YasTop - row, std::min(place, texts - row))};
+  // Over the frame, and so not over the title of the other axis.
+  if (!up)
+    at = {std::clamp(place, f.XasStart + TextWidth(fitted.text, fitted.style) / 2, f.XasEinde),
+          UpperLabelFoot(paper.ScaleHeight())};
+  labels.push_back({"LblCEinde", fitted.text, at, fitted.style});
 }
 
 void PutEndLabels(Labels& labels, const Paper& paper, const PlotData& data,
@@ -126,10 +126,6 @@ std::optional<LineEnds> LineOf(const Paper& paper, const analysis::Regression& f
   return RegressionEnds(paper, fit);
 }
 
-double UpperEndTop(double width, double height) {
-  return 0.2 * height - kAbove - RowHeight(Style(width, height, 8.5, Across::Centre, Down::Bottom));
-}
-
 std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y) {
   const std::string letters = Transformation.substr(0, 3);
   const auto* guard = std::ranges::find(kGuards, letters, &Guard::letters);
@@ -137,10 +133,11 @@ std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y) 
   return analysis::InverseTransform(Transformation, y);
 }
 
-std::string RegresText(const ExposureSession& s, const std::string& Transformation) {
+std::string RegresText(const ExposureSession& s, const std::string& Transformation,
+                       const std::string& name) {
   const std::string series = Transformation == "Unt" ? std::string("exposure data of ")
                                                      : Transformation + LoadResString(1751);
-  return LoadResString(1750) + series + GlobalBAS::Trim(s.Name) + s.CR + RangeText(s);
+  return LoadResString(1750) + series + name + s.CR + RangeText(s);
 }
 
 std::string DescripText(const ExposureSession& s, const analysis::Regression& fit) {
@@ -155,24 +152,32 @@ std::string DescripText(const ExposureSession& s, const analysis::Regression& fi
          GlobalBAS::ShownTrimmed(s, s.M) + LoadResString(1764);
 }
 
+// What stands below the frame, around the name of the series.
+void PutThrough(Labels& labels, double W, double H, const PlotData& data) {
+  constexpr double kCorner = 1000;  // left to the title of the axis
+  drawing::TextStyle style = Style(W, H, 8, Across::Centre, Down::Top);
+  // The numbers of the horizontal axis stand between.
+  const double under = 0.9 * H + 120 + 1.2 * RowHeight(style);
+  const auto text = [&](const std::string& name) {
+    return RegresText(data.s, data.Transformation, name);
+  };
+  const Fitted fitted =
+      FittedName(text, GlobalBAS::Trim(data.s.Name), W - 2 * kCorner * TextScale(W, H), style);
+  labels.push_back({"LblRegres", fitted.text, {0.5 * W, under}, fitted.style});
+}
+
 void PutRegressionTexts(Labels& labels, const drawing::DrawSurface& surface, const PlotData& data,
                         const analysis::Regression& fit, Point column) {
   const double W = surface.ScaleWidth();
   const double H = surface.ScaleHeight();
-  const double YasBot = 0.9 * H;
   const drawing::TextStyle beside = Style(W, H, 8, Across::Left, Down::Bottom);
-  labels.push_back({"LblShapiro", fit.TestText, column, beside});
-  const double above = (RowCount(fit.TestText) + 0.6) * RowHeight(beside);
+  const Fitted test = FittedNumbers(fit.TestText, RightRoom(W), beside);
+  const Fitted estimates = FittedNumbers(DescripText(data.s, fit), RightRoom(W), beside);
+  labels.push_back({"LblShapiro", test.text, column, test.style});
+  const double above = TextHeight(test.text, test.style) + 0.6 * RowHeight(beside);
   labels.push_back(
-      {"LblDescrip", DescripText(data.s, fit), {0.8 * W + 150, column.y - above}, beside});
-  if (!fit.line) return;
-  const std::string through = RegresText(data.s, data.Transformation);
-  drawing::TextStyle below = Style(W, H, 8, Across::Centre, Down::Top);
-  // The numbers of the horizontal axis stand between.
-  const double under = YasBot + 120 + 1.2 * RowHeight(below);
-  // The corners are left to the title of the axis.
-  below.size = FittingSize(through, W - 2 * kCorner * TextScale(W, H), below);
-  labels.push_back({"LblRegres", through, {0.5 * W, under}, below});
+      {"LblDescrip", estimates.text, {0.8 * W + kBeside, column.y - above}, estimates.style});
+  if (fit.line) PutThrough(labels, W, H, data);
 }
 
 void DrawRegression(drawing::DrawSurface& surface, Labels& labels, const Paper& paper,

@@ -20,15 +20,13 @@ LineEnds RegressionEnds(const Paper& paper, const analysis::Regression& fit);
 // The same, or none where there is no line.
 std::optional<LineEnds> LineOf(const Paper& paper, const analysis::Regression& fit);
 
-// Where the outcomes run across: the top of the label at the line's upper end, above the frame.
-double UpperEndTop(double width, double height);
-
 // The outcome that stands at `y` of the transformed scale at an end of the line; none where the
 // transformation has none to show.
 std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y);
 
-// What the line goes through.
-std::string RegresText(const ExposureSession& s, const std::string& Transformation);
+// What the line goes through: the series of that name.
+std::string RegresText(const ExposureSession& s, const std::string& Transformation,
+                       const std::string& name);
 // The estimates, and how many outcomes they come from.
 std::string DescripText(const ExposureSession& s, const analysis::Regression& fit);
 

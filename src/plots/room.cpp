@@ -10,6 +10,7 @@ namespace {
 using drawing::Point;
 
 constexpr double kHalfCross = 60;
+constexpr double kHair = 10;
 
 // Whether the line from one point to the other meets the box: the parts of it that lie between the
 // sides of the box, across and down, have something in common.
@@ -44,6 +45,11 @@ bool Room::IsFree(const Label& label) const {
   const bool inside = box.left >= frame_.XasStart && box.right <= frame_.XasEinde &&
                       box.top >= frame_.YasTop && box.bottom <= frame_.YasBot;
   if (!inside || (line_ && Meets(box, *line_))) return false;
+  const auto overlaps = [&](const Box& other) {
+    return box.left < other.right + kHair && other.left - kHair < box.right &&
+           box.top < other.bottom + kHair && other.top - kHair < box.bottom;
+  };
+  if (std::ranges::any_of(taken_, overlaps)) return false;
   return std::ranges::none_of(points_, [&](Point at) {
     return at.x > box.left - kHalfCross && at.x < box.right + kHalfCross &&
            at.y > box.top - kHalfCross && at.y < box.bottom + kHalfCross;

@@ -15,6 +15,8 @@ class Room {
   Room(const Paper& paper, const PlotData& data, const std::optional<LineEnds>& line);
 
   bool IsFree(const Label& label) const;
+  // Something stands there from now on.
+  void Take(const Box& box) { taken_.push_back(box); }
   // The first of these places that is free, or the first when none is.
   const Label& FirstFree(const std::vector<Label>& places) const;
 
@@ -22,6 +24,7 @@ class Room {
   Frame frame_;
   std::vector<drawing::Point> points_;
   std::optional<LineEnds> line_;
+  std::vector<Box> taken_;
 };
 
 }  // namespace PlotWBas

@@ -210,8 +210,7 @@ TEST(ProbabilityPaperLabels, OfTheReciprocalStandWithTheirOutcomes) {
 
 TEST(ProbabilityPaperTexts, TellWhatIsDrawnOnWhichScale) {
   ExposureSession s = plot_data::Series(4);
-  s.Name = " welders.vkr ";
-  EXPECT_EQ(PlotWBas::HeadlineText(s, "Log(x)"),
+  EXPECT_EQ(PlotWBas::HeadlineText(s, "Log(x)", "welders.vkr"),
             "A cumulative frequency distribution\rof welders.vkr\r"
             "on Log(x) Normal probability paper");
   EXPECT_EQ(PlotWBas::OutcomesTitle(s, "Sqr(x)"), "Results\rin mg/m3\ron a\rSqr(x) scale");
@@ -222,7 +221,7 @@ TEST(ProbabilityPaperTexts, TellWhatIsDrawnOnWhichScale) {
 
 TEST(ProbabilityPaperTexts, OfUntransformedOutcomesSpeakOfALinearScaleAndOfNoTransformation) {
   const ExposureSession s = plot_data::Series(4);
-  EXPECT_EQ(PlotWBas::HeadlineText(s, "Unt"),
+  EXPECT_EQ(PlotWBas::HeadlineText(s, "Unt", "series.vkr"),
             "A cumulative frequency distribution\rof series.vkr\ron  Normal probability paper");
   EXPECT_EQ(PlotWBas::OutcomesTitle(s, "Unt"), "Results\rin mg/m3\ron a\rLinear scale");
 }

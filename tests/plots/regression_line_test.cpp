@@ -127,17 +127,18 @@ TEST(RegressionLineEnds, ShowNothingWhereTheWayBackLeadsOutOfRange) {
 TEST(RegressionTexts, TellWhatTheLineGoesThrough) {
   ExposureSession s = plot_data::Series(20);
   const std::string through = "Least squares, linear regression goodness-of-fit line through the ";
-  EXPECT_EQ(PlotWBas::RegresText(s, "Log(x)"),
+  EXPECT_EQ(PlotWBas::RegresText(s, "Log(x)", "series.vkr"),
             through + "Log(x) transformed exposure data series.vkr\r");
-  EXPECT_EQ(PlotWBas::RegresText(s, "Unt"), through + "exposure data of series.vkr\r");
+  EXPECT_EQ(PlotWBas::RegresText(s, "Unt", "series.vkr"),
+            through + "exposure data of series.vkr\r");
   s.FirstInRange = 2;
-  EXPECT_EQ(PlotWBas::RegresText(s, "Unt"),
+  EXPECT_EQ(PlotWBas::RegresText(s, "Unt", "series.vkr"),
             through + "exposure data of series.vkr\rabove the limit of quantification (LOQ) ");
   s.LastInRange = 19;
-  EXPECT_EQ(PlotWBas::RegresText(s, "Unt"),
+  EXPECT_EQ(PlotWBas::RegresText(s, "Unt", "series.vkr"),
             through + "exposure data of series.vkr\rwithin the regression range");
   s.FirstInRange = 1;
-  EXPECT_EQ(PlotWBas::RegresText(s, "Unt"),
+  EXPECT_EQ(PlotWBas::RegresText(s, "Unt", "series.vkr"),
             through + "exposure data of series.vkr\rbelow the upper regression range ");
 }
 
