@@ -56,26 +56,37 @@ std::string_view WithoutZeros(std::string_view mantissa) {
   return mantissa;
 }
 
-std::string Rounded(std::string_view number) {
+double Read(std::string_view number) {
   double value = 0;
   std::from_chars(number.data(), number.data() + number.size(), value);
+  return value;
+}
+
+std::string Written(double value, std::chars_format form, int decimals) {
   std::array<char, 400> buffer{};
-  const auto written = [&](double what, std::chars_format form, int decimals) {
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), what, form, decimals);
-    return std::string(buffer.data(), end.ptr);
-  };
-  const std::string six = written(value, std::chars_format::scientific, kDigits - 1);
-  const std::size_t e = six.find('e');
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, form, decimals);
+  return {buffer.data(), end.ptr};
+}
+
+// Of "1.06833e-05": "-5".
+std::string ExponentOf(const std::string& scientific) {
+  const std::size_t sign = scientific.find('e') + 1;
+  const std::size_t digits =
+      std::min(scientific.find_first_not_of('0', sign + 1), scientific.size() - 1);
+  return scientific[sign] + scientific.substr(digits);
+}
+
+// As it was written, plainly or with a power of ten.
+std::string Rounded(std::string_view number) {
+  const std::string six = Written(Read(number), std::chars_format::scientific, kDigits - 1);
+  const std::string exponent = ExponentOf(six);
   if (number.find('E') != std::string_view::npos)
-    return std::string(WithoutZeros(std::string_view(six).substr(0, e))) + "E" + six.substr(e + 1);
-  double rounded = 0;
-  std::from_chars(six.data(), six.data() + six.size(), rounded);
-  int exponent = 0;
-  const std::size_t sign = six[e + 1] == '+' ? 2 : 1;
-  std::from_chars(six.data() + e + sign, six.data() + six.size(), exponent);
-  const int decimals = std::max(0, kDigits - 1 - exponent);
-  return std::string(WithoutZeros(written(rounded, std::chars_format::fixed, decimals)));
+    return std::string(WithoutZeros(std::string_view(six).substr(0, six.find('e')))) + "E" +
+           exponent;
+  const auto power = static_cast<int>(Read(exponent.substr(exponent[0] == '+' ? 1 : 0)));
+  const int decimals = std::max(0, kDigits - 1 - power);
+  return std::string(WithoutZeros(Written(Read(six), std::chars_format::fixed, decimals)));
 }
 
 double Share(drawing::Across across) {

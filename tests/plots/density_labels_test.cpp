@@ -2,7 +2,7 @@
 // each other, of the curve and of the edge, whatever the numbers.
 #include "plots/density_labels.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 
@@ -14,15 +14,21 @@ namespace {
 
 using drawing::DrawingRecord;
 using drawing::DrawnDot;
+using drawing::DrawnLine;
 using drawing::DrawnText;
 using PlotWBas::Box;
+using testing::HasSubstr;
 
 struct Size {
   double width;
   double height;
 };
-// The window as it opens, at 1280 by 720, tall, and as small as it gets.
-constexpr Size kSizes[] = {{11580, 8330}, {18780, 9930}, {9000, 14000}, {6900, 4440}};
+// The window as it opens, at 1280 by 720, 1366 by 768, 1920 by 1080 and 3840 by 2160, tall, and as
+// small as it gets.
+constexpr Size kSizes[] = {{11580, 8330},  {18780, 9930}, {20070, 10650}, {28380, 15330},
+                           {57180, 31530}, {9000, 14000}, {6900, 4440}};
+// Where letters of 6 points have room for everything.
+constexpr double kRoomy = 11000;
 
 ExposureSession Sample(double GSD, int tab, const char* TestTag) {
   ExposureSession s;
@@ -54,13 +60,29 @@ bool Holds(const Box& box, drawing::Point at) {
   return at.x > box.left && at.x < box.right && at.y > box.top && at.y < box.bottom;
 }
 
+// The upright lines of the marks and of the axis.
+bool Crosses(const Box& box, const DrawnLine& line) {
+  return line.from.x == line.to.x && line.from.x > box.left && line.from.x < box.right &&
+         std::min(line.from.y, line.to.y) < box.bottom &&
+         std::max(line.from.y, line.to.y) > box.top;
+}
+
+bool Stands(const Box& box, const DrawingRecord::Item& item) {
+  const auto* dot = std::get_if<DrawnDot>(&item);
+  const auto* line = std::get_if<DrawnLine>(&item);
+  return (dot && Holds(box, dot->at)) || (line && Crosses(box, *line));
+}
+
 // What stands in each other's way; empty when nothing does.
 std::string Trouble(const DrawingRecord& drawing) {
   std::vector<std::pair<std::string, Box>> boxes;
-  for (const auto& item : drawing.Items())
-    if (const auto* text = std::get_if<DrawnText>(&item))
-      boxes.push_back({text->label, PlotWBas::BoxOf(text->at, text->text, text->style)});
   std::string trouble;
+  for (const auto& item : drawing.Items())
+    if (const auto* text = std::get_if<DrawnText>(&item)) {
+      boxes.push_back({text->label, PlotWBas::BoxOf(text->at, text->text, text->style)});
+      if (text->style.size < 6 && drawing.ScaleWidth() > kRoomy)
+        trouble += text->label + " is too small; ";
+    }
   for (std::size_t i = 0; i < boxes.size(); ++i) {
     const auto& [name, box] = boxes[i];
     if (box.left < 0 || box.top < 0 || box.right > drawing.ScaleWidth() ||
@@ -69,7 +91,7 @@ std::string Trouble(const DrawingRecord& drawing) {
     for (std::size_t k = i + 1; k < boxes.size(); ++k)
       if (Touch(box, boxes[k].second)) trouble += name + " touches " + boxes[k].first + "; ";
     for (const auto& item : drawing.Items())
-      if (const auto* dot = std::get_if<DrawnDot>(&item); dot && Holds(box, dot->at)) {
+      if (Stands(box, item)) {
         trouble += name + " stands on the curve; ";
         break;
       }
@@ -100,13 +122,53 @@ INSTANTIATE_TEST_SUITE_P(Callers, DensityLabels,
                          testing::Values(Caller{84, ""}, Caller{90, "Le"}, Caller{90, "Wi"},
                                          Caller{90, "Tu"}, Caller{92, "Ap"}, Caller{92, "Ex"}));
 
-TEST(DensityLabels, TakeALongNameAndALongUnit) {
-  ExposureSession s = Sample(1.8, 92, "Ex");
-  s.Name = "/home/hygiene/measurements/2024/Foundry west, moulders and core makers, March.vkr";
-  s.Unit = "fibres/ml, eight-hour mean";
-  DrawingRecord drawing(11580, 8330);
-  PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
-  EXPECT_EQ(Trouble(drawing), "");
+// The texts of the labels below the axis.
+std::string Below(const DrawingRecord& drawing) {
+  std::string texts;
+  for (const auto& item : drawing.Items())
+    if (const auto* text = std::get_if<DrawnText>(&item);
+        text && text->at.y > 0.9 * drawing.ScaleHeight())
+      texts += text->text + "|";
+  return texts;
+}
+
+TEST_P(DensityLabels, TakeALongNameAndALongUnit) {
+  for (const char* name :
+       {"/home/hygiene/measurements/2024/Foundry west, moulders and core makers, March.vkr",
+        "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW"})
+    for (const Size& size : kSizes) {
+      if (size.width < kRoomy) continue;
+      ExposureSession s = Sample(1.8, GetParam().tab, GetParam().TestTag);
+      s.Name = name;
+      s.Unit = "fibres/ml, eight-hour mean";
+      DrawingRecord drawing(size.width, size.height);
+      PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
+      EXPECT_EQ(Trouble(drawing), "") << size.width;
+    }
+}
+
+// The first digits and the power of ten tell what a number is: neither may be missing.
+TEST_P(DensityLabels, NumbersOfManyDigitsKeepTheirBeginningAndTheirEnd) {
+  for (const double GM : {0.0106833284049, 1.13712345678E-9, 1.23456789123E9})
+    for (const Size& size : kSizes) {
+      if (size.width < kRoomy) continue;
+      ExposureSession s = Sample(2.5, GetParam().tab, GetParam().TestTag);
+      s.SigDigits = 12;
+      s.UTL *= GM / s.GM;
+      s.AMu *= GM / s.GM;
+      s.UCL += std::log(GM / s.GM);
+      s.OELV = 4 * GM;
+      s.GM = GM;
+      DrawingRecord drawing(size.width, size.height);
+      PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
+      EXPECT_EQ(Trouble(drawing), "") << size.width;
+      const std::string below = Below(drawing);
+      const bool large = GM > 1;
+      const bool small = GM < 1E-6;
+      EXPECT_THAT(below, HasSubstr(large ? "GM= 1.2345" : small ? "GM= 1.1371" : "GM= 1.0683"));
+      EXPECT_THAT(below, HasSubstr(large ? "E+9 mg/m3" : small ? "E-9 mg/m3" : "E-2 mg/m3"));
+      EXPECT_EQ(below.find("\u2026"), std::string::npos) << below;
+    }
 }
 
 // The check above would be worth nothing if it saw no trouble at all.

@@ -53,10 +53,10 @@ TEST(Fitting, ALongNameLosesItsMiddle) {
 }
 
 TEST(Fitting, LongNumbersAreRoundedToSixDigits) {
-  EXPECT_EQ(RoundedNumbers("GMg= 1.06833284049E-05"), "GMg= 1.06833E-05");
+  EXPECT_EQ(RoundedNumbers("GMg= 1.06833284049E-5"), "GMg= 1.06833E-5");
   EXPECT_EQ(RoundedNumbers("GMg= 0.0106833284049 mg/m3"), "GMg= 0.0106833 mg/m3");
   EXPECT_EQ(RoundedNumbers("9.99999951"), "10");
-  EXPECT_EQ(RoundedNumbers("9.99999951E-05"), "1E-04");
+  EXPECT_EQ(RoundedNumbers("9.99999951E-5"), "1E-4");
   EXPECT_EQ(RoundedNumbers("1234567.8"), "1234570");
   EXPECT_EQ(RoundedNumbers("0.1234564999"), "0.123456");
   EXPECT_EQ(RoundedNumbers("1.20000011"), "1.2");
@@ -69,15 +69,15 @@ TEST(Fitting, NumbersOfSixDigitsStayAsTheyAre) {
 }
 
 TEST(Fitting, ANumberIsShortenedOnlyWhereSmallLettersDoNotHelp) {
-  const std::string text = "GMg= 1.06833284049E-05";
+  const std::string text = "GMg= 1.06833284049E-5";
   const double width = TextWidth(text, kNine);
   EXPECT_EQ(FittedNumbers(text, width, kNine).style.size, 9);
   EXPECT_EQ(FittedNumbers(text, 0.7 * width, kNine).text, text);
   const Fitted fitted = FittedNumbers(text, 0.6 * width, kNine);
-  EXPECT_EQ(fitted.text, "GMg= 1.06833E-05");
+  EXPECT_EQ(fitted.text, "GMg= 1.06833E-5");
   EXPECT_LE(TextWidth(fitted.text, fitted.style), 0.6 * width);
   EXPECT_GE(fitted.style.size, 6);
-  EXPECT_EQ(FittedNumbers(text, 0.4 * width, kNine).text, "GMg=\r1.06833E-05");
+  EXPECT_EQ(FittedNumbers(text, 0.4 * width, kNine).text, "GMg=\r1.06833E-5");
 }
 
 TEST(Fitting, ANameIsShortenedBeforeTheLettersGetTooSmall) {
