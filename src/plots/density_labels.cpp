@@ -22,16 +22,18 @@ constexpr double kGap = 120;   // between a text and what is beside it
 constexpr drawing::Colour kQuiet{110, 110, 110};
 constexpr drawing::Colour kFrame{0, 0, 0};
 
-// On as many lines as needed; what is wider yet, a long name without a blank, loses its middle.
+// On as many lines as needed. A word that would fill a line, a long name without a blank, loses its
+// middle, so that the "of" before it stays with it.
 std::string Fitting(const std::string& text, double width, const TextStyle& style) {
-  const std::string wrapped = Wrapped(text, width, style);
+  const double room = width - TextWidth("of ", style);
   std::string fitting;
-  for (std::size_t at = 0; at <= wrapped.size();) {
-    const std::size_t end = std::min(wrapped.find('\r', at), wrapped.size());
-    fitting += (at > 0 ? "\r" : "") + Elided(wrapped.substr(at, end - at), width, style);
+  for (std::size_t at = 0; at <= text.size();) {
+    const std::size_t end = std::min(text.find_first_of(" \r", at), text.size());
+    fitting += Elided(text.substr(at, end - at), room, style);
+    if (end < text.size()) fitting += text[end];
     at = end + 1;
   }
-  return fitting;
+  return Wrapped(fitting, width, style);
 }
 
 // The headlines, one below the other, in the first place that is free of curve and marks.
