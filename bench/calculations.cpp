@@ -1,3 +1,5 @@
+#include "bench/calculations.h"
+
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -10,12 +12,102 @@
 #include "bench/raw_series.h"
 #include "compliance/en689.h"
 #include "compliance/sample_size.h"
-#include "session/exposure_session.h"
-#include "stats/coefficients.h"
+#include "session/global_bas.h"
 #include "ucl/mean_limit.h"
 
-// One press of a button each, by sample size.
+namespace bench {
 namespace {
+
+std::string Name(const char* what, double M) {
+  return std::string(what) + ", M " + GlobalBAS::GeneralText(M);
+}
+
+Calculation En689(double M) {
+  const ExposureSession start = Known(M, 2, 1);
+  const double Ur = std::log(1 / 0.3) / std::log(2.0);
+  return {Name("EN 689", M),
+          [s = start, Ur]() mutable { benchmark::DoNotOptimize(compliance::En689Test(s, Ur)); }};
+}
+
+// A GSD close to 1 with few degrees of freedom puts the limit thousands of steps away.
+Calculation En689Far() {
+  ExposureSession start = Known(2, 1.001, 1);
+  start.U = 99.99;
+  start.D = 99.99;
+  return {"EN 689, the limit far away",
+          [s = start]() mutable { benchmark::DoNotOptimize(compliance::En689Test(s, 1)); }};
+}
+
+Calculation SampleSize() {
+  ExposureSession start = Known(10, 2, 1);
+  start.TestTag = "Wi";
+  return {"sample size search",
+          [s = start]() mutable { benchmark::DoNotOptimize(compliance::OptimiseSampleSize(s)); }};
+}
+
+// Some twenty trial limits and the limit itself.
+Calculation Land(const char* name, double M, double GSD, double OELV) {
+  ExposureSession start = Known(M, GSD, OELV);
+  ucl::MeanStatistics(start);
+  return {Name(name, M), [s = start]() mutable { benchmark::DoNotOptimize(ucl::LandCmb(s)); }};
+}
+
+ExposureSession Series(int count) {
+  ExposureSession s;
+  s.Mode = "R";
+  s.CR = "\r";
+  s.SigDigits = 4;
+  s.M = count;
+  s.df = count - 1;
+  s.C = LognormalSeries(count);
+  std::sort(s.C.begin(), s.C.end());
+  s.C.insert(s.C.begin(), 0.0);
+  StoreMedian(s);
+  s.LnC.resize(s.C.size());
+  s.FirstInRange = 1;
+  s.LastInRange = static_cast<std::int16_t>(count);
+  s.NInRange = s.LastInRange;
+  analysis::FillCTransf(s, "Log(x)");
+  return s;
+}
+
+Calculation Shapiro(int count) {
+  const ExposureSession s = Series(count);
+  analysis::ShapiroWeights weights;
+  analysis::FillShapiroWeights(count, weights);
+  return {Name("test of fit", count), [s, count, weights]() mutable {
+            benchmark::DoNotOptimize(analysis::ShapiroWilk(s.LnC, count, 1, count, weights));
+          }};
+}
+
+Calculation ShapiroWeights(int count) {
+  return {Name("weights of the test of fit", count), [count] {
+            analysis::ShapiroWeights weights;
+            analysis::FillShapiroWeights(count, weights);
+            benchmark::DoNotOptimize(weights);
+          }};
+}
+
+// With its test of fit and the update of the record, as at each redraw.
+Calculation Regression(int count) {
+  analysis::FitState fit;
+  fit.Transformation = "Log(x)";
+  fit.RankitTable = analysis::RankitsForSampleSize(count);
+  return {Name("regression", count), [s = Series(count), fit]() mutable {
+            benchmark::DoNotOptimize(analysis::ProbabilityRegression(s, fit));
+          }};
+}
+
+Calculation Moments(int count) {
+  return {Name("geometric mean and deviation", count), [s = Series(count)]() mutable {
+            double gm = 0;
+            double gsd = 0;
+            LogMoments(s, gm, gsd);
+            benchmark::DoNotOptimize(gsd);
+          }};
+}
+
+}  // namespace
 
 ExposureSession Known(double M, double GSD, double OELV) {
   ExposureSession s;
@@ -33,111 +125,19 @@ ExposureSession Known(double M, double GSD, double OELV) {
   return s;
 }
 
-void En689Test(benchmark::State& state) {
-  const auto M = static_cast<double>(state.range(0));
-  const double Ur = std::log(1 / 0.3) / std::log(2.0);
-  for (auto _ : state) {
-    ExposureSession s = Known(M, 2, 1);
-    benchmark::DoNotOptimize(compliance::En689Test(s, Ur));
-  }
-}
-BENCHMARK(En689Test)->Arg(2)->Arg(10)->Arg(30)->Arg(100)->Arg(201)->Arg(2000);
-
-// A GSD close to 1 with few degrees of freedom puts the limit thousands of steps away.
-void En689TestFar(benchmark::State& state) {
-  for (auto _ : state) {
-    ExposureSession s = Known(2, 1.001, 1);
-    s.U = 99.99;
-    s.D = 99.99;
-    benchmark::DoNotOptimize(compliance::En689Test(s, 1));
-  }
-}
-BENCHMARK(En689TestFar);
-
-void SampleSize(benchmark::State& state) {
-  for (auto _ : state) {
-    ExposureSession s = Known(10, 2, 1);
-    s.TestTag = "Wi";
-    benchmark::DoNotOptimize(compliance::OptimiseSampleSize(s));
-  }
-}
-BENCHMARK(SampleSize);
-
-// LandCmb: some twenty trial limits and the limit itself.
-void Land(benchmark::State& state, double GSD, double OELV) {
-  ExposureSession start = Known(static_cast<double>(state.range(0)), GSD, OELV);
-  ucl::MeanStatistics(start);
-  for (auto _ : state) {
-    ExposureSession s = start;
-    benchmark::DoNotOptimize(ucl::LandCmb(s));
-  }
-}
-BENCHMARK_CAPTURE(Land, middle, 2.0, 0.5)
-    ->Arg(3)
-    ->Arg(10)
-    ->Arg(30)
-    ->Arg(100)
-    ->Arg(301)
-    ->Arg(1000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Land, GSD_1_01, 1.01, 0.301)->Arg(10)->Arg(1000)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Land, GSD_20, 20.0, 30.0)->Arg(10)->Arg(1000)->Unit(benchmark::kMillisecond);
-
-ExposureSession Series(int count) {
-  ExposureSession s;
-  s.Mode = "R";
-  s.CR = "\r";
-  s.SigDigits = 4;
-  s.M = count;
-  s.df = count - 1;
-  s.C = bench::LognormalSeries(count);
-  std::sort(s.C.begin(), s.C.end());
-  s.C.insert(s.C.begin(), 0.0);
-  StoreMedian(s);
-  s.LnC.resize(s.C.size());
-  s.FirstInRange = 1;
-  s.LastInRange = static_cast<std::int16_t>(count);
-  s.NInRange = s.LastInRange;
-  analysis::FillCTransf(s, "Log(x)");
-  return s;
+std::vector<Calculation> Calculations() {
+  std::vector<Calculation> all;
+  for (const double M : {2, 10, 30, 100, 201, 2000}) all.push_back(En689(M));
+  all.push_back(En689Far());
+  all.push_back(SampleSize());
+  for (const double M : {3, 10, 40, 300, 1000}) all.push_back(Land("Land", M, 2, 1));
+  for (const double M : {10, 1000}) all.push_back(Land("Land, GSD 1.01", M, 1.01, 0.301));
+  for (const double M : {10, 1000}) all.push_back(Land("Land, GSD 20", M, 20, 30));
+  for (const int M : {20, 200, 2000}) all.push_back(Shapiro(M));
+  all.push_back(ShapiroWeights(2000));
+  for (const int M : {20, 200, 2000}) all.push_back(Regression(M));
+  for (const int M : {40, 2000}) all.push_back(Moments(M));
+  return all;
 }
 
-void Shapiro(benchmark::State& state) {
-  const int count = static_cast<int>(state.range(0));
-  const ExposureSession s = Series(count);
-  analysis::ShapiroWeights weights;
-  analysis::FillShapiroWeights(count, weights);
-  for (auto _ : state)
-    benchmark::DoNotOptimize(analysis::ShapiroWilk(s.LnC, count, 1, count, weights));
-}
-BENCHMARK(Shapiro)->Arg(20)->Arg(200)->Arg(2000);
-
-void ShapiroWeights(benchmark::State& state) {
-  for (auto _ : state) {
-    analysis::ShapiroWeights weights;
-    analysis::FillShapiroWeights(static_cast<int>(state.range(0)), weights);
-    benchmark::DoNotOptimize(weights);
-  }
-}
-BENCHMARK(ShapiroWeights)->Arg(2000);
-
-// With its test of fit and the update of the record, as at each redraw.
-void Regression(benchmark::State& state) {
-  const int count = static_cast<int>(state.range(0));
-  ExposureSession s = Series(count);
-  analysis::FitState fit;
-  fit.Transformation = "Log(x)";
-  fit.RankitTable = analysis::RankitsForSampleSize(count);
-  for (auto _ : state) benchmark::DoNotOptimize(analysis::ProbabilityRegression(s, fit));
-}
-BENCHMARK(Regression)->Arg(20)->Arg(200)->Arg(2000);
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"});
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
+}  // namespace bench

@@ -66,6 +66,14 @@ void ReadNumber(benchmark::State& state) {
 }
 BENCHMARK(ReadNumber);
 
+// The time of one digit, however many there are.
+void ReadLongNumber(benchmark::State& state) {
+  const std::string digits(static_cast<std::size_t>(state.range(0)), '7');
+  for (auto _ : state) benchmark::DoNotOptimize(GlobalBAS::ReadNumber(digits));
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(ReadLongNumber)->Arg(20'000)->Arg(20'000'000)->Unit(benchmark::kMicrosecond);
+
 void CheckFile(benchmark::State& state) {
   const bench::RawSeriesFile file(static_cast<int>(state.range(0)));
   for (auto _ : state) benchmark::DoNotOptimize(rawdata::CheckFile(file.Path()));

@@ -5,6 +5,7 @@
 #include <QtTest/QTest>
 
 #include "drive/failure.h"
+#include "ui/vector_registers.h"
 
 namespace drive {
 
@@ -27,6 +28,8 @@ void Stage::Settle() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+  // A routine that a script calls runs as it does in a handler.
+  ui::ClearVectorRegisters();
 }
 
 bool Stage::Ended() { return closed_ || Program().EndRequested(); }

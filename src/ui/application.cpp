@@ -9,6 +9,7 @@
 #include "ui/picture_font.h"
 #include "ui/splash.h"
 #include "ui/text.h"
+#include "ui/vector_registers.h"
 
 namespace ui {
 namespace {
@@ -20,7 +21,9 @@ class BoxOverWindow final : public screen::MessageBox {
   void SetWindow(MainWindow* window) { window_ = window; }
   screen::Answer Show(const screen::Message& message) override {
     if (window_) window_->ShowState();
-    return box_.Show(message);
+    const screen::Answer answer = box_.Show(message);
+    ClearVectorRegisters();
+    return answer;
   }
 
  private:
@@ -28,14 +31,30 @@ class BoxOverWindow final : public screen::MessageBox {
   MainWindow* window_ = nullptr;
 };
 
+class FileDialogOverWindow final : public screen::FileDialog {
+ public:
+  explicit FileDialogOverWindow(screen::FileDialog& dialog) : dialog_(dialog) {}
+  std::string Ask(const Request& request) override {
+    std::string path = dialog_.Ask(request);
+    ClearVectorRegisters();
+    return path;
+  }
+
+ private:
+  screen::FileDialog& dialog_;
+};
+
+// What the handler calculates behind a painting runs as fast as before it.
 class WindowSurface final : public screen::Surface {
  public:
   void SetWindow(MainWindow* window) { window_ = window; }
   void Repaint(screen::Form& form) override {
     if (window_) window_->Repaint(form);
+    ClearVectorRegisters();
   }
   void RepaintControl(screen::Form& form, screen::Control& control) override {
     if (window_) window_->RepaintControl(form, control);
+    ClearVectorRegisters();
   }
 
  private:
@@ -56,7 +75,8 @@ std::vector<std::string> DataFolders() {
 struct Application::Parts {
   explicit Parts(const Surroundings& around)
       : box(around.messageBox),
-        ports{box, around.fileDialog, surface, around.clock, pictureFile, around.printer},
+        fileDialog(around.fileDialog),
+        ports{box, fileDialog, surface, around.clock, pictureFile, around.printer},
         program(ports, DataFolders()) {
     window = std::make_unique<MainWindow>(program, ports);
     surface.SetWindow(window.get());
@@ -64,6 +84,7 @@ struct Application::Parts {
   }
 
   BoxOverWindow box;
+  FileDialogOverWindow fileDialog;
   WindowSurface surface;
   PictureFile pictureFile;
   screen::Ports ports;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "ui/vector_registers.h"
+
 namespace ui {
 
 EventGate::EventGate(screen::Ports& ports, std::function<void()> settle)
@@ -9,6 +11,7 @@ EventGate::EventGate(screen::Ports& ports, std::function<void()> settle)
 
 void EventGate::Run(const screen::Handler& handler) {
   ++depth_;
+  ClearVectorRegisters();
   screen::Guarded(ports_, handler);
   --depth_;
   if (depth_ == 0) settle_();

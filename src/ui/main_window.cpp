@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QElapsedTimer>
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
@@ -39,7 +38,6 @@ class MainWindow::Private {
   void FocusNewPage(QWidget* before);
   void Push();
   bool RepaintSide(const screen::Form& form);
-  bool ControlIsDue();
   void Settle();
   void End();
   void Choose(const QString& key);
@@ -58,9 +56,8 @@ class MainWindow::Private {
   bool onDetour_ = false;
   bool pointerBusy_ = false;
   bool ending_ = false;
-  bool placed_ = false;      // within its frame
-  int controlsPainted_ = 0;  // since the whole window was last brought up to date
-  QElapsedTimer sinceControl_;
+  bool placed_ = false;  // within its frame
+  Pace pace_;            // of the steps since the whole window was last brought up to date
 };
 
 MainWindow::Private::Private(MainWindow& window, start::Program& program, screen::Ports& ports)
@@ -117,7 +114,7 @@ void MainWindow::Private::FocusNewPage(QWidget* before) {
 
 // Showing and hiding may move the focus; that is no event for the controls.
 void MainWindow::Private::Push() {
-  controlsPainted_ = 0;
+  pace_.Restart();
   QWidget* before = window_.focusWidget();
   const screen::Form& shown = program_.Shown();
   for (auto& binder : binders_) binder->Push(&binder->Form() == &shown);
@@ -137,6 +134,8 @@ void MainWindow::Private::Push() {
 bool MainWindow::Private::RepaintSide(const screen::Form& form) {
   for (SideView* side : sides_) {
     if (&side->Form() != &form) continue;
+    const bool appears = side->Form().shown && !side->isVisible();
+    if (!appears && !pace_.IsDue()) return true;
     BinderOf(form)->Push(true);
     side->Push();
     PushPointer(program_.Shown().busyPointer);
@@ -144,17 +143,6 @@ bool MainWindow::Private::RepaintSide(const screen::Form& form) {
     return true;
   }
   return false;
-}
-
-// No display shows more than some sixty pictures a second: a search with a thousand candidates
-// paints the first of them, and goes on at that pace.
-bool MainWindow::Private::ControlIsDue() {
-  constexpr int kAtOnce = 60;
-  constexpr int kPaceMilliseconds = 16;
-  if (controlsPainted_ >= kAtOnce && !sinceControl_.hasExpired(kPaceMilliseconds)) return false;
-  ++controlsPainted_;
-  sinceControl_.start();
-  return true;
 }
 
 void MainWindow::Private::PushPointer(bool busy) {
@@ -225,7 +213,7 @@ void MainWindow::Repaint(screen::Form& form) {
 
 void MainWindow::RepaintControl(screen::Form& form, screen::Control& control) {
   FormBinder* binder = private_->BinderOf(form);
-  if (binder && private_->ControlIsDue()) binder->Repaint(control);
+  if (binder && private_->pace_.IsDue()) binder->Repaint(control);
 }
 
 QWidget* MainWindow::WidgetOf(const screen::Form& form, const screen::Control& control) const {
@@ -237,6 +225,8 @@ QAction* MainWindow::ActionOf(const screen::Form& form, const screen::Control& c
   const FormBinder* binder = private_->BinderOf(form);
   return binder ? binder->ActionOf(control) : nullptr;
 }
+
+Pace& MainWindow::StepPace() { return private_->pace_; }
 
 QTabBar* MainWindow::Strip() const { return private_->strip_; }
 

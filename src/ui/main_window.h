@@ -6,6 +6,7 @@
 
 #include "screen/form.h"
 #include "start/program.h"
+#include "ui/pace.h"
 
 class QAction;
 class QTabBar;
@@ -35,6 +36,8 @@ class MainWindow : public QMainWindow, public screen::Surface {
   QWidget* WidgetOf(const screen::Form& form, const screen::Control& control) const;
   QAction* ActionOf(const screen::Form& form, const screen::Control& control) const;
   QTabBar* Strip() const;
+  // Of the steps that a search shows.
+  Pace& StepPace();
 
  protected:
   void changeEvent(QEvent* event) override;
