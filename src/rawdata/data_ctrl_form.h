@@ -77,7 +77,13 @@ struct DataCtrlForm final : navigation::SessionForm {
   void DeleteRow(int row);
   void CommitRow();
   void PasteRows(int row, const std::string& text);
+  // Asks when another program has changed the file at `path` since the series was read from it or
+  // saved to it.
+  bool MayOverwrite(const std::string& path);
 
+  // The file that holds the series, as it was when this program last read or wrote it.
+  std::optional<files::FileMark> mark_;
+  std::string markedPath_;
   int rangeCheck_ = 0;  // 0 none, 4 range too small, 5 range too large
 };
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "catalog/catalog.h"
+#include "files/safe_writer.h"
 #include "rawdata/data_ctrl_form.h"
 
 // The grid of the data control screen: its cells, and what editing them does to the series.
@@ -180,6 +181,8 @@ void DataCtrlForm::PasteRows(int row, const std::string& text) {
 
 void DataCtrlForm::TellReading(const ReadingNotes* notes) {
   ReadingLbl.text.clear();
+  mark_ = notes ? notes->mark : std::nullopt;
+  markedPath_ = session.Name;
   if (!notes) {
     Rebind();
     return;
@@ -203,18 +206,22 @@ void DataCtrlForm::VkrSave() {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
     return;
   }
+  if (!MayOverwrite(path)) return;
   busyPointer = true;
   Refresh();
   session.MsgTitle = LoadResString(910) + path;
   session.MsgText.clear();
   SizeSeries(session);
-  const bool written = WriteFile(path, {session.C.begin() + 1, session.C.end()});
+  const std::string bytes = FileBytes({session.C.begin() + 1, session.C.end()});
+  const bool written = files::WriteSafely(path, bytes);
   busyPointer = false;
   if (!written) {
     ReadingLbl.text = "The file could not be written: " + path + ". The series is not saved.";
     return;
   }
   session.Name = path;
+  mark_ = files::MarkOfBytes(bytes);
+  markedPath_ = path;
   desk.MarkSaved();
   ReadingLbl.text = ShownTrimmed(session.M) + " outcomes saved.";
   Rebind();

@@ -1,12 +1,8 @@
 #include "rawdata/raw_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <limits>
 
+#include "files/regular_file.h"
 #include "rawdata/line_reader.h"
 
 // Reading a raw data file.
@@ -18,40 +14,7 @@ constexpr double kHighest = 1E+10;
 constexpr int kMostLines = 2000;
 constexpr int kFewestLines = 2;
 
-// A file open for reading. Anything but a regular file is refused: a pipe or a device could keep
-// the program waiting for ever.
-class RegularFile {
- public:
-  explicit RegularFile(const std::string& path)
-      : handle_(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)) {
-    struct stat about {};
-    failed_ = handle_ < 0 || ::fstat(handle_, &about) != 0 || !S_ISREG(about.st_mode);
-  }
-  ~RegularFile() {
-    if (handle_ >= 0) ::close(handle_);
-  }
-  RegularFile(const RegularFile&) = delete;
-  RegularFile& operator=(const RegularFile&) = delete;
-
-  bool Failed() const { return failed_; }
-
-  // 0 at the end and after a read error, which Failed() then tells.
-  std::size_t Read(char* buffer, std::size_t size) {
-    if (failed_) return 0;
-    ssize_t got = 0;
-    do {
-      got = ::read(handle_, buffer, size);
-    } while (got < 0 && errno == EINTR);
-    failed_ = got < 0;
-    return failed_ ? 0 : static_cast<std::size_t>(got);
-  }
-
- private:
-  int handle_;
-  bool failed_ = false;
-};
-
-LineReader LinesOf(RegularFile& file) {
+LineReader LinesOf(files::RegularFile& file) {
   return LineReader([&file](char* buffer, std::size_t size) { return file.Read(buffer, size); });
 }
 
@@ -67,7 +30,7 @@ int RefusalOf(double value) { return value >= kLowest && value <= kHighest ? 0 :
 
 FileCheck CheckFile(const std::string& path) {
   FileCheck check;
-  RegularFile file(path);
+  files::RegularFile file(path);
   LineReader lines = LinesOf(file);
   for (Line line; lines.Next(line);) {
     // A file of more lines than an int can count is refused long before.
@@ -89,7 +52,9 @@ FileCheck CheckFile(const std::string& path) {
 // ends the reading as a read error does.
 FileValues ReadFile(const std::string& path, int count) {
   FileValues read;
-  RegularFile file(path);
+  // What another program writes from here on differs from it.
+  read.notes.mark = files::MarkOf(path);
+  files::RegularFile file(path);
   LineReader lines = LinesOf(file);
   Line line;
   for (int i = 1; i <= count; ++i) {

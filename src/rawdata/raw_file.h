@@ -1,17 +1,20 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "files/file_mark.h"
 #include "session/exposure_session.h"
 
 // Raw data files (*.vkr): plain text, one outcome a line.
 namespace rawdata {
 
-// How a file's lines were understood, for the line under the grid.
+// How a file's lines were understood, for the line under the grid, and what it held.
 struct ReadingNotes {
   std::vector<int> trailingText;   // lines that carried text behind the number
   std::vector<int> commaAndPoint;  // lines that held both comma and point
+  std::optional<files::FileMark> mark;
 };
 
 // The outcome of the first pass.
@@ -35,8 +38,10 @@ struct FileValues {
 };
 FileValues ReadFile(const std::string& path, int count);
 
-// Writes values[0..] one a line with CR LF, beside the file first and then renamed over it, so
-// that the old file survives a failure. Returns false, with nothing changed, on any failure.
+// What a file of these outcomes holds: values[0..] one a line, with CR LF.
+std::string FileBytes(const std::vector<double>& values);
+
+// Writes them by files::WriteSafely. Returns false, with nothing changed, on any failure.
 bool WriteFile(const std::string& path, const std::vector<double>& values);
 
 // Why a typed or pasted text is no outcome: catalogue id 920, or 0 when it is one in

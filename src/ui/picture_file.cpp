@@ -1,11 +1,11 @@
 #include "ui/picture_file.h"
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
-#include <QSaveFile>
 
+#include "files/safe_writer.h"
 #include "ui/painter_surface.h"
-#include "ui/text.h"
 
 namespace ui {
 namespace {
@@ -25,9 +25,9 @@ bool PictureFile::Write(const std::string& path, const drawing::DrawingRecord& d
   QPainter painter(&image);
   PaintDrawing(painter, image.rect(), drawing);
   painter.end();
-  // Writes beside the file and renames over it.
-  QSaveFile file(Shown(path));
-  return file.open(QIODevice::WriteOnly) && image.save(&file, "BMP") && file.commit();
+  QBuffer bytes;
+  if (!bytes.open(QIODevice::WriteOnly) || !image.save(&bytes, "BMP")) return false;
+  return files::WriteSafely(path, {bytes.data().constData(), std::size_t(bytes.data().size())});
 }
 
 }  // namespace ui

@@ -2,7 +2,7 @@
 #include <sys/resource.h>
 
 #include "rawdata/raw_file.h"
-#include "tests/rawdata/temp_folder.h"
+#include "tests/support/temp_folder.h"
 
 namespace {
 

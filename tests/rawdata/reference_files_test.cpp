@@ -7,8 +7,8 @@
 #include "rawdata/raw_file.h"
 #include "session/exposure_session.h"
 #include "session/global_bas.h"
-#include "tests/rawdata/temp_folder.h"
 #include "tests/support/csv.h"
+#include "tests/support/temp_folder.h"
 
 namespace {
 

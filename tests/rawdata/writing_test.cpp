@@ -4,7 +4,7 @@
 #include <csignal>
 
 #include "rawdata/raw_file.h"
-#include "tests/rawdata/temp_folder.h"
+#include "tests/support/temp_folder.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 // What a drawing looks like once it is painted: on the screen, in a file, on paper.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QApplication>
 #include <QDir>
@@ -9,6 +10,7 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
+#include <filesystem>
 
 #include "screen/picture.h"
 #include "tests/screen/recording_ports.h"
@@ -141,6 +143,27 @@ TEST_F(SavedPicture, ReplacesTheOneBefore) {
   drawing_.SetScale(1500, 1500);
   ASSERT_TRUE(ui::PictureFile().Write(Path("picture.bmp"), drawing_));
   EXPECT_EQ(QImage(QString::fromStdString(Path("picture.bmp"))).size(), QSize(200, 200));
+}
+
+// As a series: the same routine writes both.
+TEST_F(SavedPicture, ReplacesNoPipeAndNoRingOfLinks) {
+  ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0666), 0);
+  std::filesystem::create_symlink("b.bmp", Path("a.bmp"));
+  std::filesystem::create_symlink("a.bmp", Path("b.bmp"));
+  EXPECT_FALSE(ui::PictureFile().Write(Path("pipe"), drawing_));
+  EXPECT_FALSE(ui::PictureFile().Write(Path("a.bmp"), drawing_));
+  EXPECT_FALSE(ui::PictureFile().Write("/dev/full", drawing_));
+  EXPECT_TRUE(std::filesystem::is_fifo(Path("pipe")));
+  EXPECT_TRUE(std::filesystem::is_symlink(Path("a.bmp")));
+}
+
+TEST_F(SavedPicture, KeepsTheRightsOfTheFileAndTheLinkToIt) {
+  ASSERT_TRUE(ui::PictureFile().Write(Path("real.bmp"), drawing_));
+  ASSERT_EQ(::chmod(Path("real.bmp").c_str(), 0640), 0);
+  std::filesystem::create_symlink("real.bmp", Path("link.bmp"));
+  ASSERT_TRUE(ui::PictureFile().Write(Path("link.bmp"), drawing_));
+  EXPECT_TRUE(std::filesystem::is_symlink(Path("link.bmp")));
+  EXPECT_EQ(std::filesystem::status(Path("real.bmp")).permissions(), std::filesystem::perms(0640));
 }
 
 TEST_F(SavedPicture, IsPrintedOnOnePageThatLiesWhenThePictureIsWide) {
