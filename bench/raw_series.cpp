@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "files/safe_writer.h"
 #include "rawdata/raw_file.h"
 
 namespace bench {
@@ -27,12 +28,14 @@ std::vector<double> LognormalSeries(int count) {
   return series;
 }
 
-RawSeriesFile::RawSeriesFile(int count) {
+RawSeriesFile::RawSeriesFile(int count)
+    : RawSeriesFile(rawdata::FileBytes(LognormalSeries(count))) {}
+
+RawSeriesFile::RawSeriesFile(const std::string& bytes) {
   std::string folder = (std::filesystem::temp_directory_path() / "valkorin-bench-XXXXXX").string();
   if (mkdtemp(folder.data()) == nullptr) throw std::runtime_error("no temporary folder");
   path_ = folder + "/series.vkr";
-  if (!rawdata::WriteFile(path_, LognormalSeries(count)))
-    throw std::runtime_error("cannot write " + path_);
+  if (!files::WriteSafely(path_, bytes)) throw std::runtime_error("cannot write " + path_);
 }
 
 RawSeriesFile::~RawSeriesFile() {

@@ -12,6 +12,7 @@ std::vector<double> LognormalSeries(int count);
 class RawSeriesFile {
  public:
   explicit RawSeriesFile(int count);
+  explicit RawSeriesFile(const std::string& bytes);
   ~RawSeriesFile();
   RawSeriesFile(const RawSeriesFile&) = delete;
   RawSeriesFile& operator=(const RawSeriesFile&) = delete;

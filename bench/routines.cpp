@@ -80,6 +80,16 @@ void CheckFile(benchmark::State& state) {
 }
 BENCHMARK(CheckFile)->Arg(40)->Arg(2000);
 
+// The worst that can be chosen by mistake: as many lines as are read, each as long as fits.
+void CheckLargestFile(benchmark::State& state) {
+  const std::string line(rawdata::kLargestFile / 2000 - 2, static_cast<char>(state.range(0)));
+  std::string bytes;
+  for (int i = 0; i < 2000; ++i) bytes += "1." + line.substr(2) + "\r\n";
+  const bench::RawSeriesFile file(bytes);
+  for (auto _ : state) benchmark::DoNotOptimize(rawdata::CheckFile(file.Path()));
+}
+BENCHMARK(CheckLargestFile)->Arg('1')->Arg('0')->Arg(' ')->Arg('x')->Unit(benchmark::kMillisecond);
+
 }  // namespace
 
 BENCHMARK_MAIN();

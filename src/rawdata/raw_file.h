@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,16 +18,22 @@ struct ReadingNotes {
   std::optional<files::FileMark> mark;
 };
 
+// A longer file is refused: two thousand outcomes need a hundredth of it.
+inline constexpr std::uint64_t kLargestFile = std::uint64_t{64} << 20U;
+
 // The outcome of the first pass.
 struct FileCheck {
-  bool readable = true;     // false: not a readable file; the pass ended at a read error
+  bool readable = true;     // false: not a readable file, a read error, or too large
+  bool tooLarge = false;    // longer than kLargestFile, with fewer than 2001 lines in it
   int count = 0;            // lines met, the refused one included
   int messageId = 0;        // 915, 920, 925, or 0 when the file can be loaded
   int refusedLine = 0;      // 1-based; 0 when none was refused
   std::string refusedText;  // what stands there, at most 40 characters, printable
+  std::uint64_t bytesRead = 0;
 };
 
-// Reads the whole file once in bounded memory and checks every line.
+// Reads the file once in bounded memory and checks every line. Behind line 2001 only a line that is
+// no outcome can change the answer: the pass ends 4 MiB later with what it knows.
 FileCheck CheckFile(const std::string& path);
 
 // The outcomes of the file in the order of its lines. `ok` is false after a read error, or when

@@ -7,6 +7,9 @@
 namespace start {
 namespace {
 
+constexpr const char* kNotReadable = "This file could not be read:";
+constexpr const char* kTooLarge = "This file is larger than 64 MiB, which no raw data file is:";
+
 // The text for a file that the reader refused, with the line that it stopped at.
 std::string RefusalText(const rawdata::FileCheck& check, const std::string& cr) {
   std::string text = LoadResString(check.messageId);
@@ -58,7 +61,7 @@ void BasisForm::VkrOpen() {
 
 void BasisForm::TellRefusal(const std::string& path, const rawdata::FileCheck& check) {
   if (!check.readable || check.messageId == 0)
-    ShowMessage("This file could not be read:" + session.CR + path);
+    ShowMessage((check.tooLarge ? kTooLarge : kNotReadable) + session.CR + path);
   else
     ShowMessage(RefusalText(check, session.CR));
 }
