@@ -10,6 +10,9 @@
 namespace analysis {
 namespace {
 
+using StatFWinBAS::Block;
+using StatFWinBAS::Needed;
+
 constexpr int kLastTabled = 20;
 
 std::size_t At(int i) { return static_cast<std::size_t>(i); }
@@ -17,12 +20,13 @@ std::size_t At(int i) { return static_cast<std::size_t>(i); }
 void FillFromTable(std::vector<double>& R, int M) {
   int offset = 0;
   for (int k = 4; k < M; ++k) offset += k / 2;
-  for (int i = 1; i <= M / 2; ++i) R[At(i)] = StatFWinBAS::Coefs().ExactRankits[At(offset + i - 1)];
+  const auto& table = Needed(Block::ExactRankits).ExactRankits;
+  for (int i = 1; i <= M / 2; ++i) R[At(i)] = table[At(offset + i - 1)];
 }
 
 // The area to the right of the i-th largest deviate.
 double TailArea(int M, int i) {
-  const auto& c = StatFWinBAS::Coefs().RankitCoefficients;
+  const auto& c = Needed(Block::Rankits).RankitCoefficients;
   if (i <= 3) {
     const std::size_t k = At(5 * (i - 1));
     const double e = Divide(c[k + 1], M + c[k + 2]);

@@ -10,7 +10,8 @@
 namespace analysis {
 namespace {
 
-using StatFWinBAS::Coefs;
+using StatFWinBAS::Block;
+using StatFWinBAS::Needed;
 using StatFWinBAS::RoystonPoly;
 
 constexpr int kLeastTested = 3;
@@ -25,9 +26,10 @@ std::size_t At(int i) { return static_cast<std::size_t>(i); }
 // Medians m(1) to m(M\2) of the lower half, all negative; returns twice their sum of squares.
 double FillMedians(int M, std::vector<double>& m) {
   const double AN25 = M + 0.25;
+  const double TH = Needed(Block::Royston).ShapiroTH;
   double S2 = 0;
   for (int i = 1; i <= M / 2; ++i) {
-    double p = Divide(i - Coefs().ShapiroTH, AN25);
+    double p = Divide(i - TH, AN25);
     m[At(i)] = -StatFWinBAS::NormalUpperInverse(p);
     S2 = Checked(S2 + m[At(i)] * m[At(i)]);
   }
@@ -103,7 +105,7 @@ double OneLessW(const Sample& sample) {
 // Moves mean m and standard deviation s of the normalising transformation to those of a sample
 // of which the part DELTA is censored.
 void AllowForCensored(double DELTA, double XX, double& m, double& s) {
-  const auto& c = Coefs();
+  const auto& c = Needed(Block::Royston);
   const double LD = -Log(DELTA);
   const double BF = 1 + XX * c.BF1;
   const double Z90F = Checked(c.Z90 + BF * Power(RoystonPoly(Power(c.XX90, XX), 1, 7), LD));

@@ -15,6 +15,8 @@ const char* Words(FaultKind kind) {
       return "subscript out of range";
     case FaultKind::MissingText:
       return "missing text";
+    case FaultKind::MissingConstants:
+      return "missing constants";
   }
   return "fault";
 }

@@ -7,7 +7,14 @@
 // Faults of a calculation. A fault ends the running handler and nothing else: the event boundary
 // shows one message that names what failed, and the program lives on.
 
-enum class FaultKind { Overflow, DivisionByZero, InvalidOperation, Subscript, MissingText };
+enum class FaultKind {
+  Overflow,
+  DivisionByZero,
+  InvalidOperation,
+  Subscript,
+  MissingText,
+  MissingConstants
+};
 
 class RunTimeError : public std::runtime_error {
  public:

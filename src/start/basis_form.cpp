@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalog/catalog.h"
+#include "stats/coefficient_status.h"
 
 namespace start {
 namespace {
@@ -84,7 +85,12 @@ void BasisForm::BeforeLeavingFor(navigation::ScreenId target) {
 }
 
 void BasisForm::OpeningMessage() {
-  ShowMessage(LoadResString(20) + session.CR + LoadResString(21) + session.CR + LoadResString(22));
+  std::string text =
+      LoadResString(20) + session.CR + LoadResString(21) + session.CR + LoadResString(22);
+  // Results of other constants, or of none, must not pass for the program's own.
+  const std::string warning = StatFWinBAS::CoefficientWarning(session.CR);
+  if (!warning.empty()) text += session.CR + warning;
+  ShowMessage(text);
 }
 
 void BasisForm::ShowMessage(const std::string& text) {

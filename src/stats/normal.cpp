@@ -33,7 +33,7 @@ double CentralArea(double x) {
 
 // Continued fraction of the tail beyond x > 1.28, with y = x x / 2.
 double HillTail(double x, double y) {
-  const auto& H = Coefs().HillCoefficients;
+  const auto& H = Needed(Block::Hill).HillCoefficients;
   double D = x + H[1];
   D = Divide(H[3], D) + (H[2] + x);
   D = Divide(H[5], D) + (H[4] + x);
@@ -45,7 +45,7 @@ double HillTail(double x, double y) {
 
 // Rational form near the centre, |x| <= 1.28.
 double HillCentre(double x, double y) {
-  const auto& H = Coefs().HillCoefficients;
+  const auto& H = Needed(Block::Hill).HillCoefficients;
   double D = y + H[13];
   D = Divide(H[15], D) + (y + H[14]);
   D = Divide(H[17], D) + (y + H[16]);
@@ -55,7 +55,7 @@ double HillCentre(double x, double y) {
 
 // Start value near the centre, q = p - 0.5 with |q| <= 0.42.
 double CentralDeviate(double q) {
-  const auto& A = Coefs().InverseNormalCoefficients;
+  const auto& A = Needed(Block::InverseNormal).InverseNormalCoefficients;
   const double r = q * q;
   const double den = (((A[8] * r + A[9]) * r + A[10]) * r + A[11]) * r + 1;
   const double num = ((A[13] * r + A[12]) * r + A[14]) * r + A[15];
@@ -64,7 +64,7 @@ double CentralDeviate(double q) {
 
 // Start value in the tails.
 double TailDeviate(double& p) {
-  const auto& A = Coefs().InverseNormalCoefficients;
+  const auto& A = Needed(Block::InverseNormal).InverseNormalCoefficients;
   const bool replaced = p > 0.5;
   if (replaced) p = 1 - p;
   const double r = Sqrt(-Log(p));
@@ -131,7 +131,7 @@ double NormalUpperHill(double& x) {
 
 double NormalUpperInverse(double& p) {
   if (p <= 1E-300) return kOuterLimit;
-  if (p >= 0.9999999999999999) return Coefs().InverseNormalCoefficients[1];
+  if (p >= 0.9999999999999999) return Needed(Block::InverseNormal).InverseNormalCoefficients[1];
   double x = StartDeviate(p);
   const bool flip = p > 0.5;
   if (flip) {
