@@ -22,7 +22,9 @@ bool NeedsNoWindow(const std::string& name) {
   return name == "box" || name == "expect-box" || name == "expect-no-box" || name == "expect-ended";
 }
 
-void Run(Play& play, const Command& command) {
+}  // namespace
+
+void PlayCommand(Play& play, const Command& command) {
   const Action* action = Known(command.name);
   if (!action) throw Failure("unknown command " + command.name);
   if (play.stage.Ended() && !NeedsNoWindow(command.name)) throw Failure("the program has ended");
@@ -31,12 +33,10 @@ void Run(Play& play, const Command& command) {
   if (!trouble.empty()) throw Failure(trouble);
 }
 
-}  // namespace
-
 int PlayScript(Play& play, Script& script) {
   while (const auto command = script.Next()) {
     try {
-      Run(play, *command);
+      PlayCommand(play, *command);
     } catch (const std::exception& failure) {
       play.Say("FAIL line " + IntText(command->line) + ": " + failure.what());
       return 1;

@@ -30,6 +30,9 @@ const CommandTable& FieldCommands();   // buttons, fields, the table
 const CommandTable& AnswerCommands();  // get, expect, dump, box
 const CommandTable& RecordCommands();  // set, eval, mask
 
+// Plays one command; throws what ends a script.
+void PlayCommand(Play& play, const Command& command);
+
 // Plays the whole script. Tells the first failure and returns the exit code.
 int PlayScript(Play& play, Script& script);
 

@@ -46,7 +46,7 @@ std::vector<Call> CallsOf(const std::string& cmake) {
 std::string WithoutEnding(const std::string& path) { return path.substr(0, path.rfind('.')); }
 
 bool HasWindows(const SourceFile& file) {
-  for (const char* folder : {"src/ui/", "src/drive/", "bench/", "tests/window/"})
+  for (const char* folder : {"src/ui/", "src/drive/", "bench/", "tests/window/", "tests/walks/"})
     if (file.path.starts_with(folder)) return true;
   // The root looks for the toolkit on behalf of these folders.
   return file.path == "CMakeLists.txt";
