@@ -1,0 +1,129 @@
+#include "tests/walks/generator.h"
+
+#include "catalog/catalog.h"
+#include "tests/walks/theatre.h"
+
+namespace walks {
+namespace {
+
+constexpr int kExit = 210;  // title of the question before the program ends
+
+const Offer& ByWeight(const std::vector<Offer>& offers, Random& random) {
+  int sum = 0;
+  for (const Offer& offer : offers) sum += offer.weight;
+  int left = random.Below(sum);
+  for (const Offer& offer : offers) {
+    left -= offer.weight;
+    if (left < 0) return offer;
+  }
+  return offers.back();
+}
+
+}  // namespace
+
+Step Generator::Next() {
+  const std::vector<Offer> offers = OffersHere();
+  constexpr int kTries = 40;
+  for (int i = 0; i < kTries; ++i) {
+    const Offer& offer = ByWeight(offers, random_);
+    if (offer.needs.empty() || page_.Usable(offer.needs)) return offer.make();
+  }
+  return Line("key Tab");
+}
+
+// The program goes on: every question whether to end it is declined.
+screen::Answer Generator::Choose(const screen::Message& message) {
+  using screen::Answer;
+  if (message.title == LoadResString(kExit))
+    return message.buttons == screen::Buttons::OkCancel ? Answer::Cancel : Answer::No;
+  std::vector<Answer> fitting;
+  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
+    if (Offers(message.buttons, answer)) fitting.push_back(answer);
+  return random_.Pick(fitting);
+}
+
+std::vector<Offer> Generator::OffersHere() {
+  std::vector<Offer> offers;
+  const std::string& form = page_.Stage().Shown().name;
+  OfferWays(offers);
+  OfferMenus(offers);
+  if (form == "BasisForm") OfferStart(offers);
+  if (form == "DataCtrlForm") OfferRawData(offers);
+  if (form == "GrenzenForm") OfferLimits(offers);
+  if (form == "PlotForm") OfferPlot(offers);
+  if (form == "PercExForm") OfferTests(offers);
+  if (form == "UCLForm") OfferMean(offers);
+  if (form == "TwoSampCompForm") OfferComparison(offers);
+  if (form == "VerdelingForm") OfferPicture(offers);
+  return offers;
+}
+
+void Generator::OfferWays(std::vector<Offer>& offers) {
+  const screen::TabStrip* strip = page_.Stage().Shown().strip;
+  if (strip && strip->visible)
+    for (const screen::Tab& tab : strip->tabs)
+      if (tab.key != strip->selected)
+        offers.push_back(
+            {tab.key == "plot" ? 8 : 3, "", [this, key = tab.key] { return Line("tab " + key); }});
+  offers.push_back({1, "", [this] {
+                      static const std::vector<std::string> sizes = {"800 613", "1280 720",
+                                                                     "1000 900", "820 640"};
+                      return Line("size " + random_.Pick(sizes));
+                    }});
+  offers.push_back({2, "", [this] {
+                      static const std::vector<std::string> keys = {"Tab", "Shift+Tab"};
+                      return Line("key " + random_.Pick(keys));
+                    }});
+}
+
+// Rare: what ends the walk's series, and the slowest calculation.
+void Generator::OfferMenus(std::vector<Offer>& offers) {
+  for (const screen::Control* control : page_.Stage().Shown().controls) {
+    if (!page_.IsMenuItem(*control)) continue;
+    const std::string& name = control->name;
+    // These need a file, or what another program has put on the clipboard.
+    if (name == "menuopen" || name == "MenuSave" || name == "menuSavePicture" ||
+        name == "MenuPaste")
+      continue;
+    const bool rare =
+        name == "MenuExit" || name == "Menuclose" || name == "MenuLand" || name == "MenuDevMode";
+    if (rare && !random_.Chance(12)) continue;
+    offers.push_back({1, name, [this, name] { return MenuStep(name); }});
+  }
+}
+
+Step Generator::MenuStep(const std::string& name) { return Line("menu " + name); }
+
+void Generator::Click(std::vector<Offer>& offers, int weight, const std::string& name) const {
+  offers.push_back({weight, name, [this, name] { return Line("click " + name); }});
+}
+
+void Generator::Type(std::vector<Offer>& offers, int weight, const std::string& name,
+                     const std::vector<std::string>& texts) {
+  offers.push_back({weight, name, [this, name, texts] {
+                      const char* command = random_.Chance(70) ? "type " : "enter ";
+                      return Line(LineWith(command + name, random_.Pick(texts)));
+                    }});
+}
+
+void Generator::Arrows(std::vector<Offer>& offers, int weight, const std::string& pair,
+                       const std::string& field) {
+  offers.push_back({weight, pair, [this, field] {
+                      return Line((random_.Chance(50) ? "up " : "down ") + field);
+                    }});
+}
+
+void Generator::Pick(std::vector<Offer>& offers, int weight, const std::string& name) {
+  offers.push_back({weight, name, [this, name] {
+                      return Line(
+                          LineWith("pick " + name, random_.Pick(page_.Control(name).items)));
+                    }});
+}
+
+Step Generator::ToSave(const std::string& menu, const std::string& file) {
+  Step step = Line("menu " + menu);
+  if (random_.Chance(85)) step.file = file;
+  return step;
+}
+
+}  // namespace walks

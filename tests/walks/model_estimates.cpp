@@ -1,0 +1,173 @@
+// Which estimates are in force, and whether the record holds them.
+#include <cmath>
+
+#include "tests/walks/model.h"
+#include "tests/walks/numbers.h"
+
+namespace walks {
+namespace {
+
+using enum Whose;
+
+bool DetectionField(const std::string& control) {
+  return control == "DetecLTxb" || control == "DetecUTxb";
+}
+
+double TypedMean(const std::string& text, double old) {
+  return Blank(text) ? old : TypedNumber(text);
+}
+
+double TypedDeviation(const std::string& text, double old) {
+  if (Blank(text)) return old;
+  const double value = TypedNumber(text);
+  if (value == 0) return 0;
+  return std::clamp(value, 1.001, 1000.0);
+}
+
+bool Valid(const Seen& seen) {
+  return seen.Count() > 0 && !seen.Name.empty() && seen.GM >= 0.0001 && seen.GM <= 10000 &&
+         seen.GSD >= 1.001 && seen.GSD <= 1000;
+}
+
+Range RangeOf(const Seen& seen) { return {seen.FirstInRange, seen.LastInRange}; }
+
+double DfOf(const Seen& seen) {
+  return seen.DetecOn ? RangeDf(seen.Count(), seen.NInRange) : seen.M - 1;
+}
+
+std::string Told(const Sample& sample) {
+  return "GM " + Word(sample.GM) + ", GSD " + Word(sample.GSD) + ", df " + Word(sample.df);
+}
+
+}  // namespace
+
+void Model::AdvanceEstimates(const Scene& scene) {
+  known_ = false;
+  closed_ = false;
+  FollowModify(scene);
+  const Seen& after = scene.after;
+  if (after.Mode == "D" || after.ModifyMode) {
+    FollowTyped(scene);
+    CheckTyped(scene);
+    return;
+  }
+  if (after.Mode != "R" || !complete_) return Unknown("the series is not complete", false);
+  if (!HasSpread(series_, after.M - 1)) return Unknown("the series has no usable spread", true);
+  if (DfOf(after) < 1) return Unknown("the range leaves no degree of freedom", true);
+  FollowForce(scene);
+  Recognise(scene);
+  if (!Near(after.C.front(), MedianOf(series_)))
+    scene.findings.Add("median", "C(0) is " + Word(after.C.front()) + ", the median of 1 to M is " +
+                                     Word(MedianOf(series_)));
+  known_ = true;
+}
+
+void Model::Unknown(const std::string& why, bool closed) {
+  why_ = why;
+  closed_ = closed;
+  force_.clear();
+}
+
+void Model::FollowModify(const Scene& scene) {
+  if (scene.after.ModifyMode && !scene.before.ModifyMode) {
+    beforeModify_ = force_;
+    MBeforeModify_ = scene.before.M;
+    resetTo_ = {scene.before.GM, scene.before.GSD, scene.before.df};
+    typedGM_ = resetTo_.GM;
+    typedGSD_ = resetTo_.GSD;
+  } else if (!scene.after.ModifyMode && scene.before.ModifyMode) {
+    force_ = beforeModify_;
+    typedGM_ = scene.after.Mode == "D" && scene.after.M > 0 ? resetTo_.GM : 0;
+    typedGSD_ = scene.after.Mode == "D" && scene.after.M > 0 ? resetTo_.GSD : 0;
+  } else if (scene.after.Mode != scene.before.Mode || scene.Chosen("Menuclose")) {
+    typedGM_ = scene.after.M == 0 ? 0 : typedGM_;
+    typedGSD_ = scene.after.M == 0 ? 0 : typedGSD_;
+  }
+}
+
+void Model::FollowTyped(const Scene& scene) {
+  force_ = {Typed};
+  std::string text;
+  if (!scene.On("BasisForm")) return;
+  if (scene.Typed("GMTxB", text)) typedGM_ = TypedMean(text, typedGM_);
+  if (scene.Typed("GSDTxB", text)) typedGSD_ = TypedDeviation(text, typedGSD_);
+}
+
+void Model::CheckTyped(const Scene& scene) {
+  const Seen& after = scene.after;
+  if (after.GM != typedGM_ || after.GSD != typedGSD_)
+    scene.findings.Add("estimates", Told({after.GM, after.GSD, after.df}) + ", but typed were GM " +
+                                        Word(typedGM_) + ", GSD " + Word(typedGSD_));
+  if (!Valid(after)) return Unknown("GM, GSD or M is out of its range", false);
+  force_ = {Typed};
+  if (after.df != after.M - 1)
+    scene.findings.Add("estimates", "df is " + Word(after.df) + " with M " + Word(after.M));
+  known_ = true;
+}
+
+// The rules that put other estimates in force; what none of them names stays.
+void Model::FollowForce(const Scene& scene) {
+  const Seen& after = scene.after;
+  const bool onRaw = scene.On("DataCtrlForm");
+  std::string text;
+  if (force_.empty() || force_.contains(Typed)) force_ = {Whole, ByRange};
+  if (after.form == "PlotForm") return FollowPlot(scene);
+  if (scene.Arrived("DataCtrlForm") && !scene.On("VerdelingForm")) {
+    force_ = {Whole};
+  } else if (onRaw && edited_) {
+    force_ = {ByRange};
+  } else if (onRaw && (scene.Clicked("DetecChB") || scene.Typed("DetecLTxb", text) ||
+                       scene.Typed("DetecUTxb", text))) {
+    force_ = {ByRange};
+  } else if (onRaw && DetectionField(scene.before.focus)) {
+    force_.insert(ByRange);
+  } else if (scene.On("BasisForm") && after.M != scene.before.M && !scene.before.ModifyMode) {
+    force_ = {Whole, ByRange};
+  }
+}
+
+// Every drawing takes the estimates anew, unless there is no line to take.
+void Model::FollowPlot(const Scene& scene) {
+  const Seen& after = scene.after;
+  const bool ofLine = after.DetecOn && after.scale == "MenuLog";
+  if (after.NInRange < 2) return;
+  if (!ofLine) {
+    force_ = {ByRange};
+    return;
+  }
+  const auto line = LineThrough(series_, RangeOf(after));
+  if (!line) return;
+  force_ = Plausible(*line) ? std::set{Line} : std::set{Whole, ByRange};
+}
+
+std::optional<Sample> Model::SampleOf(Whose whose, const Seen& seen) const {
+  if (whose == Line) return LineThrough(series_, RangeOf(seen));
+  return WholeSample(series_, whose == Whole ? seen.M - 1 : DfOf(seen));
+}
+
+bool Model::Matches(Whose whose, const Scene& scene) const {
+  const Seen& after = scene.after;
+  const auto wanted = SampleOf(whose, after);
+  if (!wanted || after.RegressionOn != (whose == Line)) return false;
+  return Near(after.GM, wanted->GM) && after.df == wanted->df &&
+         Near(std::log(after.GSD), std::log(wanted->GSD), SpreadTolerance(series_));
+}
+
+void Model::Recognise(const Scene& scene) {
+  std::set<Whose> met;
+  std::string wanted;
+  for (const Whose whose : force_) {
+    if (Matches(whose, scene)) met.insert(whose);
+    const auto sample = SampleOf(whose, scene.after);
+    wanted += std::string("; of ") + NameOf(whose) + ": " + (sample ? Told(*sample) : "none");
+  }
+  const Seen& after = scene.after;
+  if (met.empty())
+    scene.findings.Add("estimates", Told({after.GM, after.GSD, after.df}) +
+                                        (after.RegressionOn ? " as the regression's" : "") +
+                                        wanted);
+  else
+    force_ = met;
+}
+
+}  // namespace walks

@@ -1,0 +1,166 @@
+// The outcomes as the user has opened, typed, pasted and deleted them.
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+
+#include "drive/text.h"
+#include "tests/walks/model.h"
+#include "tests/walks/numbers.h"
+
+namespace walks {
+namespace {
+
+constexpr int kMost = 2000;
+
+std::size_t At(int i) { return static_cast<std::size_t>(i); }
+
+// An outcome that a cell takes; 0 and below stand for a row that is not filled.
+bool Accepted(double value) { return value <= 0 || (value >= 1E-10 && value <= 1E+10); }
+
+bool Empty(const Seen& seen) { return seen.M == 0 && seen.Name.empty(); }
+
+// What closes a series, asked for or by itself.
+bool MayClose(const Scene& scene) {
+  return scene.Chosen("Menuclose") || scene.Chosen("MenuNewVkrFil") || scene.Chosen("menuopen") ||
+         scene.Clicked("RawOpt") || scene.Clicked("DesOpt") || !scene.step.boxes.empty();
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::istringstream in(text);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  while (!lines.empty() && Blank(lines.back())) lines.pop_back();
+  return lines;
+}
+
+}  // namespace
+
+void Model::AdvanceSeries(const Scene& scene) {
+  edited_ = false;
+  if (scene.On("DataCtrlForm") && !scene.before.ModifyMode) Edited(scene);
+  if (scene.Chosen("menuopen")) Opened(scene);
+  if (scene.Chosen("MenuSave") && scene.step.asked && !scene.step.file.empty()) {
+    outcomes_.resize(At(scene.after.Count()));
+    folder_.Saved(scene.step.file, outcomes_);
+  }
+  CheckSeries(scene);
+  TakeSeries(scene.after);
+}
+
+// A refused file leaves a loaded series as it is, and else a size without outcomes.
+void Model::Opened(const Scene& scene) {
+  const RawFile* file = scene.step.asked ? folder_.Find(scene.step.file) : nullptr;
+  if (file && file->accepted) {
+    outcomes_ = file->values;
+  } else if (scene.before.C.size() <= 2) {
+    outcomes_.assign(At(scene.after.Count()), 0);
+  }
+}
+
+void Model::Edited(const Scene& scene) {
+  const int count = scene.before.Count();
+  std::string rest = scene.step.Rest();
+  const std::string command = scene.step.Command();
+  const Outcomes before = outcomes_;
+  if (command == "addrow") Append(drive::TextArgument(rest), count);
+  if (command == "delrow") Delete(drive::IntOf(rest), count);
+  if (scene.Chosen("MenuDeleteRow")) Delete(scene.before.gridRow + 1, count);
+  if (command == "cell") {
+    const int row = drive::IntOf(drive::TakeWord(rest));
+    SetCell(row, drive::TextArgument(rest), count);
+  }
+  if (command == "paste") {
+    std::string row = scene.step.lines.front();
+    drive::TakeWord(row);
+    Paste(drive::IntOf(row), drive::Unescaped(drive::TextArgument(rest)), count);
+  }
+}
+
+void Model::SetCell(int row, const std::string& text, int count) {
+  if (row == count + 1) return Append(text, count);
+  const double value = TypedNumber(text);
+  if (!Accepted(value)) return;
+  outcomes_.resize(At(count));
+  outcomes_[At(row - 1)] = value;
+  edited_ = true;
+}
+
+// The empty line behind the last row takes no empty text.
+void Model::Append(const std::string& text, int count) {
+  const double value = TypedNumber(text);
+  if (text.empty() || !Accepted(value) || count >= kMost) return;
+  outcomes_.resize(At(count));
+  outcomes_.push_back(value);
+  edited_ = true;
+}
+
+void Model::Delete(int row, int count) {
+  if (count <= 2 || row > count) return;
+  outcomes_.resize(At(count));
+  outcomes_.erase(outcomes_.begin() + row - 1);
+  edited_ = true;
+}
+
+// All lines or none.
+void Model::Paste(int row, const std::string& text, int count) {
+  const auto lines = Lines(text);
+  if (lines.empty() || row - 1 + static_cast<int>(lines.size()) > kMost) return;
+  Outcomes values;
+  for (const std::string& line : lines) {
+    values.push_back(TypedNumber(line));
+    if (values.back() <= 0 || !Accepted(values.back())) return;
+  }
+  outcomes_.resize(At(std::max(count, row - 1 + static_cast<int>(values.size()))));
+  std::copy(values.begin(), values.end(), outcomes_.begin() + row - 1);
+  edited_ = true;
+}
+
+// M as the step leaves it.
+double Model::ExpectedSize(const Scene& scene) const {
+  const double old = scene.before.M;
+  std::string text;
+  if (scene.On("BasisForm") && scene.Typed("SampSizTxB", text)) {
+    const double typed = TypedNumber(text);
+    if (Blank(text) || !std::isfinite(typed)) return old;
+    return std::trunc(typed + 0.0001) == typed ? typed : std::trunc(typed);
+  }
+  if (const int direction = scene.Stepped("SampSizTxB"); direction != 0)
+    return std::clamp(old + direction, 2.0, 1.0 * kMost);
+  if (scene.after.ModifyMode && !scene.before.ModifyMode) return scene.before.df + 1;
+  if (!scene.after.ModifyMode && scene.before.ModifyMode) return MBeforeModify_;
+  return edited_ ? static_cast<double>(outcomes_.size()) : old;
+}
+
+void Model::CheckSeries(const Scene& scene) {
+  const Seen& after = scene.after;
+  if (Empty(after) || after.Mode.empty()) {
+    if (!outcomes_.empty() && !Empty(scene.before) && !MayClose(scene))
+      scene.findings.Add("series", "the series is gone");
+    outcomes_.clear();
+    return;
+  }
+  const bool opened = scene.Chosen("menuopen") && scene.step.asked;
+  const bool changed = opened || scene.Chosen("MenuNewVkrFil") || after.Mode != scene.before.Mode;
+  if (!changed && after.M != ExpectedSize(scene))
+    scene.findings.Add("series", "M is " + Word(after.M) + ", wanted " + Word(ExpectedSize(scene)));
+  if (after.Mode != "R" || after.ModifyMode) return;
+  if (outcomes_.size() < At(after.Count())) outcomes_.resize(At(after.Count()));
+  if (after.C.size() <= At(after.Count())) return;
+  Outcomes wanted(outcomes_.begin(), outcomes_.begin() + after.Count());
+  Outcomes held(after.C.begin() + 1, after.C.begin() + 1 + after.Count());
+  std::copy(held.begin(), held.end(), outcomes_.begin());
+  std::sort(wanted.begin(), wanted.end());
+  std::sort(held.begin(), held.end());
+  if (wanted != held) scene.findings.Add("series", "the outcomes are not those that were given");
+}
+
+void Model::TakeSeries(const Seen& after) {
+  if (after.ModifyMode && after.Mode == "R") return;
+  const auto count = std::min(outcomes_.size(), At(after.Count()));
+  series_.assign(outcomes_.begin(), outcomes_.begin() + static_cast<std::ptrdiff_t>(count));
+  complete_ = after.Mode == "R" && count >= 2 &&
+              std::ranges::all_of(series_, [](double c) { return c > 0; });
+  if (complete_) std::sort(series_.begin(), series_.end());
+}
+
+}  // namespace walks
