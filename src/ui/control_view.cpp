@@ -212,6 +212,7 @@ void ControlView::NameForReaders() {
     if (label->buddy()) label->buddy()->setAccessibleName(label->text().trimmed());
     return;
   }
+  if (qobject_cast<PictureView*>(widget_)) return;  // tells its texts itself
   const QString tip = Lines(shown_->tip).trimmed();
   if (widget_->accessibleName().isEmpty() && DesignText(widget_).isNull())
     widget_->setAccessibleName(tip);

@@ -26,6 +26,8 @@ void PictureView::Describe() {
   for (const auto& item : picture_->drawing.Items())
     if (const auto* text = std::get_if<drawing::DrawnText>(&item))
       texts += Lines(text->text).simplified();
+  // The name that a headline has shortened.
+  if (!picture_->tip.empty()) texts += Shown(picture_->tip);
   setAccessibleDescription(texts.join(QLatin1String("; ")));
 }
 

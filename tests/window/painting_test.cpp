@@ -248,6 +248,11 @@ TEST_F(PictureOnTheScreen, TellsItsTextsToAScreenReader) {
   picture_.drawing.Text({0, 0}, "1.5*GM*GSD", {}, "XasLbl(0)");
   view_.Refresh();
   EXPECT_EQ(view_.accessibleDescription().toStdString(), "GM= 2 ppm 50%; 1.5*GM*GSD");
+  picture_.tip = "A name that its headline has no room for";
+  picture_.drawing.Dot({0, 0}, {});
+  view_.Refresh();
+  EXPECT_EQ(view_.accessibleDescription().toStdString(),
+            "GM= 2 ppm 50%; 1.5*GM*GSD; A name that its headline has no room for");
 }
 
 }  // namespace
