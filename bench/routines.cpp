@@ -6,6 +6,7 @@
 #include "rawdata/raw_file.h"
 #include "session/exposure_session.h"
 #include "session/global_bas.h"
+#include "stats/coefficients.h"
 #include "stats/estimators.h"
 #include "stats/normal.h"
 
@@ -92,4 +93,10 @@ BENCHMARK(CheckLargestFile)->Arg('1')->Arg('0')->Arg(' ')->Arg('x')->Unit(benchm
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"});
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

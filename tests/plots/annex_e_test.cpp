@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "stats/coefficients.h"
 #include "stats/normal.h"
 #include "tests/plots/annex_plot.h"
 
@@ -17,6 +18,12 @@ using PlotWBas::DecadesOf;
 using PlotWBas::Label;
 
 const std::vector<double> kSeven = {0.05, 0.2, 0.4, 0.9, 1.5, 3, 5};
+
+// The probability axis needs the constants of the deviates.
+class LoadedConstants final : public testing::Environment {
+  void SetUp() override { StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"}); }
+};
+testing::Environment* const loaded = testing::AddGlobalTestEnvironment(new LoadedConstants);
 
 double Deviate(double p) { return StatFWinBAS::NormalUpperInverse(p); }
 
