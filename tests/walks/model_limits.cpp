@@ -119,10 +119,14 @@ void Model::AdvanceRange(const Scene& scene) {
     scene.findings.Add("range", Word(after.NInRange) + " outcomes in range " + Told(held));
   const Range all{1, after.Count()};
   const Range counted = after.DetecOn ? Counted(series_, after.LOQ, after.URR) : all;
-  const bool untouched = held == RangeOf(scene.before) && after.LOQ == scene.before.LOQ &&
-                         after.URR == scene.before.URR && after.M == scene.before.M && !edited_;
+  const Seen& before = scene.before;
+  const bool carried = after.DetecOn && before.DetecOn && after.M == before.M && !edited_;
+  const bool first = held.first == counted.first ||
+                     (carried && after.LOQ == before.LOQ && held.first == before.FirstInRange);
+  const bool last = held.last == counted.last ||
+                    (carried && after.URR == before.URR && held.last == before.LastInRange);
   const bool settled = after.DetecOn && OnRange(scene);
-  if (held == counted || (untouched && after.DetecOn) || settled) return;
+  if ((first && last) || settled) return;
   if (after.DetecOn && (edited_ || after.M != scene.before.M) && SettledAnew(series_, scene))
     return;
   scene.findings.Add("range", "in range are " + Told(held) + ", by the limits " + Told(counted));
