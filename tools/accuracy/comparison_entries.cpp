@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "compare/inference.h"
+#include "tools/accuracy/comparison_searches.h"
 #include "tools/accuracy/entries.h"
 
 namespace accuracy {
@@ -9,7 +10,7 @@ namespace {
 using compare::InferenceResult;
 using support::Row;
 
-const std::vector<std::string> kInputs = {"mode", "M", "GM", "GSD", "M2", "GM2", "GSD2"};
+const std::vector<Column> kInputs = {"mode", "M", "GM", "GSD", "M2", "GM2", "GSD2"};
 
 ExposureSession Session(const Row& row) {
   ExposureSession s;
@@ -65,6 +66,22 @@ double OfLocations(const InferenceResult& result) { return result.location.A; }
 double CombinedGM(const InferenceResult& result) { return result.both.GM; }
 double CombinedGSD(const InferenceResult& result) { return result.both.GSD; }
 
+// Whether the dispersions are judged by the finite sums, which hold while the product of the
+// degrees of freedom, or those against a population, are small enough.
+bool BySums(const Row& row) {
+  const double df = row.Number("M") - 1;
+  if (row.Text("mode") == "P") return df <= 200;
+  return df * (row.Number("M2") - 1) < 32768;
+}
+bool ByCubes(const Row& row) { return !BySums(row); }
+
+Source Where(Takes takes, Source source) {
+  source.takes = [takes, before = source.takes](const Row& row) {
+    return takes(row) && (!before || before(row));
+  };
+  return source;
+}
+
 // The GSD of the united measurements of both samples.
 double United(const Row& row) {
   const double n1 = row.Number("M");
@@ -83,40 +100,59 @@ double United(const Row& row) {
 std::vector<Entry> ComparisonEntries() {
   using compare::Answer;
   return {
-      {"Inference: A of the dispersions", "percent", "`FUpper`, `ChiUpper`", Measure::Absolute,
-       Truth("dispersion", Answer::No, OfDispersions), Steps("GSDInfTxb", nullptr, OfDispersions)},
+      {"Inference: A of the dispersions", "percent, M M2 small enough for the sums of `FUpper`",
+       "`FUpper`, `ChiUpper`", Measure::Absolute,
+       Where(BySums, Truth("dispersion", Answer::No, OfDispersions)),
+       Where(BySums, Steps("GSDInfTxb", nullptr, OfDispersions)), LookAtDispersions(true)},
+      {"Inference: A of the dispersions",
+       "percent, (M - 1) (M2 - 1) from 32768 on, or a population with M above 201",
+       "the cube roots of `FUpper` and `ChiUpper`", Measure::Absolute,
+       Where(ByCubes, Truth("dispersion", Answer::No, OfDispersions)),
+       Where(ByCubes, Steps("GSDInfTxb", nullptr, OfDispersions)), LookAtDispersions(false)},
       {"Inference: A of the locations", "pooled, or a population, percent", "`StudentUpper`",
        Measure::Absolute, Truth("pooled", Answer::No, OfLocations),
-       Steps("GMInfTxb", IsPooled, OfLocations)},
+       Steps("GMInfTxb", IsPooled, OfLocations), LookAtPooled()},
       {"Inference: A of the locations", "separate variances, percent",
        "`StudentUpper`, Satterthwaite (1946), df cut to a whole number", Measure::Absolute,
        Truth("separate", Answer::Yes, OfLocations),
-       Steps("GMInfTxb", IsSafelySeparate, OfLocations)},
+       Steps("GMInfTxb", IsSafelySeparate, OfLocations), LookAtSeparate(true)},
       {"Inference: GM of both", "two samples", "weighted mean of the logarithms", Measure::Relative,
-       Truth("both_GM", Answer::No, CombinedGM), Steps("GMTxb3", nullptr, CombinedGM)},
+       Truth("both_GM", Answer::No, CombinedGM), Steps("GMTxb3", nullptr, CombinedGM),
+       LookAtBothGM()},
       {"Inference: GSD of both", "two samples, the weights as they are",
        "sums of squares of the logarithms", Measure::Relative,
-       Truth("both_GSD", Answer::No, CombinedGSD), Steps("GSDTxb3", nullptr, CombinedGSD)},
+       Truth("both_GSD", Answer::No, CombinedGSD), Steps("GSDTxb3", nullptr, CombinedGSD),
+       LookAtBothGSD()},
   };
 }
 
 std::vector<Entry> ComparisonPeculiarities() {
   using compare::Answer;
   return {
-      {"Inference", "the question whether the GSDs are from the same population",
+      {"Inference",
+       "the question whether the GSDs are from the same population",
        "Yes separates the variances and No pools them: what Yes costs where they are the same, "
        "percent",
-       Measure::Absolute, Truth("pooled", Answer::Yes, OfLocations)},
-      {"Inference", "separate variances",
-       "the degrees of freedom are cut to a whole number, percent", Measure::Absolute,
-       Truth("uncut", Answer::Yes, OfLocations)},
+       Measure::Absolute,
+       Truth("pooled", Answer::Yes, OfLocations),
+       {},
+       LookAtAnswer()},
+      {"Inference",
+       "separate variances",
+       "the degrees of freedom are cut to a whole number, percent",
+       Measure::Absolute,
+       Truth("uncut", Answer::Yes, OfLocations),
+       {},
+       LookAtSeparate(false)},
       {"Inference",
        "GSD of both",
        "the second squared mean has the weight df2 + 2, not df2 + 1",
        Measure::Relative,
        {"comparison_truth.csv", "pooled", kInputs,
         [](const Row& row) { return Compared(row, compare::Answer::No).both.GSD; }, OfTwoSamples,
-        United}},
+        United},
+       {},
+       LookAtUnited()},
   };
 }
 

@@ -1,9 +1,11 @@
 #include <cmath>
+#include <map>
 #include <string>
 
 #include "compliance/en689.h"
 #include "compliance/sample_size.h"
 #include "compliance/wilks.h"
+#include "tools/accuracy/compliance_searches.h"
 #include "tools/accuracy/entries.h"
 
 namespace accuracy {
@@ -35,7 +37,13 @@ bool HasNumber(const Row& row) {
 
 // Rows of compliance_truth.csv of one kind; `a` and `b` are arguments of that kind.
 Source Truth(const std::string& kind, double from, double to, const Call& call) {
-  return {"compliance_truth.csv", "true", {"df", "a", "b"}, call, [kind, from, to](const Row& row) {
+  static const std::map<std::string, std::vector<Column>> inputs = {
+      {"wilks", {"df", {"a", "Ur"}}},
+      {"wilksutl", {"df", {"a", "U"}, {"b", "GSD"}}},
+      {"conf", {"df", {"a", "u"}, {"b", "r"}}},
+      {"factor", {"df", {"a", "U"}, {"b", "D"}}},
+      {"fraction", {"df", {"a", "Ur"}, {"b", "D"}}}};
+  return {"compliance_truth.csv", "true", inputs.at(kind), call, [kind, from, to](const Row& row) {
             return row.Text("kind") == kind && row.Number("df") >= from && row.Number("df") <= to &&
                    HasNumber(row);
           }};
@@ -128,11 +136,12 @@ constexpr const char* kConfidence = "`NoncentralTUpper`, percent";
 std::vector<Entry> ComplianceEntries() {
   return {
       {"WilksExceedance", "percent", "`StudentUpper`, Wilks (1941), Proschan (1953)",
-       Measure::Absolute, Truth("wilks", 1, kAll, Exceedance), Steps("Wi_PercEx", WilksPercEx)},
+       Measure::Absolute, Truth("wilks", 1, kAll, Exceedance), Steps("Wi_PercEx", WilksPercEx),
+       LookAtWilksExceedance()},
       {"WilksToleranceLimit", "ln(UTL / GM)", "`StudentUpperInverse`", Measure::Absolute,
-       Truth("wilksutl", 1, kAll, LogLimit), Steps("Wi_UTL", WilksUTL)},
+       Truth("wilksutl", 1, kAll, LogLimit), Steps("Wi_UTL", WilksUTL), LookAtWilksLimit()},
       {"OptimiseSampleSize",
-       "the exceedance, percent",
+       "the exceedance, percent, as `WilksExceedance`",
        "`StudentUpper` at each df to 99",
        Measure::Absolute,
        {},
@@ -142,19 +151,34 @@ std::vector<Entry> ComplianceEntries() {
         Optimised,
         [](const Row& row) {
           return row.Text("state") == "ok" && row.Text("TestTag") == "Wi" && row.Number("U") > 50;
-        }}},
+        }},
+       Listed()},
       {"En689ConfidenceAt", "df to 200", kConfidence, Measure::Absolute,
-       Truth("conf", 1, 200, Confidence), Steps("Tu_PercEx", En689PercEx, 1, 200)},
+       Truth("conf", 1, 200, Confidence), Steps("Tu_PercEx", En689PercEx, 1, 200),
+       LookAtConfidence(1, 200)},
       {"En689ConfidenceAt", "df above 200", kConfidence, Measure::Absolute,
-       Truth("conf", 201, kAll, Confidence), Steps("Tu_PercEx", En689PercEx, 201, kAll)},
-      {"En689ToleranceLimit", "df to 200, ln(UTL / GM) / ln GSD", kSearch, Measure::Relative,
-       Truth("factor", 1, 200, Factor), Steps("Tu_UTL", En689UTL, 1, 200)},
-      {"En689ToleranceLimit", "df above 200, ln(UTL / GM) / ln GSD", kSearch, Measure::Relative,
-       Truth("factor", 201, kAll, Factor), Steps("Tu_UTL", En689UTL, 201, kAll)},
-      {"En689Fraction", "df to 200, percent", kSearch, Measure::Absolute,
-       Truth("fraction", 1, 200, Fraction)},
-      {"En689Fraction", "df above 200, percent", kSearch, Measure::Absolute,
-       Truth("fraction", 201, kAll, Fraction)},
+       Truth("conf", 201, kAll, Confidence), Steps("Tu_PercEx", En689PercEx, 201, kAll),
+       LookAtConfidence(201, 1999)},
+      {"En689ToleranceLimit", "df to 200, ln(UTL / GM) / ln GSD, as a part of it or of 1", kSearch,
+       Measure::Mixed, Truth("factor", 1, 200, Factor), Steps("Tu_UTL", En689UTL, 1, 200),
+       LookAtFactor(1, 200)},
+      {"En689ToleranceLimit", "df above 200, ln(UTL / GM) / ln GSD, as a part of it or of 1",
+       kSearch, Measure::Mixed, Truth("factor", 201, kAll, Factor),
+       Steps("Tu_UTL", En689UTL, 201, kAll), LookAtFactor(201, 1999)},
+      {"En689Fraction",
+       "df to 200, percent",
+       kSearch,
+       Measure::Absolute,
+       Truth("fraction", 1, 200, Fraction),
+       {},
+       LookAtFraction(1, 200)},
+      {"En689Fraction",
+       "df above 200, percent",
+       kSearch,
+       Measure::Absolute,
+       Truth("fraction", 201, kAll, Fraction),
+       {},
+       LookAtFraction(201, 1999)},
   };
 }
 
@@ -166,11 +190,13 @@ std::vector<Entry> CompliancePeculiarities() {
        Measure::Absolute,
        {"compliance_truth.csv",
         "true",
-        {"df", "a", "b"},
+        {"df", {"a", "Ur"}, {"b", "D"}},
         [](const Row& row) {
           return FractionOf(row).text == std::string(compliance::kFractionAll) ? 100.0 : 0.0;
         },
-        [](const Row& row) { return row.Text("kind") == "fraction" && !HasNumber(row); }}},
+        [](const Row& row) { return row.Text("kind") == "fraction" && !HasNumber(row); }},
+       {},
+       LookAtFractionText()},
   };
 }
 

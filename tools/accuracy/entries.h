@@ -16,7 +16,15 @@ struct Entry {
   Measure measure = Measure::Relative;
   Source truth = {};
   Source steps = {};
+  Search search = {};  // of the truth, over the whole domain
 };
+
+// For a domain that is the rows of a table and no more.
+inline Search Listed() {
+  Search search;
+  search.listed = true;
+  return search;
+}
 
 // In the order of the page.
 std::vector<Entry> Routines();

@@ -1,33 +1,17 @@
+#include <cmath>
+
 #include "session/exposure_session.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
 #include "tools/accuracy/entries.h"
+#include "tools/accuracy/estimator_sources.h"
 #include "tools/accuracy/series.h"
+#include "tools/accuracy/truth/lognormal.h"
 
 namespace accuracy {
 namespace {
 
 using support::Row;
-using Estimator = double (*)(double df, double GM, double GSD);
-
-const std::vector<std::string> kInputs = {"df", "GM", "GSD"};
-
-double Unbiased(double df, double GM, double GSD) {
-  ExposureSession s;
-  s.df = df;
-  return StatFWinBAS::GMUnbiased(s, GM, GSD);
-}
-
-ExposureSession Linear(double df, double GM, double GSD) {
-  ExposureSession s;
-  s.Mode = "D";
-  s.M = df + 1;
-  s.GM = GM;
-  s.GSD = GSD;
-  StatFWinBAS::LinearMoments(s);
-  return s;
-}
-
 // The session of a row of linear_moments.csv; a sample without outcomes is named "M=n".
 ExposureSession Whole(const Row& row) {
   const std::string& name = row.Text("series");
@@ -74,26 +58,36 @@ Source LinearTruth(const std::string& column, bool alike, Result result) {
           [alike](const Row& row) { return Differs(row) != alike; }};
 }
 
-std::function<double(const Row&)> Called(Estimator estimator) {
-  return [estimator](const Row& row) {
-    return estimator(row.Number("df"), row.Number("GM"), row.Number("GSD"));
+Source Only(Source source, bool (*takes)(const Row&)) {
+  source.takes = [takes, before = source.takes](const Row& row) {
+    return takes(row) && before(row);
   };
-}
-
-// Rows of estimator_truth.csv of one function with a GSD of `from` up to `to`.
-Source Truth(const std::string& function, double from, double to, Estimator estimator) {
-  return {"estimator_truth.csv", "true", kInputs, Called(estimator),
-          [function, from, to](const Row& row) {
-            return row.Text("function") == function && row.Number("GSD") >= from &&
-                   row.Number("GSD") <= to;
-          }};
+  return source;
 }
 
 Source Steps(const std::string& table, double from, double to, Estimator estimator) {
-  return {table, "result", kInputs, Called(estimator), [from, to](const Row& row) {
+  return {table, "result", EstimatorInputs(), CalledWith(estimator), [from, to](const Row& row) {
             return row.Number("GSD") >= from && row.Number("GSD") <= to;
           }};
 }
+
+// As a part of GM where `ofGM`, otherwise of the estimate, which passes through 0.
+Search LookAtUnbiased(bool ofGM) {
+  Search search = LookAtEstimator(1, 1.001, 1000, GMUnbiasedOf, truth::GMByBessel);
+  search.axes[1] = {"GM", 1, 1};
+  search.takes = [](const Point& at) { return at[2] / ((at[0] + 1) * (at[0] + 1)) <= 6; };
+  if (!ofGM) search.counts = [](Real truth) { return std::abs(truth) >= 0.01L; };
+  return search;
+}
+
+Real LinearMean(Real, Real GM, Real GSD) { return GM * (1 + truth::ExcessOfMean(GSD)); }
+
+Real LinearDeviation(Real df, Real GM, Real GSD) {
+  const Real excess = truth::ExcessOfMean(GSD);
+  return GM * std::sqrt((1 + excess) * excess * (df + 1) / df);
+}
+
+bool IsOne(const Row& row) { return row.Number("GM") == 1; }
 
 double Moment(const Row& row, double df, bool wantGM) {
   ExposureSession s = Series().at(row.Text("series"));
@@ -122,8 +116,11 @@ Entry Moments(bool wantGM) {
            [wantGM](const Row& row) { return Moment(row, row.Number("df"), wantGM); },
            [wantGM](const Row& row) {
              return row.Text("fault").empty() && (wantGM || row.Text("InputState_after") != "4");
-           }}};
+           }},
+          Listed()};
 }
+
+constexpr const char* kBessel = "series, Finney (1941), with df / 2 + 1 where his has df / 2";
 
 }  // namespace
 
@@ -137,50 +134,65 @@ std::vector<Entry> EstimatorEntries() {
   const Estimator variance = [](double df, double GM, double GSD) {
     return StatFWinBAS::FinneyVarianceMVU(df, GM, GSD);
   };
-  const Estimator xm = [](double df, double GM, double GSD) { return Linear(df, GM, GSD).XM; };
-  const Estimator sd = [](double df, double GM, double GSD) { return Linear(df, GM, GSD).SDlin; };
+  const Estimator xm = [](double df, double GM, double GSD) {
+    return LinearMomentsOf(df, GM, GSD).XM;
+  };
+  const Estimator sd = [](double df, double GM, double GSD) {
+    return LinearMomentsOf(df, GM, GSD).SDlin;
+  };
   return {
       {"FinneyMeanMVU", "df 1 to 1999, GSD 1.001 to 1000", "series, Finney (1941)",
-       Measure::Relative, Truth("FinneyMeanMVU", 1, 1e4, mvu),
-       Steps("finney_mean_mvu.csv", 1, 1e4, mvu)},
-      {"FinneyMeanMMSE", "df above 3, GSD 1.001 to 1000", "series, Finney (1941), Zhou (1998)",
-       Measure::Relative, Truth("FinneyMeanMMSE", 1, 1e4, mmse),
-       Steps("finney_mean_mmse.csv", 1, 1e4, mmse)},
-      {"FinneyVarianceMVU", "GSD 1.05 to 8", "two series summed together, Finney (1941)",
-       Measure::Relative, Truth("FinneyVarianceMVU", 1.05, 8, variance),
-       Steps("finney_variance_mvu.csv", 1.05, 8, variance)},
-      {"FinneyVarianceMVU", "every GSD", "two series summed together, Finney (1941)",
-       Measure::Relative, Truth("FinneyVarianceMVU", 1, 1e4, variance),
-       Steps("finney_variance_mvu.csv", 1, 1e4, variance)},
-      {"GMUnbiased", "GSD / (df + 1) squared at most 6", "series, Finney (1941)", Measure::Relative,
-       Truth("GMUnbiased", 1, 1e4, Unbiased), Steps("gm_unbiased.csv", 1, 1e4, Unbiased)},
-      {"LinearMoments: XM", "from GM and GSD", "GM exp(L squared / 2)", Measure::Relative,
-       Truth("LinearMoments XM", 1, 1e4, xm), LinearSteps("XM", false, &ExposureSession::XM)},
-      {"LinearMoments: SDlin", "from GM and GSD, GSD 1.05 and more",
+       Measure::Relative, EstimatorTruth("FinneyMeanMVU", 1, 1e4, mvu),
+       Steps("finney_mean_mvu.csv", 1, 1e4, mvu),
+       LookAtEstimator(1, 1.001, 1000, mvu, truth::MeanMVU)},
+      {"FinneyMeanMMSE", "df 4 to 1999, GSD 1.001 to 1000", "series, Finney (1941), Zhou (1998)",
+       Measure::Relative, EstimatorTruth("FinneyMeanMMSE", 1, 1e4, mmse),
+       Steps("finney_mean_mmse.csv", 1, 1e4, mmse),
+       LookAtEstimator(4, 1.001, 1000, mmse, truth::MeanMMSE)},
+      {"FinneyVarianceMVU", "df 1 to 1999, GSD 1.05 to 8",
+       "two series summed together, Finney (1941)", Measure::Relative,
+       EstimatorTruth("FinneyVarianceMVU", 1.05, 8, variance),
+       Steps("finney_variance_mvu.csv", 1.05, 8, variance),
+       LookAtEstimator(1, 1.05, 8, variance, truth::VarianceMVU)},
+      {"FinneyVarianceMVU", "df 1 to 1999, GSD 1.001 to 1000",
+       "two series summed together, Finney (1941)", Measure::Relative,
+       EstimatorTruth("FinneyVarianceMVU", 1, 1e4, variance),
+       Steps("finney_variance_mvu.csv", 1, 1e4, variance),
+       LookAtEstimator(1, 1.001, 1000, variance, truth::VarianceMVU)},
+      {"GMUnbiased", "GSD / (df + 1) squared at most 6, as a part of GM", kBessel,
+       Measure::Absolute, Only(EstimatorTruth("GMUnbiased", 1, 1e4, GMUnbiasedOf), IsOne),
+       Steps("gm_unbiased.csv", 1, 1e4, GMUnbiasedOf), LookAtUnbiased(true)},
+      {"GMUnbiased",
+       "the same, from a hundredth of GM on",
+       kBessel,
+       Measure::Relative,
+       Only(EstimatorTruth("GMUnbiased", 1, 1e4, GMUnbiasedOf), IsOne),
+       {},
+       LookAtUnbiased(false)},
+      {"LinearMoments: XM", "from GM and GSD, GSD 1.001 to 1000", "GM exp(L squared / 2)",
+       Measure::Relative, EstimatorTruth("LinearMoments XM", 1, 1e4, xm),
+       LinearSteps("XM", false, &ExposureSession::XM),
+       LookAtEstimator(1, 1.001, 1000, xm, LinearMean)},
+      {"LinearMoments: SDlin", "from GM and GSD, GSD 1.05 to 1000",
        "sqrt(GM squared e (e - 1) M / (M - 1))", Measure::Relative,
-       Truth("LinearMoments SDlin", 1.05, 1e4, sd),
-       LinearSteps("SDlin", false, &ExposureSession::SDlin)},
-      {"LinearMoments: SDlin", "from GM and GSD, GSD to 1.05", "the same; e - 1 loses digits",
-       Measure::Relative, Truth("LinearMoments SDlin", 1, 1.05, sd)},
+       EstimatorTruth("LinearMoments SDlin", 1.05, 1e4, sd),
+       LinearSteps("SDlin", false, &ExposureSession::SDlin),
+       LookAtEstimator(1, 1.05, 1000, sd, LinearDeviation)},
+      {"LinearMoments: SDlin",
+       "from GM and GSD, GSD 1.001 to 1.05",
+       "the same; e - 1 loses digits",
+       Measure::Relative,
+       EstimatorTruth("LinearMoments SDlin", 1, 1.05, sd),
+       {},
+       LookAtEstimator(1, 1.001, 1.05, sd, LinearDeviation)},
       {"LinearMoments: XM", "from the outcomes, the reference series", "mean", Measure::Relative,
        LinearTruth("XM", false, &ExposureSession::XM),
-       LinearSteps("XM", true, &ExposureSession::XM)},
+       LinearSteps("XM", true, &ExposureSession::XM), Listed()},
       {"LinearMoments: SDlin", "from the outcomes, the reference series", "sums of squares",
        Measure::Relative, LinearTruth("SDlin", false, &ExposureSession::SDlin),
-       LinearSteps("SDlin", true, &ExposureSession::SDlin)},
+       LinearSteps("SDlin", true, &ExposureSession::SDlin), Listed()},
       Moments(true),
       Moments(false),
-  };
-}
-
-std::vector<Entry> EstimatorPeculiarities() {
-  return {
-      {"LinearMoments", "SDlin from GM and GSD, GSD to 4",
-       "e is exp(L squared / 2), where the standard deviation of a lognormal population has exp(L "
-       "squared)",
-       Measure::Relative,
-       Truth("population deviation", 1, 4,
-             [](double df, double GM, double GSD) { return Linear(df, GM, GSD).SDlin; })},
   };
 }
 

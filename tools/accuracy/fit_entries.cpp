@@ -6,6 +6,7 @@
 #include "analysis/shapiro.h"
 #include "analysis/transformations.h"
 #include "tools/accuracy/entries.h"
+#include "tools/accuracy/fit_searches.h"
 #include "tools/accuracy/series.h"
 
 namespace accuracy {
@@ -33,7 +34,8 @@ Entry RankitEntry(const std::string& domain, double from, double to, const std::
           method,
           Measure::Absolute,
           {"rankit_truth.csv", "true", {"n", "r"}, Rankit("n", "r"), of("n")},
-          {"rankits.csv", "R", {"M", "i"}, Rankit("M", "i"), of("M")}};
+          {"rankits.csv", "R", {"M", "i"}, Rankit("M", "i"), of("M")},
+          LookAtRankits(from, to)};
 }
 
 bool IsThree(const Row& row) { return row.Number("n") == 3; }
@@ -124,16 +126,16 @@ Entry FitEntry(const Fitted& fitted, bool alike) {
           fitted.method,
           fitted.measure,
           FitTruth(fitted.column, alike, fitted.result),
-          alike ? Source{} : FitSteps(fitted.column, fitted.result)};
+          alike ? Source{} : FitSteps(fitted.column, fitted.result),
+          Listed()};
 }
-
-using Scale = double (*)(std::string_view, double);
 
 bool IsDouble(const Row& row) { return row.Text("name") == "Lg(Lg(x))"; }
 
-Entry ScaleEntry(const std::string& routine, const std::string& way, bool doubled, Scale scale) {
+Entry ScaleEntry(const std::string& routine, const std::string& way, const std::string& domain,
+                 bool doubled, TransformOf scale) {
   return {routine,
-          doubled ? "the double logarithm, away from 0" : "all scales but the double logarithm",
+          (doubled ? "the double logarithm, " : "all scales but the double logarithm, ") + domain,
           "closed form",
           Measure::Relative,
           {"transform_truth.csv",
@@ -145,11 +147,8 @@ Entry ScaleEntry(const std::string& routine, const std::string& way, bool double
            routine,
            {"name", "x"},
            [scale](const Row& row) { return scale(row.Text("name"), row.Number("x")); },
-           [doubled](const Row& row) { return IsDouble(row) == doubled; }}};
-}
-
-double PublishedForThree(double W) {
-  return 6 / std::acos(-1.0) * (std::asin(std::sqrt(W)) - std::asin(std::sqrt(0.75)));
+           [doubled](const Row& row) { return IsDouble(row) == doubled; }},
+          LookAtScale(way == "there", doubled, scale)};
 }
 
 }  // namespace
@@ -160,20 +159,26 @@ std::vector<Entry> FitEntries() {
        "M 3",
        "five decimals",
        Measure::Absolute,
-       {"rankit_truth.csv", "true", {"n", "r"}, Rankit("n", "r"), IsThree}},
-      RankitEntry("M 4 to 20", 4, 20, "published tables, Harter (1961)"),
+       {"rankit_truth.csv", "true", {"n", "r"}, Rankit("n", "r"), IsThree},
+       {},
+       LookAtRankits(3, 3)},
+      RankitEntry("M 4 to 20", 4, 20,
+                  "the values of Harter's table (1961), recomputed to 15 decimals; he prints five"),
       RankitEntry("M 21 to 39", 21, 39, "Royston (1982), AS 177.3"),
       RankitEntry("M 40 to 2000", 40, 2000, "Royston (1982), AS 177.3"),
-      ScaleEntry("TransformValue", "there", false, analysis::TransformValue),
-      ScaleEntry("TransformValue", "there", true, analysis::TransformValue),
-      ScaleEntry("InverseTransform", "back", false, analysis::InverseTransform),
-      ScaleEntry("InverseTransform", "back", true, analysis::InverseTransform),
+      ScaleEntry("TransformValue", "there", "x 1E-10 to 1E+10, exponential to 700", false,
+                 analysis::TransformValue),
+      ScaleEntry("TransformValue", "there", "x 1.0001 to 1E+10, 0.01 and more from e", true,
+                 analysis::TransformValue),
+      ScaleEntry("InverseTransform", "back", "y 1E-10 to 700", false, analysis::InverseTransform),
+      ScaleEntry("InverseTransform", "back", "y 1E-10 to 6", true, analysis::InverseTransform),
       {"FillShapiroWeights",
        "M 3 to 2000",
        "Royston (1995), AS R94",
        Measure::Relative,
        {"shapiro_weight_truth.csv", "true", {"M", "i"}, Weight},
-       {"shapiro_weights.csv", "a", {"M", "i"}, Weight}},
+       {"shapiro_weights.csv", "a", {"M", "i"}, Weight},
+       LookAtWeights()},
   };
   for (const Fitted& fitted : kFitted)
     for (const bool alike : {false, true}) all.push_back(FitEntry(fitted, alike));
@@ -190,7 +195,18 @@ std::vector<Entry> FitPeculiarities() {
         "true",
         {"n", "r"},
         Rankit("n", "r"),
-        [](const Row& row) { return row.Number("n") >= 40 && row.Number("r") == 4; }}},
+        [](const Row& row) { return row.Number("n") >= 40 && row.Number("r") == 4; }},
+       {},
+       LookAtOrderFour()},
+      {"ProbabilityRegression: b",
+       "1/x with a range, a lognormal sample of 20 with a GSD of 2.718",
+       "the scale turns the order of the outcomes round and the range stays, so that it takes "
+       "those "
+       "at the other end",
+       Measure::Relative,
+       {},
+       {},
+       LookAtMirroredRange()},
       {"ShapiroWilk",
        "M 3",
        "the arc tangent of sqrt W where the publication has the arc sine",
@@ -200,7 +216,9 @@ std::vector<Entry> FitPeculiarities() {
         {"series", "Transformation"},
         [](const Row& row) { return Fit(row, "first", "last").test.PW; },
         [](const Row& row) { return Series().at(row.Text("series")).M == 3; },
-        [](const Row& row) { return PublishedForThree(row.Number("W")); }}},
+        [](const Row& row) { return PublishedForThree(row.Number("W")); }},
+       {},
+       LookAtThree()},
   };
 }
 

@@ -3,6 +3,7 @@
 
 #include "tests/support/record.h"
 #include "tools/accuracy/entries.h"
+#include "tools/accuracy/mean_searches.h"
 #include "ucl/jahr.h"
 #include "ucl/land_exact.h"
 #include "ucl/land_probability.h"
@@ -19,7 +20,7 @@ ucl::JahrLimit Jahr(const Row& row) {
                       row.Number("OELV"));
 }
 
-const std::vector<std::string> kJahr = {"df", "AMu", "GSD", "OELV", "D"};
+const std::vector<Column> kJahr = {"df", "AMu", "GSD", "OELV", "D"};
 
 double JahrLimit(const Row& row) { return Jahr(row).UCL; }
 double JahrExceedance(const Row& row) { return Jahr(row).PercEx; }
@@ -37,7 +38,8 @@ Entry JahrEntry(const std::string& domain, bool odd) {
           "`StudentUpperInverse`, Jahr (1987)",
           Measure::Absolute,
           {"jahr_truth.csv", "UCL", kJahr, JahrLimit, takes},
-          {"jahr.csv", "UCL", kJahr, JahrLimit, takes}};
+          {"jahr.csv", "UCL", kJahr, JahrLimit, takes},
+          LookAtJahrLimit(odd)};
 }
 
 // The arguments of the table of the parts.
@@ -51,12 +53,12 @@ std::function<bool(const Row&)> PartsOf(const std::string& routine) {
 
 Entry DensityEntry() {
   return {"LandIntegrand",
-          "above the least double of full precision",
+          "nu 1 to 999, Aq -60 to -0.02, density from 1E-300",
           "closed form, Land (1975)",
           Measure::Relative,
           {"land_truth.csv",
            "true",
-           {"nu", "a2", "a3", "a4", "a5"},
+           {"nu", {"a2", "Aq"}, {"a3", "Yq"}, {"a5", "x"}},
            [](const Row& row) {
              return UCLBAS::LandIntegrand(row.Number("nu"), Part(row, 2), Part(row, 3),
                                           Part(row, 4), Part(row, 5));
@@ -71,7 +73,8 @@ Entry DensityEntry() {
              return UCLBAS::LandIntegrand(Part(row, 1), Part(row, 2), Part(row, 3), Part(row, 4),
                                           Part(row, 5));
            },
-           PartsOf("LandIntegrand")}};
+           PartsOf("LandIntegrand")},
+          LookAtLandDensity()};
 }
 
 double IntegralOfParts(const Row& row) {
@@ -90,7 +93,7 @@ double IntegralOfTruth(const Row& row) {
 
 Entry IntegralEntry() {
   return {"LandSimpson",
-          "to or from the peak",
+          "from the peak Yq to Yq + k (abs(Yq) + 1), k -10 to 10, nu 1 to 999, Aq -60 to -0.02",
           "adaptive Simpson rule, Lyness (1969)",
           Measure::Absolute,
           {"land_integral_truth.csv", "true", {"nu", "Aq", "a", "b"}, IntegralOfTruth},
@@ -98,7 +101,8 @@ Entry IntegralEntry() {
            "value",
            {"a1", "a2", "a3", "a4", "a5", "a6"},
            IntegralOfParts,
-           PartsOf("LandSimpson")}};
+           PartsOf("LandSimpson")},
+          LookAtLandIntegral()};
 }
 
 // Land's parts of few degrees of freedom have no table of the steps. The row that misses the peak
@@ -124,7 +128,7 @@ Entry ProbabilityEntry(const std::string& domain, double from, double to) {
           Measure::Absolute,
           {"land_truth.csv",
            "true",
-           {"nu", "a2", "a3"},
+           {"nu", {"a2", "s"}, {"a3", "c"}},
            [](const Row& row) {
              return UCLBAS::LandProbability(row.Number("nu"), row.Number("a2"), row.Number("a3"));
            },
@@ -132,7 +136,8 @@ Entry ProbabilityEntry(const std::string& domain, double from, double to) {
              return row.Text("function") == "LandProbability" && row.Number("nu") >= from &&
                     row.Number("nu") <= to;
            }},
-          ProbabilitySteps(from, to)};
+          ProbabilitySteps(from, to),
+          LookAtLandProbability(from, to)};
 }
 
 // One search: the root, or the status where the interval does not hold it.
@@ -153,10 +158,11 @@ Entry SearchEntry() {
            "value",
            {"a1", "a2", "a3", "a4", "a5"},
            Sought,
-           PartsOf("LandRootSearch")}};
+           PartsOf("LandRootSearch")},
+          Listed()};
 }
 
-const std::vector<std::string> kLand = {"nu", "s", "mean", "confidence"};
+const std::vector<Column> kLand = {"nu", "s", "mean", "confidence"};
 
 UCLBAS::LandLimit Limit(const Row& row) {
   return UCLBAS::LandExactUCL(0.5, row.Number("nu"), row.Number("s"), row.Number("mean"),
@@ -165,29 +171,47 @@ UCLBAS::LandLimit Limit(const Row& row) {
 double Root(const Row& row) { return Limit(row).C; }
 double LimitUCL(const Row& row) { return Limit(row).UCL; }
 
-std::function<bool(const Row&)> NuBetween(double from, double to) {
-  return [from, to](const Row& row) { return row.Number("nu") >= from && row.Number("nu") <= to; };
-}
+using Takes = std::function<bool(const Row&)>;
 
-// Of what a whole limit gives as `column` of its table, among nu of `from` to `to`.
-Entry CaseEntry(Entry entry, const std::string& column, double (*call)(const Row&), double from,
-                double to) {
-  const auto takes = NuBetween(from, to);
-  entry.truth = {"land_cases.csv", "true_" + column, kLand, call, takes};
-  entry.steps = {"land_cases.csv", "fixed_" + column, kLand, call, takes};
+double FactorOf(const Row& row) { return Limit(row).Factor; }
+
+// What a whole limit gives, among nu of `from` to `to`, as `truth` and `steps` of its table.
+Entry CaseEntry(Entry entry, const std::string& truth, double (*result)(const Row&),
+                const std::string& steps, double (*stepped)(const Row&), Takes takes) {
+  entry.truth = {"land_cases.csv", truth, kLand, result, takes};
+  entry.steps = {"land_cases.csv", steps, kLand, stepped, takes};
   return entry;
 }
 
-Entry RootEntry(const std::string& domain, double from, double to) {
-  return CaseEntry({"LandRootSearch", domain + ", the searches of a limit: C",
-                    "the same, in the intervals of `LandExactUCL`"},
-                   "C", Root, from, to);
+// Of the confidences that the screen offers; the method's own steps go beyond them.
+Takes Offered(double from, double to) {
+  return [from, to](const Row& row) {
+    return row.Number("nu") >= from && row.Number("nu") <= to && row.Number("s") >= 0.05 &&
+           row.Number("confidence") <= 99.75;
+  };
 }
 
-Entry LimitEntry(const std::string& domain, double from, double to) {
-  return CaseEntry({"LandExactUCL", domain + ", natural logarithm",
-                    "`LandRootSearch` on `LandProbability`, Land (1975)", Measure::Absolute},
-                   "UCL", LimitUCL, from, to);
+Entry RootEntry(const std::string& domain, double from, double to) {
+  return CaseEntry(
+      {"LandRootSearch",
+       domain + ", the searches of a limit: H = C sqrt(nu) / s, as a part of it or of 1",
+       "the same, in the intervals of `LandExactUCL`",
+       Measure::Mixed,
+       {},
+       {},
+       LookAtLandFactor(from, to)},
+      "true_Factor", FactorOf, "fixed_C", Root, Offered(from, to));
+}
+
+Entry LimitEntry(const std::string& domain, double from, double to, Measure measure) {
+  return CaseEntry({"LandExactUCL",
+                    domain,
+                    "`LandRootSearch` on `LandProbability`, Land (1975)",
+                    measure,
+                    {},
+                    {},
+                    LookAtLandLimit(from, to)},
+                   "true_UCL", LimitUCL, "fixed_UCL", LimitUCL, Offered(from, to));
 }
 
 ucl::LandResult Pressed(const Row& row) {
@@ -196,7 +220,7 @@ ucl::LandResult Pressed(const Row& row) {
   return ucl::LandCmb(s);
 }
 
-const std::vector<std::string> kSession = {"M", "GM", "GSD", "OELV", "D"};
+const std::vector<Column> kSession = {"df", "GM", "GSD", "OELV", "D"};
 
 Entry PressEntry(const std::string& what, const std::string& domain, const std::string& column,
                  double (*result)(const ucl::LandResult&)) {
@@ -206,7 +230,8 @@ Entry PressEntry(const std::string& what, const std::string& domain, const std::
           "halving of the confidence on `LandExactUCL`",
           Measure::Absolute,
           {"land_sessions.csv", "true_" + column, kSession, press},
-          {"land_sessions.csv", "fixed_" + column, kSession, press}};
+          {"land_sessions.csv", "fixed_" + column, kSession, press},
+          LookAtLandButton(column == "UCL")};
 }
 
 }  // namespace
@@ -220,21 +245,23 @@ std::vector<Entry> MeanEntries() {
        "`StudentUpper`, Jahr (1987)",
        Measure::Absolute,
        {"jahr_truth.csv", "PercEx", kJahr, JahrExceedance},
-       {"jahr.csv", "PercEx", kJahr, JahrExceedance}},
+       {"jahr.csv", "PercEx", kJahr, JahrExceedance},
+       LookAtJahrExceedance()},
       DensityEntry(),
       IntegralEntry(),
-      ProbabilityEntry("nu 1", 1, 1),
-      ProbabilityEntry("nu 2", 2, 2),
-      ProbabilityEntry("nu 3 to 5", 3, 5),
-      ProbabilityEntry("nu above 5", 6, 1e9),
+      ProbabilityEntry("nu 1, s 0.05 to 6.9", 1, 1),
+      ProbabilityEntry("nu 2, s 0.05 to 6.9", 2, 2),
+      ProbabilityEntry("nu 3 to 5, s 0.05 to 6.9", 3, 5),
+      ProbabilityEntry("nu 6 to 999, s 0.05 to 6.9", 6, 999),
       SearchEntry(),
       RootEntry("nu 1", 1, 1),
       RootEntry("nu 2", 2, 2),
-      RootEntry("nu above 2", 3, 1e9),
-      LimitEntry("nu 1", 1, 1),
-      LimitEntry("nu 2", 2, 2),
-      LimitEntry("nu above 2", 3, 1e9),
-      PressEntry("A", "percent", "A", [](const ucl::LandResult& result) { return result.A; }),
+      RootEntry("nu 3 to 999", 3, 999),
+      LimitEntry("nu 1, natural logarithm, as a part of it or of 1", 1, 1, Measure::Mixed),
+      LimitEntry("nu 2, natural logarithm", 2, 2, Measure::Absolute),
+      LimitEntry("nu 3 to 999, natural logarithm", 3, 999, Measure::Absolute),
+      PressEntry("A", "percent, D 95, OELV 1E-4 to 1E+10", "A",
+                 [](const ucl::LandResult& result) { return result.A; }),
       PressEntry("UCL", "natural logarithm", "UCL",
                  [](const ucl::LandResult& result) { return result.UCL; }),
   };

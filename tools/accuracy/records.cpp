@@ -3,6 +3,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "tools/accuracy/numbers.h"
 #include "tools/accuracy/page.h"
 
 namespace accuracy {
@@ -12,16 +13,9 @@ constexpr char kSeparator = ';';
 constexpr const char* kHeader = "entry;truth;truth at;truth rows;steps;steps at;steps rows\n";
 
 double NumberOf(const std::string& text) {
-  double value = 0;
-  const char* last = text.data() + text.size();
-  const auto [end, error] = std::from_chars(text.data(), last, value);
-  if (error != std::errc() || end != last) throw std::runtime_error("no figure: " + text);
-  return value;
-}
-
-std::string CountText(int count) {
-  char text[16];
-  return {text, std::to_chars(text, text + sizeof text, count).ptr};
+  const std::optional<double> value = NumberIn(text);
+  if (!value) throw std::runtime_error("no figure: " + text);
+  return *value;
 }
 
 std::vector<std::string> Split(const std::string& line) {
@@ -38,7 +32,7 @@ std::vector<std::string> Split(const std::string& line) {
 
 std::string Fields(const Figure& figure) {
   return kSeparator + FigureText(figure.error) + kSeparator + figure.where + kSeparator +
-         CountText(figure.rows);
+         NumberText(figure.rows);
 }
 
 Figure FigureOf(const std::vector<std::string>& fields, std::size_t first) {
@@ -50,19 +44,53 @@ Figure FigureOf(const std::vector<std::string>& fields, std::size_t first) {
 
 std::string Key(const Entry& entry) { return entry.routine + " | " + entry.domain; }
 
-Recorded MeasureEntry(const Entry& entry) {
+Recorded MeasureEntry(const Entry& entry, const Effort& effort,
+                      const std::vector<std::string>& known) {
   Recorded measured;
   if (!entry.truth.table.empty()) measured.truth = Largest(entry.truth, entry.measure);
   if (!entry.steps.table.empty()) measured.steps = Largest(entry.steps, entry.measure);
+  if (entry.search.axes.empty() || effort.times == 0) return measured;
+  std::vector<std::string> places = known;
+  places.push_back(measured.truth.where);
+  const Figure found = Searched(entry.search, entry.measure, effort, places);
+  const int rows = measured.truth.rows + found.rows;
+  if (!(measured.truth.error > found.error)) measured.truth = found;
+  measured.truth.rows = rows;
   return measured;
 }
 
-Records MeasureAll() {
+namespace {
+
+// In rounds with seeds of their own, so that one that has settled round a lesser place costs but
+// its share.
+Recorded MeasureInRounds(const Entry& entry, const Effort& effort, const std::string& known) {
+  constexpr unsigned kRounds = 4;
+  Recorded measured;
+  int rows = 0;
+  std::vector<std::string> places = {known};
+  for (unsigned round = 0; round < kRounds; ++round) {
+    measured = MeasureEntry(entry, {effort.times / kRounds, effort.seed + round}, places);
+    places.push_back(measured.truth.where);
+    rows += measured.truth.rows;
+  }
+  measured.truth.rows = rows;
+  return measured;
+}
+
+}  // namespace
+
+Records MeasureAll(const Effort& effort, const Records& before, const std::string& part) {
   Records records;
   for (const auto& entries : {Routines(), Peculiarities()}) {
     for (const Entry& entry : entries) {
-      if (!records.emplace(Key(entry), MeasureEntry(entry)).second)
-        throw std::logic_error("two entries " + Key(entry));
+      const std::string key = Key(entry);
+      const auto known = before.find(key);
+      const bool isKnown = known != before.end();
+      const bool kept = isKnown && key.find(part) == std::string::npos;
+      const std::string place = isKnown ? known->second.truth.where : "";
+      if (!records.emplace(key, kept ? known->second : MeasureInRounds(entry, effort, place))
+               .second)
+        throw std::logic_error("two entries " + key);
     }
   }
   return records;

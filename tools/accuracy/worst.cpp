@@ -1,38 +1,30 @@
 #include "tools/accuracy/worst.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <map>
 #include <optional>
 
 #include "base/fault.h"
+#include "tools/accuracy/numbers.h"
 
 namespace accuracy {
 namespace {
 
-std::optional<double> NumberIn(const std::string& text) {
-  double value = 0;
-  const char* last = text.data() + text.size();
-  const auto [end, error] = std::from_chars(text.data(), last, value);
-  if (error != std::errc() || end != last || !std::isfinite(value)) return std::nullopt;
-  return value;
+// A field that holds a finite number.
+std::optional<double> Finite(const std::string& text) {
+  const std::optional<double> value = NumberIn(text);
+  return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
 std::string Shortest(const std::string& text) {
-  const std::optional<double> value = NumberIn(text);
-  if (!value) return text;
-  char shortest[32];
-  const auto [end, error] = std::to_chars(shortest, shortest + sizeof shortest, *value);
-  return error == std::errc() ? std::string(shortest, end) : text;
+  const std::optional<double> value = Finite(text);
+  return value ? NumberText(*value) : text;
 }
 
-double ErrorOf(const Source& source, const support::Row& row, double expected, Measure measure) {
+double ErrorOfRow(const Source& source, const support::Row& row, double expected, Measure measure) {
   try {
-    const double result = source.call(row);
-    if (std::isnan(result)) return std::numeric_limits<double>::infinity();
-    return measure == Measure::Relative ? support::RelativeError(result, expected)
-                                        : std::abs(result - expected);
+    return ErrorOf(source.call(row), expected, measure);
   } catch (const RunTimeError&) {
     return std::numeric_limits<double>::infinity();
   }
@@ -48,13 +40,25 @@ const std::vector<support::Row>& Table(const std::string& name) {
 
 }  // namespace
 
-std::string Inputs(const support::Row& row, const std::vector<std::string>& columns) {
+std::string Inputs(const support::Row& row, const std::vector<Column>& columns) {
   std::string text;
-  for (const std::string& column : columns) {
+  for (const Column& column : columns) {
+    if (row.Text(column.name).empty()) continue;
     if (!text.empty()) text += ", ";
-    text += column + " " + Shortest(row.Text(column));
+    text += column.shown + " " + Shortest(row.Text(column.name));
   }
   return text;
+}
+
+std::vector<std::pair<std::string, double>> Truths(const Source& source) {
+  std::vector<std::pair<std::string, double>> truths;
+  for (const support::Row& row : Table(source.table)) {
+    if (source.takes && !source.takes(row)) continue;
+    const std::optional<double> expected =
+        source.expected ? source.expected(row) : Finite(row.Text(source.column));
+    if (expected) truths.emplace_back(Inputs(row, source.inputs), *expected);
+  }
+  return truths;
 }
 
 Figure Largest(const Source& source, Measure measure) {
@@ -62,9 +66,9 @@ Figure Largest(const Source& source, Measure measure) {
   for (const support::Row& row : Table(source.table)) {
     if (source.takes && !source.takes(row)) continue;
     const std::optional<double> expected =
-        source.expected ? source.expected(row) : NumberIn(row.Text(source.column));
+        source.expected ? source.expected(row) : Finite(row.Text(source.column));
     if (!expected) continue;
-    const double error = ErrorOf(source, row, *expected, measure);
+    const double error = ErrorOfRow(source, row, *expected, measure);
     if (worst.rows++ > 0 && error <= worst.error) continue;
     worst.error = error;
     worst.where = Inputs(row, source.inputs);
