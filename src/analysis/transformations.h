@@ -30,14 +30,13 @@ inline constexpr std::array<Transformation, 7> kTransformations = {{
 // the square, exp x or 1 / x. An unknown name gives 0.
 // Domain: that of the function; a logarithm of 0 or less and the root of a negative number are
 // invalid operations, 1 / 0 a division by zero, a value beyond a double an overflow.
-// Accuracy against arbitrary precision, relative: 1.2E-16; 1.9E-15 of ln ln x
-// away from x = e, where it passes through 0.
+// Accuracy, relative: 1.2E-16; of ln ln x, 0.01 and more from x = e, where it passes through 0,
+// 3.1E-14.
 double TransformValue(std::string_view name, double x);
 
 // The way back: the value whose transformed value is `y`, by exp exp y, exp y, the square, y
 // itself, the square root, ln y and 1 / y. An unknown name gives 0. Faults as above.
-// Accuracy against arbitrary precision, relative: 1.4E-16; 2E-14 of exp exp y (at
-// y near 6, the argument being exact).
+// Accuracy, relative: 1.4E-16; of exp exp y, y to 6, 2.9E-14.
 double InverseTransform(std::string_view name, double y);
 
 // Fills CTransf, which shares its store with LnC of the record, with the outcomes C(0) to C(M) on

@@ -53,7 +53,9 @@ const char* GSDChoiceFor(Answer answer, double A);
 
 // F test of two samples: F = (ln GSD / ln GSD2)^2 on df and df2 degrees of freedom. Faults for
 // GSD2 = 1. Source: the ratio of two variances (Fisher; Snedecor 1934), in logarithms.
-// Accuracy: as FUpper.
+// Accuracy: A, by FUpper, 1.9E-06 percent where (M - 1) (M2 - 1) is below 32768, otherwise 2.5E+00
+// percent, enough to cross 5: at M 3, M2 30000 and a ratio of the ln GSD of 0.138 it gives 6.2 for
+// 3.8.
 Dispersion SampleDispersion(const ExposureSession& s);
 
 // Chi test of a sample against a known sigma: chi = sqrt(df) ln GSD / ln GSD2 on df degrees of
@@ -76,8 +78,8 @@ Location PopulationLocation(const ExposureSession& s);
 // where the first has df + 1: by that the combined GSD comes out larger than that of the united
 // measurements, the more so the further GM2 lies from 1. The recipe stays, as reports rest on it.
 // Domain: a GM, GSD or other value of 0 or below is an invalid operation. Changes nothing.
-// Accuracy of that recipe against arbitrary precision, relative: GM 1.6E-15, GSD 9.9E-15 (M 2000,
-// M2 2).
+// Accuracy of that recipe, relative: GM 3.6E-15, GSD 6.2E-13 (the second sample large, GSD2 near
+// 1).
 Combined CombinedStatistics(const ExposureSession& s);
 
 // The whole comparison by CompareMode. Writes df2 = M2 - 1, with a reference sample also GSDChoice

@@ -9,11 +9,10 @@ namespace StatFWinBAS {
 // Changes nothing: df and chi are the same on return.
 // Source: df up to 200 and chi up to 24: M. Abramowitz and I.A. Stegun (1964), 26.4.4 (odd) and
 // 26.4.5 (even); beyond: E.B. Wilson and M.M. Hilferty (1931), PNAS 17, 684-688 (26.4.17).
-// Accuracy against arbitrary precision, relative, areas from 0.001: df even 3.1E-15 (df 198), odd
-// 3.1E-13 (df 5, chi 4.36); down to 1E-126: 2.5E-14 and, from the normal tail, 4.3E-11. By the
-// approximation: absolute 5.5E-5 (df 201, chi 13.66), relative 5.3E-3 from 0.001 (df 201, chi
-// 16.38); for a chi above 24 with df up to 200 the areas are below 1E-36 and only their being
-// nearly 0 is right.
+// Accuracy by the sums: absolute 3.3E-15, relative for areas from 0.001 2.1E-12 (df odd; with df
+// even far less). By the approximation: absolute 5.5E-05 (df 201, chi 13.66), relative from 0.001
+// 5.4E-03 (df 201, chi 16.39); for a chi above 24 with df up to 200 the areas are below 1E-36 and
+// only their being nearly 0 is right.
 double ChiUpper(double& df, double& chi);
 
 // The upper tail area P(X > F) of the F distribution, within 0 to 1.
@@ -23,12 +22,12 @@ double ChiUpper(double& df, double& chi);
 // Source: M. Abramowitz and I.A. Stegun (1964), 26.6.4 (d1 even), 26.6.5 (d2 even) and 26.6.8
 // (both odd); where d1 d2 >= 32768, E. Paulson (1942), Annals of Mathematical Statistics 13,
 // 233-235 (26.6.15).
-// Accuracy against arbitrary precision: the sums, absolute: 1.7E-13 (d1 2, d2 1982, F 0.0017),
-// besides 9E-10 where F counts as 1 (d1 = d2 = 1999); but with d1 1 and d2 even, where 1 - x loses
-// digits, 1.4E-12 from F 0.01 on, 1.3E-11 from F 1E-4 on and 3.8E-7 below (d2 1994, F 2.2E-13).
-// Relative 1.7E-13 for d1 even at any area, otherwise only down to where 1E-12 is small. By the
-// approximation: absolute 4.2E-3 (d1 3, d2 12001, F 0.5), and 7.2E-4 for degrees of freedom up to
-// 2000 (d1 1989, d2 17, F 1.284).
+// Accuracy, degrees of freedom up to 29999: the sums, absolute: 1.4E-12 (d1 2, d2 near 16000),
+// besides 3.5E-09 where F counts as 1; but with d1 1 and d2 even, where 1 - x loses digits, 2.0E-11
+// from F 0.01 on and 1.5E-06 below. Relative 1.4E-12 for d1 even at areas from 1E-200, otherwise
+// only down to where the absolute error is small. By the approximation, absolute: 1.3E-02 (d1 2, d2
+// 29999, F 0.0191: an area of 0.981 comes out as 0.969), and 7.2E-04 for degrees of freedom below
+// 2000 (d1 1999, d2 17, F 1.29).
 double FUpper(double& d1, double& d2, double& F);
 
 inline double ChiUpper(const double& df, const double& chi) {

@@ -57,7 +57,7 @@ void LoadCoefficients(const std::vector<std::string>& folders);
 // fault, but not for column 0, which is never filled; a sum beyond a double is
 // an overflow. A negative degree gives the empty sum 0.
 // Source: P. Royston (1995), algorithm AS R94, function poly, here with all powers written out.
-// Accuracy: 2.2E-16 of the largest term against exact fractions (column 5, degree 5, x = 2).
+// Accuracy, as a part of the value or of 1 where that is smaller, x from 0.01 to 11: 4.3E-15.
 double RoystonPoly(double x, int degree, int column);
 
 }  // namespace StatFWinBAS

@@ -10,10 +10,10 @@ namespace StatFWinBAS {
 // Source: M. Abramowitz and I.A. Stegun (1964), Handbook of Mathematical Functions, equations
 // 26.7.3 (df odd) and 26.7.4 (df even), as 0.5 less the finite sum; above df 30000 the normal
 // approximation 26.7.8.
-// Accuracy against arbitrary precision, for areas from 0.01: relative 1.7E-13 up to df 1001, 3E-12
-// up to 30000 (df 30000, t 1.38), 6.4E-9 above (df 30001, t 2.165; absolute 9.7E-11 there).
-// Smaller areas keep the absolute error of the difference from 0.5: 9E-15 up to df 1001, 2.5E-13 up
-// to 30000; so an area below about 1E-15 is noise, or 0.
+// Accuracy, absolute for every t: 2.7E-13 up to df 30000 (df 30000, t 1.4), growing with df;
+// 9.7E-11 above (df 30001, t 2.17). Relative for areas from 0.001: 1.4E-10 and 4.7E-08. Smaller
+// areas keep the absolute error of the difference from 0.5, so that one below about 1E-15 is noise,
+// or 0.
 double StudentUpper(double& df, double& t);
 
 // The deviate t with P(T > t) = p, so that a small p gives a large positive t.
@@ -26,10 +26,9 @@ double StudentUpper(double& df, double& t);
 // step leaves t as it was, or 100 steps are done. For odd df above 3 the slope lacks the factor
 // (df - 1) / (df - 2), so that the steps converge only linearly, alternating about the root, and
 // the stopping rule then shows in the answer.
-// Accuracy against arbitrary precision, relative, p from 0.025 to 0.975: df 1 and 2: 2E-14; df 3:
-// 7.7E-12 (p 0.025); even: 6.4E-12 (df 10, p 0.036); odd above 3: 5.3E-7 (df 5, p 0.0459); above
-// 1000: 6.1E-14. Out to 0.0001: 5.4E-12 (df 1), 2.8E-10 (df 3, p 0.00065), 3.9E-10 (even, df 4),
-// 1.7E-6 (odd, df 5), 1.9E-13 (above 1000), each but that of df 3 at the outermost p.
+// Accuracy, relative, p from 0.0001 to 0.995: df 1 and 2: 5.8E-12; df 3: 2.8E-10; even: 4.0E-10 (df
+// 4); odd above 3: 1.7E-06 (df 5); above 1000, p 0.001 and more from a half: 6.2E-13; each but that
+// of df 3 at the outermost p.
 // Steps: p from 0.001 to 0.999 in thousandths: at most 10 (df 5, p 0.499). Close to 0.5, where the
 // rule asks for more digits than there are, all 100, and the answer stands all the same.
 double StudentUpperInverse(double& p, double& df);
@@ -48,9 +47,8 @@ StudentDeviate StudentUpperInverseSearch(double& p, double& df);
 // Changes nothing: p and df are the same on return.
 // Source: M. Abramowitz and I.A. Stegun (1964), equation 26.7.5, held from coming nearer to the
 // centre than the normal deviate.
-// Accuracy against arbitrary precision, relative, p from 0.025 to 0.975: above df 1000: 6.1E-14;
-// from df 10: 3.6E-6 (df 10, p 0.025); below: 0.11 (df 1, p 0.025). Out to p 0.0001: 1.9E-13,
-// 5.7E-4 and 0.88.
+// Accuracy, relative, p from 0.0001 to 0.995, but 0.001 and more from a half: above df 1000:
+// 6.2E-13; from df 10: 5.8E-04 (df 10, p 0.0001); below: 8.8E-01 (df 1, p 0.0001).
 double StudentUpperInverseSeries(double& p, double& df);
 
 inline double StudentUpper(const double& df, const double& t) {

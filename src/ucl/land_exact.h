@@ -18,10 +18,10 @@ struct LandLimit {
 // Changes: `watch`.
 // Source: C.E. Land (1975), Selected Tables in Mathematical Statistics 3, 385-419; the factor is
 // found anew for each sample.
-// Accuracy of C against quadrature in arbitrary precision, as a fraction of C, or of s / sqrt(nu)
-// where C is smaller: nu from 6: 2.6E-6 (nu 99, s 6.9, confidence 99.75), from 3: 7.9E-7 (nu 5,
-// s 0.05, 95), nu 2: 1.2E-6 (s 0.4, 99.75): the stop of the search at 1E-5 decides. With nu 1 it is
-// the probability: 2E-3 (s 0.05, 99.75), 2E-4 at 95.
+// Accuracy for s from 0.05 to 6.9 and confidences from 0.95 to 99.75. The factor, as a part of it
+// or of 1 where it is smaller: nu from 3: 3.8E-06, nu 2: 4.3E-06: the stop of the search at 1E-5
+// decides. With nu 1 it is the probability: 2.0E-03. UCL itself, absolute: nu from 3: 1.1E-03, nu
+// 2: 9.8E-03 (s 6.9).
 LandLimit LandExactUCL(double lambda, double nu, double s, double mean, double confidence,
                        LandWatch& watch);
 

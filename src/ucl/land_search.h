@@ -18,9 +18,9 @@ namespace UCLBAS {
 // Source: bracketing secant method with a quadratic refinement and bisection where they fail, in
 // the manner of T.J. Dekker (1969) and R.P. Brent (1973), Algorithms for Minimization without
 // Derivatives, chapter 4.
-// Accuracy: the stop at 1E-5 decides; mostly far better, since the last step is of second order.
-// Against arbitrary precision, relative: 2.2E-6 for nu above 2 (nu 299, s 1, p 1E-6); with nu 2 and
-// 1 the errors of LandProbability show: 3.5E-4 (s 0.05, p 0.5, a root near 0) and 2E-4.
+// Accuracy: the stop at 1E-5 decides; mostly far better, since the last step is of second order. As
+// a part of C sqrt(nu) / s, or of 1 where that is smaller: 3.8E-06 for nu above 2, 4.3E-06 for nu
+// 2, and 2.0E-03 for nu 1, where the errors of LandProbability show.
 void LandRootSearch(double nu, double s, double& x1, double& x2, double& f1, double& f2, double p,
                     double& C, std::int16_t& status, LandWatch& watch);
 

@@ -40,8 +40,8 @@ struct LandResult {
 // `watch`. A fault in the search leaves UCL and PercEx as they were before the call and TestTag
 // empty, and goes on to the caller.
 // Source: C.E. Land (1975), see LandExactUCL.
-// Accuracy of A: half the last range, 5E-5, and what the trial limits' error makes of it; A cannot
-// come nearer to 0 or 100 than 2.4E-5 unless the start lies nearer.
+// Accuracy, percent: A 4.8E-05, half the last range and what the trial limits' error makes of it; A
+// cannot come nearer to 0 or 100 than 2.4E-5 unless the start lies nearer.
 LandResult LandCmb(ExposureSession& s, UCLBAS::LandWatch& watch);
 
 inline LandResult LandCmb(ExposureSession& s) {
