@@ -64,7 +64,7 @@ struct FractionSearch {
 // bisection from U on until the confidence is within 0.001 of D, or the search stands still.
 // Where it has met 50 percent, at which NoncentralTUpper returns the other tail, and then stood
 // still, it runs once more with the proportion next above a half in that place.
-// U and D 0.01 to 99.99. Accuracy: u is off by 5.8E-01 percent where D is near 0 or 100 and the
+// U and D 0.01 to 99.99. Accuracy: u is off by 1.1E+00 percent where D is near 0 or 100 and the
 // limit far from GM, by the stop of the search, and by 1.5E-01 above df 200.
 // Where the confidence of U is all (99.999999999) or nothing (1E-46), the text comes at once,
 // however far the fraction is from it. Ends after at most 320 evaluations.
