@@ -6,14 +6,16 @@
 #include <cmath>
 
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/shapiro.h"
 #include "analysis/transformations.h"
 #include "bench/raw_series.h"
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/sample_size.h"
 #include "session/global_bas.h"
-#include "ucl/mean_limit.h"
+#include "session/moments.h"
+#include "ucl/mean_on_record.h"
 
 namespace bench {
 namespace {
@@ -40,7 +42,7 @@ Calculation En689Far() {
 
 Calculation SampleSize() {
   ExposureSession start = Known(10, 2, 1);
-  start.TestTag = "Wi";
+  start.TestTag = Extrapolation::Wilks;
   return {"sample size search",
           [s = start]() mutable { benchmark::DoNotOptimize(compliance::OptimiseSampleSize(s)); }};
 }
@@ -48,13 +50,13 @@ Calculation SampleSize() {
 // Some twenty trial limits and the limit itself.
 Calculation Land(const char* name, double M, double GSD, double OELV) {
   ExposureSession start = Known(M, GSD, OELV);
-  ucl::MeanStatistics(start);
+  ucl::TakeMeanStatistics(start);
   return {Name(name, M), [s = start]() mutable { benchmark::DoNotOptimize(ucl::LandCmb(s)); }};
 }
 
 ExposureSession Series(int count) {
   ExposureSession s;
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   s.CR = "\r";
   s.SigDigits = 4;
   s.M = count;
@@ -111,7 +113,7 @@ Calculation Moments(int count) {
 
 ExposureSession Known(double M, double GSD, double OELV) {
   ExposureSession s;
-  s.Mode = "D";
+  s.Mode = DataMode::Statistics;
   s.CR = "\r";
   s.M = M;
   s.df = M - 1;

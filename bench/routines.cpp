@@ -5,6 +5,7 @@
 #include "bench/raw_series.h"
 #include "rawdata/raw_file.h"
 #include "session/exposure_session.h"
+#include "session/moments.h"
 #include "session/global_bas.h"
 #include "stats/coefficients.h"
 #include "stats/estimators.h"

@@ -7,29 +7,15 @@
 namespace analysis {
 namespace {
 
-constexpr int kNoValue = 4;  // InputState of a statistic that the sample does not give
-// Runs `calculation`; true when the sample gave no value. InputState is left as the calculation
-// left it: a code that stood there before stays unless there is a new one.
-template <typename Calculation>
-bool GaveNoValue(ExposureSession& session, Calculation calculation) {
-  const auto before = session.InputState;
-  session.InputState = 0;
-  calculation();
-  const bool none = session.InputState == kNoValue;
-  if (session.InputState == 0) session.InputState = before;
-  return none;
-}
-
-constexpr char kUnknown[] = "   unknown";
 constexpr int kSampleHelp = 101050;
 constexpr int kRegressionHelp = 101210;
 
 }  // namespace
 
-DescriptForm::DescriptForm(ExposureSession& record, navigation::Desk& programDesk,
+DescriptForm::DescriptForm(Record& sessionRecord, navigation::Desk& programDesk,
                            screen::Ports& formPorts)
-    : SessionForm("DescriptForm", navigation::ScreenId::Descript, "TabDescrip", record, programDesk,
-                  formPorts) {
+    : SessionForm("DescriptForm", navigation::ScreenId::Descript, "TabDescrip", sessionRecord,
+                  programDesk, formPorts) {
   for (screen::Control* control : controls)
     if (control->kind == screen::Kind::TextBox) control->locked = true;
 }
@@ -45,12 +31,14 @@ void DescriptForm::BasisDescStat() {
 void DescriptForm::Activate() {
   BasisDescStat();
   EnterOwnTab();
-  WindnrLbl.text = session.Mode == "R" ? "20a" : "20b";
+  WindnrLbl.text = session.Mode == DataMode::Raw ? "20a" : "20b";
   ShowIdentification();
-  ShowGeometric();
-  ShowMeans();
-  ShowDeviations();
-  if (session.DetecOn)
+  if (session.noEstimates)
+    ShowNothing();
+  else
+    ShowEstimators();
+  // Values that are tried on top of the sample have no range of their own.
+  if (session.DetecOn && !session.ModifyMode)
     ShowRange();
   else
     ShowNoRange();
@@ -67,34 +55,41 @@ void DescriptForm::ShowIdentification() {
     label->text = session.Unit;
 }
 
-void DescriptForm::ShowGeometric() {
+// The numbers stay in the record for who asks for them by name.
+void DescriptForm::ShowEstimators() {
+  const StatFWinBAS::Estimators found = StatFWinBAS::EstimatorsOf(session);
+  Computed& kept = record.Numbers();
   GMTxB.text = Shown(session.GM);
-  session.GMu = StatFWinBAS::GMUnbiased(session, session.GM, session.GSD);
-  GMuTxB.text = Shown(session.GMu);
+  GMuTxB.text = Shown(kept.GMu = found.GMu.value_or(0));
   GSDTxB.text = Shown(session.GSD);
-  session.LnGM = Log(session.GM);
-  session.LnGSD = Log(session.GSD);
+  kept.LnGM = found.LnGM;
+  kept.LnGSD = found.LnGSD;
+  AMmlTxb.text = Shown(kept.AMml = found.AMml);
+  AMuTxb.text = Shown(kept.AMu = found.AMu);
+  AMmvTxb.text = found.AMmv ? Shown(found.AMmv) : navigation::kUnknown;
+  if (found.AMmv) kept.AMmv = *found.AMmv;
+  SDUTxb.text = Shown(kept.SDu = found.SDu);
+  AmlinTxb.text = Shown(kept.XM = found.linear.XM);
+  SDlinTxb.text = found.linear.SDlin ? Shown(found.linear.SDlin) : navigation::kUnknown;
+  if (found.linear.SDlin) kept.SDlin = *found.linear.SDlin;
+  NoteState(found);
 }
 
-void DescriptForm::ShowMeans() {
-  session.AMml = Exp(session.LnGM + 0.5 * (session.LnGSD * session.LnGSD));
-  AMmlTxb.text = Shown(session.AMml);
-  session.AMu = StatFWinBAS::FinneyMeanMVU(session.df, session.GM, session.GSD);
-  AMuTxb.text = Shown(session.AMu);
-  if (session.df <= 3) {
-    AMmvTxb.text = kUnknown;
-    return;
-  }
-  session.AMmv = StatFWinBAS::FinneyMeanMMSE(session.df, session.GM, session.GSD);
-  AMmvTxb.text = Shown(session.AMmv);
+// The code that the last of the calculations leaves.
+void DescriptForm::NoteState(const StatFWinBAS::Estimators& found) {
+  constexpr double kLargeDeviation = 10000;
+  flow.InputState = found.GMu ? 0 : 1;
+  if (session.Mode != DataMode::Raw || session.DetecOn || session.ModifyMode) return;
+  if (!found.linear.SDlin)
+    flow.InputState = 4;
+  else if (*found.linear.SDlin >= kLargeDeviation)
+    flow.InputState = 5;
 }
 
-void DescriptForm::ShowDeviations() {
-  session.SDu = Sqrt(StatFWinBAS::FinneyVarianceMVU(session.df, session.GM, session.GSD));
-  SDUTxb.text = Shown(session.SDu);
-  const bool noSpread = GaveNoValue(session, [this] { StatFWinBAS::LinearMoments(session); });
-  AmlinTxb.text = Shown(session.XM);
-  SDlinTxb.text = noSpread ? kUnknown : Shown(session.SDlin);
+void DescriptForm::ShowNothing() {
+  for (screen::Control* box :
+       {&GMTxB, &GMuTxB, &GSDTxB, &AMmlTxb, &AMuTxb, &AMmvTxb, &SDUTxb, &AmlinTxb, &SDlinTxb})
+    box->text = navigation::kUnknown;
 }
 
 void DescriptForm::ShowNoRange() {
@@ -124,17 +119,13 @@ void DescriptForm::ShowRange() {
     ShowSampleWords();
 }
 
-// The record leaves the screen with the sample's GM and GSD, unless the user is trying others. What
-// is shown stays what stood in the record before.
 void DescriptForm::ShowSampleWords() {
   DescriptFrame.text = LoadResString(2000);
   DescriptFrame.tip = LoadResString(2001);
   DescriptFrame.helpContext = kSampleHelp;
   GMLbl.text = LoadResString(2006);
   GSDLbl.text = LoadResString(2008);
-  if (session.Mode != "R" || session.ModifyMode) return;
-  if (GaveNoValue(session, [this] { LogMoments(session, session.GM, session.GSD); }))
-    GSDTxB.text = kUnknown;
+  if (session.Mode == DataMode::Raw && !session.ModifyMode) record.Evaluate(session.inForce);
 }
 
 void DescriptForm::ShowRegressionWords() {

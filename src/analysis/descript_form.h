@@ -1,13 +1,14 @@
 #pragma once
 
 #include "navigation/session_form.h"
+#include "stats/estimators.h"
 
 namespace analysis {
 
 // The descriptive statistics screen: the estimators of the lognormal distribution of the sample.
 // All its fields are display-only.
 struct DescriptForm final : navigation::SessionForm {
-  DescriptForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  DescriptForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control IdentFrame{*this, screen::Kind::Frame, "IdentFrame"};
   screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
@@ -74,9 +75,9 @@ struct DescriptForm final : navigation::SessionForm {
 
  private:
   void ShowIdentification();
-  void ShowGeometric();
-  void ShowMeans();
-  void ShowDeviations();
+  void ShowEstimators();
+  void NoteState(const StatFWinBAS::Estimators& found);
+  void ShowNothing();
   void ShowNoRange();
   void ShowRange();
   void ShowSampleWords();

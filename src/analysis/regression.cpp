@@ -7,21 +7,22 @@
 #include "base/fault.h"
 #include "catalog/catalog.h"
 #include "session/global_bas.h"
-#include "stats/estimators.h"
 
 namespace analysis {
 namespace {
 
 constexpr int kLeastForLine = 2;
 constexpr int kLeastSample = 3;  // from here on there are rankits
+constexpr double kLeastGM = 1E-10;
+constexpr double kLargestGM = 1E+10;
 
 std::size_t At(int i) { return static_cast<std::size_t>(i); }
 
-void RequireSeries(const ExposureSession& s, const std::vector<double>& RankitTable) {
+void RequireSeries(const ExposureSession& s, const FitState& state) {
   const int M = SampleCount(s);
   const std::size_t count = At(M);
   const bool complete =
-      s.C.size() > count && s.LnC.size() > count && RankitTable.size() > count / 2;
+      s.C.size() > count && state.CTransf.size() > count && state.RankitTable.size() > count / 2;
   if (!complete || s.FirstInRange < 1 || s.LastInRange > M) fault::Throw(FaultKind::Subscript);
 }
 
@@ -41,15 +42,16 @@ std::string CensoringWord(const ExposureSession& s) {
 }
 
 // Whether a line can be laid at all.
-bool HasLine(const ExposureSession& s, const FitState& state) {
-  if (SampleCount(s) < kLeastSample || s.NInRange < kLeastForLine) return false;
-  RequireSeries(s, state.RankitTable);
-  const auto lowest = s.LnC.begin() + s.FirstInRange;
-  const auto behind = s.LnC.begin() + s.LastInRange + 1;
+bool HasLine(const ExposureSession& s, const FitState& state, int NInRange) {
+  if (SampleCount(s) < kLeastSample || NInRange < kLeastForLine) return false;
+  RequireSeries(s, state);
+  const auto lowest = state.CTransf.begin() + s.FirstInRange;
+  const auto behind = state.CTransf.begin() + s.LastInRange + 1;
   return std::any_of(lowest, behind, [&](double y) { return y != *lowest; });
 }
 
-void FitLine(Regression& fit, int N) {
+void SolveNormalEquations(Regression& fit) {
+  const int N = fit.NInRange;
   const RegressionSums& u = fit.sums;
   const double Ybar = u.SY / N;
   const double Xbar = u.SX / N;
@@ -75,32 +77,19 @@ void ReadEstimates(const ExposureSession& s, const FitState& state, Regression& 
                       (geometric ? "GSDg=" : "s=") + GlobalBAS::Shown(s, fit.scale);
 }
 
-ShapiroResult TestFit(ExposureSession& s, FitState& state) {
-  const int M = SampleCount(s);
-  const bool all = s.NInRange == M;
-  s.InputState = 0;
-  ShapiroResult test =
-      ShapiroWilk(s.LnC, M, all ? 1 : s.FirstInRange, all ? M : s.LastInRange, state.weights);
-  s.InputState = static_cast<std::int16_t>(test.fault);
-  return test;
+void OfferEstimators(const ExposureSession& s, const FitState& state, Regression& fit) {
+  if (!GivesEstimators(s, state)) return;
+  const bool usable =
+      fit.location >= kLeastGM && fit.location <= kLargestGM && GlobalBAS::InRangeGSD(fit.scale);
+  if (usable) fit.estimators = {fit.location, fit.scale};
+  fit.beyondNumbers = !usable;
 }
 
-void UpdateRecord(ExposureSession& s, const FitState& state, const Regression& fit) {
-  const bool geometric = GivesEstimators(s, state);
-  if (geometric) {
-    s.GM = fit.location;
-    s.GSD = fit.scale;
-  } else {
-    // By the df that holds until now: the first drawing after a range has gone still has its df.
-    LogMoments(s, s.GM, s.GSD);
-    s.RegressionOn = false;
-  }
-  DegreesOfFreedom(s);
-  // Its value is dropped here; a fault of it ends the update all the same.
-  StatFWinBAS::FinneyMeanMVU(s.df, s.GM, s.GSD);
-  s.GMu = StatFWinBAS::GMUnbiased(s, s.GM, s.GSD);
-  s.SDu = StatFWinBAS::FinneyVarianceMVU(s.df, s.GM, s.GSD);
-  s.RegressionOn = geometric;
+ShapiroResult TestFit(const ExposureSession& s, FitState& state, int NInRange) {
+  const int M = SampleCount(s);
+  const bool all = NInRange == M;
+  return ShapiroWilk(state.CTransf, M, all ? 1 : s.FirstInRange, all ? M : s.LastInRange,
+                     state.weights);
 }
 
 // Four decimals of W, cut off, as its general text has them.
@@ -122,40 +111,39 @@ std::string FourDecimals(double W) {
 
 }  // namespace
 
-RegressionSums SumsOverRange(const ExposureSession& s, const std::vector<double>& RankitTable) {
-  RequireSeries(s, RankitTable);
+RegressionSums SumsOverRange(const ExposureSession& s, const FitState& state) {
+  RequireSeries(s, state);
+  const std::vector<double>& y = state.CTransf;
+  const std::vector<double>& R = state.RankitTable;
   const int M = SampleCount(s);
   RegressionSums sums;
   for (int i = s.FirstInRange; i <= std::min<int>(s.LastInRange, M / 2); ++i)
-    AddPoint(sums, -RankitTable[At(i)], s.LnC[At(i)], s.C[At(i)]);
+    AddPoint(sums, -R[At(i)], y[At(i)], s.C[At(i)]);
   const int middle = M / 2 + 1;
   if (M % 2 == 1 && s.FirstInRange <= middle && s.LastInRange >= middle) {
-    sums.SY = Checked(sums.SY + s.LnC[At(middle)]);
+    sums.SY = Checked(sums.SY + y[At(middle)]);
     sums.SX = Checked(sums.SX + s.C[At(middle)]);
   }
   for (int i = std::max<int>(s.FirstInRange, (M + 3) / 2); i <= s.LastInRange; ++i)
-    AddPoint(sums, RankitTable[At(M + 1 - i)], s.LnC[At(i)], s.C[At(i)]);
+    AddPoint(sums, R[At(M + 1 - i)], y[At(i)], s.C[At(i)]);
   return sums;
 }
 
-Regression ProbabilityRegression(ExposureSession& s, FitState& state) {
+Regression FitLine(const ExposureSession& s, FitState& state) {
   Regression fit;
-  s.NInRange = static_cast<std::int16_t>(s.LastInRange - s.FirstInRange + 1);
-  s.MsgText.clear();
-  s.RegressionLabel = CensoringWord(s) + " " + LoadResString(1758);
-  fit.line = HasLine(s, state);
+  fit.NInRange = static_cast<std::int16_t>(s.LastInRange - s.FirstInRange + 1);
+  fit.RegressionLabel = CensoringWord(s) + " " + LoadResString(1758);
+  fit.line = HasLine(s, state, fit.NInRange);
   if (fit.line) {
-    fit.sums = SumsOverRange(s, state.RankitTable);
-    FitLine(fit, s.NInRange);
+    fit.sums = SumsOverRange(s, state);
+    SolveNormalEquations(fit);
     ReadEstimates(s, state, fit);
-    fit.test = TestFit(s, state);
+    OfferEstimators(s, state, fit);
+    fit.test = TestFit(s, state, fit.NInRange);
+    fit.yLow = Checked(fit.a - fit.b * state.RankitTable[1]);
+    fit.yHigh = Checked(fit.a + fit.b * state.RankitTable[1]);
   }
   fit.TestText = ShapiroText(s, fit.test);
-  s.MsgText = fit.TestText;
-  if (!fit.line) return fit;
-  fit.yLow = Checked(fit.a - fit.b * state.RankitTable[1]);
-  fit.yHigh = Checked(fit.a + fit.b * state.RankitTable[1]);
-  UpdateRecord(s, state, fit);
   return fit;
 }
 
@@ -168,8 +156,8 @@ std::string ShapiroText(const ExposureSession& s, const ShapiroResult& test) {
          "A(W)=" + GlobalBAS::ShownTrimmed(s, Checked(100 * test.PW)) + "%" + s.CR;
 }
 
-bool CheckVariability(ExposureSession& s) {
-  if (s.M == 2 || s.DetecOn) return false;
+std::string VariabilityComplaint(const Given& s) {
+  if (s.M == 2 || s.DetecOn) return {};
   const int M = SampleCount(s);
   if (s.FirstInRange < 1 || s.LastInRange < 1 || s.FirstInRange > M || s.LastInRange > M ||
       s.C.size() <= At(M))
@@ -178,14 +166,8 @@ bool CheckVariability(ExposureSession& s) {
   const double CL = s.C[At(s.LastInRange)];
   const double r = std::abs(Divide(2 * (CL - CF), CF + CL));
   const double q = Divide(CL, CF);
-  if (r >= 1E-10 && q < 1E10) return false;
-  s.MsgText = LoadResString(1712) + LoadResString(q < 1E10 ? 1714 : 1713) + LoadResString(1715);
-  s.URR = Checked(1.05 * s.C[At(M)]);
-  s.LOQ = Checked(0.95 * s.C[1]);
-  s.FirstInRange = 1;
-  s.LastInRange = static_cast<std::int16_t>(M);
-  s.NInRange = static_cast<std::int16_t>(M);
-  return true;
+  if (r >= 1E-10 && q < 1E10) return {};
+  return LoadResString(1712) + LoadResString(q < 1E10 ? 1714 : 1713) + LoadResString(1715);
 }
 
 }  // namespace analysis

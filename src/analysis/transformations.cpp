@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
 #include "base/fault.h"
-#include "catalog/catalog.h"
 
 namespace analysis {
 namespace {
@@ -39,19 +37,12 @@ const Formula* FormulaOf(std::string_view name) {
   return found == kFormulas.end() ? nullptr : found;
 }
 
-bool Refuse(ExposureSession& s, int first, int second) {
-  s.MsgText = LoadResString(first) + s.CR + LoadResString(second);
-  s.MsgTitle = LoadResString(1732);
-  return false;
-}
-
-// C(1) and C(M) must be there. The limits are those of the method: 1 itself counts as less than
-// unity, 44 itself is accepted.
-bool Allowed(ExposureSession& s, std::string_view letters) {
-  const auto M = static_cast<std::size_t>(SampleCount(s));
-  if (letters == "Lg(" && s.C[1] <= 1) return Refuse(s, 1730, 1731);
-  if (letters == "Exp" && s.C[M] > kLargestExponent) return Refuse(s, 1733, 1734);
-  return true;
+// Why the outcomes do not fit a scale. C(1) and C(M) must be there. The limits are those of the
+// method: 1 itself counts as less than unity, 44 itself is accepted.
+std::array<int, 2> Refusal(const std::vector<double>& C, int M, std::string_view letters) {
+  if (letters == "Lg(" && C[1] <= 1) return {1730, 1731};
+  if (letters == "Exp" && C[static_cast<std::size_t>(M)] > kLargestExponent) return {1733, 1734};
+  return {};
 }
 
 }  // namespace
@@ -66,18 +57,18 @@ double InverseTransform(std::string_view name, double y) {
   return formula == nullptr ? 0 : Checked(formula->back(y));
 }
 
-bool FillCTransf(ExposureSession& s, std::string_view name) {
-  const auto M = static_cast<std::size_t>(SampleCount(s));
-  if (M < 1 || s.C.size() <= M) fault::Throw(FaultKind::Subscript);
+TransformedSeries Transformed(const std::vector<double>& C, int M, std::string_view name) {
+  const auto size = static_cast<std::size_t>(M);
+  if (M < 1 || C.size() <= size) fault::Throw(FaultKind::Subscript);
   const std::string_view letters = name.substr(0, 3);
-  if (!Allowed(s, letters)) return false;
-  std::vector<double> CTransf = s.LnC;
-  if (CTransf.size() <= M) CTransf.resize(M + 1);
+  TransformedSeries out;
+  out.refusal = Refusal(C, M, letters);
+  if (out.refusal[0] != 0) return out;
+  out.CTransf.resize(size + 1);
   const bool reversed = letters == "1/x";
-  for (std::size_t i = reversed ? 1 : 0; i <= M; ++i)
-    CTransf[i] = TransformValue(name, s.C[reversed ? M + 1 - i : i]);
-  s.LnC = std::move(CTransf);
-  return true;
+  for (std::size_t i = reversed ? 1 : 0; i <= size; ++i)
+    out.CTransf[i] = TransformValue(name, C[reversed ? size + 1 - i : i]);
+  return out;
 }
 
 }  // namespace analysis

@@ -3,8 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
-
-#include "session/exposure_session.h"
+#include <vector>
 
 // The scales on which a series can be laid against its rankits. The first three letters of a
 // transformation's name choose its formula.
@@ -39,13 +38,19 @@ double TransformValue(std::string_view name, double x);
 // Accuracy, relative: 1.4E-16; of exp exp y, y to 6, 2.9E-14.
 double InverseTransform(std::string_view name, double y);
 
-// Fills CTransf, which shares its store with LnC of the record, with the outcomes C(0) to C(M) on
-// the scale `name`, in ascending order. The reciprocal turns the order round and leaves element 0
-// as it was.
-// Returns false, with the reason in MsgText and MsgTitle and CTransf as it was, for a double
-// logarithm of outcomes from 1 downward and for an exponential of outcomes above 44.
-// Faults as those of TransformValue, with CTransf as it was; a series shorter than M is a subscript
-// fault.
-bool FillCTransf(ExposureSession& s, std::string_view name);
+// A series on a scale, or why it does not fit there.
+struct TransformedSeries {
+  std::vector<double> CTransf;   // empty where it does not fit
+  std::array<int, 2> refusal{};  // catalogue rows of the two lines that say why; 0 where it fits
+};
+
+// The title of a refusal (catalogue row).
+inline constexpr int kInvalidTransformation = 1732;
+
+// The outcomes C(0) to C(M) on the scale `name`, in ascending order. The reciprocal turns the order
+// round and has no element 0.
+// Refused: a double logarithm of outcomes from 1 downward, an exponential of outcomes above 44.
+// Faults as those of TransformValue; a series shorter than M is a subscript fault.
+TransformedSeries Transformed(const std::vector<double>& C, int M, std::string_view name);
 
 }  // namespace analysis

@@ -6,12 +6,12 @@
 // results in two_samp_results.cpp.
 namespace compare {
 
-TwoSampCompForm::TwoSampCompForm(ExposureSession& record, navigation::Desk& programDesk,
+TwoSampCompForm::TwoSampCompForm(Record& sessionRecord, navigation::Desk& programDesk,
                                  screen::Ports& formPorts)
-    : SessionForm("TwoSampCompForm", navigation::ScreenId::TwoSamp, "TabTwoSamp", record,
+    : SessionForm("TwoSampCompForm", navigation::ScreenId::TwoSamp, "TabTwoSamp", sessionRecord,
                   programDesk, formPorts) {
-  SampOpt.Click = [this] { ChooseKind("S", "29a"); };
-  PopOpt.Click = [this] { ChooseKind("P", "30a"); };
+  SampOpt.Click = [this] { ChooseKind(ReferenceKind::Sample, "29a"); };
+  PopOpt.Click = [this] { ChooseKind(ReferenceKind::Population, "30a"); };
   CalcCmb.Click = [this] { CalcCmb_Click(); };
   WireReference(sampleSize_, SampSiz2_UpD);
   WireReference(location_, GM2_UpD);
@@ -55,8 +55,8 @@ void TwoSampCompForm::ShowCurrent() {
   GSDLbl.text = regression ? navigation::RegressionWords(session, "GSDg") : LoadResString(2008);
   NameTxB.text = session.Name;
   SampSizTxB.text = Shown(session.M);
-  GMTxB.text = Shown(session.GM);
-  GSDTxB.text = Shown(session.GSD);
+  GMTxB.text = ShownEstimate(session.GM);
+  GSDTxB.text = ShownEstimate(session.GSD);
   RefDurLbl.text =
       session.Duration.empty() ? std::string() : LoadResString(364) + "  " + session.Duration;
   for (screen::Control* unit : {&DimLbl, &DimLbl2, &DimLbl3}) unit->text = session.Unit;
@@ -66,7 +66,7 @@ void TwoSampCompForm::StartCompare() {
   DropResults();
   CalcCmb.Show();
   BoodschFrame.Hide();
-  if (session.CompareMode.empty() && !AskForReference()) return;
+  if (session.CompareMode == ReferenceKind::None && !AskForReference()) return;
   ShowReference();
   FillReference();
 }
@@ -79,7 +79,7 @@ bool TwoSampCompForm::AskForReference() {
   const Message question{LoadResString(2820), LoadResString(2818), Icon::Question, Buttons::YesNo,
                          screen::Answer::Yes};
   if (ports.messageBox.Show(question) != screen::Answer::Yes) return false;
-  session.CompareMode = "S";
+  record.Change([](Given& given) { given.CompareMode = ReferenceKind::Sample; });
   CalcCmb.Show();
   return true;
 }
@@ -90,7 +90,7 @@ void TwoSampCompForm::ShowReference() {
   PopSampFrame.Show();
   DescrSecond.Show();
   ShowKind();
-  const bool sample = session.CompareMode == "S";
+  const bool sample = session.CompareMode == ReferenceKind::Sample;
   DescrInfFrm.visible = sample;
   PooledFrm.visible = sample;
   ShowVariances();
@@ -98,28 +98,30 @@ void TwoSampCompForm::ShowReference() {
 
 // A value that was never entered starts as that of the current data.
 void TwoSampCompForm::FillReference() {
-  if (session.M2 == 0) session.M2 = session.M;
-  if (session.df2 == 0) session.df2 = session.df;
-  if (session.GM2 == 0) session.GM2 = session.GM;
-  if (session.GSD2 == 0) session.GSD2 = session.GSD;
+  record.Change([this](Given& given) {
+    if (given.M2 == 0) given.M2 = session.M;
+    if (given.GM2 == 0) given.GM2 = session.GM;
+    if (given.GSD2 == 0) given.GSD2 = session.GSD;
+  });
+  if (session.df2 == 0) record.Numbers().df2 = session.df;
   for (const Reference* reference : {&sampleSize_, &location_, &dispersion_}) {
-    reference->box.text = ShownTrimmed(reference->value);
+    reference->box.text = ShownTrimmed(ValueOf(*reference));
     reference->box.touched = false;
   }
   ClearResults();
   OfferCalculation();
 }
 
-void TwoSampCompForm::ChooseKind(const char* mode, const char* window) {
+void TwoSampCompForm::ChooseKind(ReferenceKind kind, const char* window) {
   WindnrLbl.text = window;
-  session.CompareMode = mode;
+  record.Change([kind](Given& given) { given.CompareMode = kind; });
   ShowKind();
   DropResults();
   OfferCalculation();
 }
 
 void TwoSampCompForm::ShowKind() {
-  const bool sample = session.CompareMode == "S";
+  const bool sample = session.CompareMode == ReferenceKind::Sample;
   SampOpt.ticked = sample;
   PopOpt.ticked = !sample;
   for (screen::Control* control : {&GSDEqualFrm, &SampSizLbl2, &SampSizTxB2, &SampSiz2_UpD})

@@ -9,7 +9,7 @@ namespace compare {
 // The comparison screen: the current GM and GSD against those of a reference sample, or of a
 // population whose parameters are known.
 struct TwoSampCompForm final : navigation::SessionForm {
-  TwoSampCompForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  TwoSampCompForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control MenuPrint{*this, screen::Kind::Menu, "MenuPrint"};
 
@@ -87,8 +87,8 @@ struct TwoSampCompForm final : navigation::SessionForm {
   // A box for a reference value, with its field of the record.
   struct Reference {
     screen::Control& box;
-    double& value;
-    void (*check)(ExposureSession&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&);
+    double Given::*field;
+    void (*check)(Workflow&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&);
     bool (*inRange)(double);
     ReferenceStep (*step)(double, int);
   };
@@ -100,7 +100,8 @@ struct TwoSampCompForm final : navigation::SessionForm {
   bool AskForReference();
   void ShowReference();
   void FillReference();
-  void ChooseKind(const char* mode, const char* window);
+  void ChooseKind(ReferenceKind kind, const char* window);
+  double ValueOf(const Reference& reference) const { return session.*reference.field; }
   // The controls and captions of the kind that is chosen.
   void ShowKind();
   void ShowSampleWords();
@@ -119,15 +120,16 @@ struct TwoSampCompForm final : navigation::SessionForm {
   // No result stands beside an input that has changed since.
   void DropResults();
   void ClearResults();
+  // The results that the record holds for the present state; empty boxes without.
+  void ShowResults();
   Answer AskOnVariances(double A);
 
-  Reference sampleSize_{SampSizTxB2, session.M2, GlobalBAS::CheckMRef, GlobalBAS::InRangeMRef,
+  Reference sampleSize_{SampSizTxB2, &Given::M2, GlobalBAS::CheckMRef, GlobalBAS::InRangeMRef,
                         StepM2};
-  Reference location_{GMTxB2, session.GM2, GlobalBAS::CheckGM, GlobalBAS::InRangeGM, StepGM2};
-  Reference dispersion_{GSDTxB2, session.GSD2, GlobalBAS::CheckGSD, GlobalBAS::InRangeGSD,
+  Reference location_{GMTxB2, &Given::GM2, GlobalBAS::CheckGM, GlobalBAS::InRangeGM, StepGM2};
+  Reference dispersion_{GSDTxB2, &Given::GSD2, GlobalBAS::CheckGSD, GlobalBAS::InRangeGSD,
                         StepGSD2};
-  bool refused_ = false;   // the last box that was left had its text refused
-  bool standing_ = false;  // the results shown are those of the values shown
+  bool refused_ = false;  // the last box that was left had its text refused
 };
 
 }  // namespace compare

@@ -25,10 +25,12 @@ bool TwoSampCompForm::Accept(Reference& reference) {
   const bool typed = box.touched;
   const bool empty = GlobalBAS::Trim(box.text).empty();
   const bool noEntry = empty && &box == &SampSizTxB2;
-  reference.check(session, EntryOf(box), reference.value, Notifier());
+  double value = ValueOf(reference);
+  reference.check(flow, EntryOf(box), value, Notifier());
+  record.Change([&](Given& given) { given.*reference.field = value; });
   refused_ = !noEntry && session.InputState != 0;
   box.touched = false;
-  box.text = ShownTrimmed(reference.value);
+  box.text = ShownTrimmed(ValueOf(reference));
   if (refused_ && typed) SetFocus(box);
   if (FirstOutOfRange()) CalcCmb.Hide();
   return !noEntry && !refused_;
@@ -38,14 +40,14 @@ bool TwoSampCompForm::Accept(Reference& reference) {
 void TwoSampCompForm::AcceptAndInfer(Reference& reference, bool always) {
   const bool typed = reference.box.touched;
   if (!Accept(reference) || FirstOutOfRange()) return;
-  if (always || typed || !standing_) Inference();
+  if (always || typed || !record.Comparison()) Inference();
 }
 
 TwoSampCompForm::Reference* TwoSampCompForm::FirstOutOfRange() {
-  const bool sample = session.CompareMode == "S";
+  const bool sample = session.CompareMode == ReferenceKind::Sample;
   for (Reference* reference : {&sampleSize_, &location_, &dispersion_}) {
     if (reference == &sampleSize_ && !sample) continue;
-    if (!reference->inRange(reference->value)) return reference;
+    if (!reference->inRange(ValueOf(*reference))) return reference;
   }
   return nullptr;
 }
@@ -54,10 +56,10 @@ TwoSampCompForm::Reference* TwoSampCompForm::FirstOutOfRange() {
 void TwoSampCompForm::Step(Reference& reference, int direction) {
   screen::Control& box = reference.box;
   if (box.touched || &box == &SampSizTxB2) Accept(reference);
-  const ReferenceStep step = reference.step(reference.value, direction);
-  reference.value = step.value;
-  if (step.text) session.MsgText = LoadResString(step.text);
-  box.text = ShownTrimmed(reference.value);
+  const ReferenceStep step = reference.step(ValueOf(reference), direction);
+  record.Change([&](Given& given) { given.*reference.field = step.value; });
+  if (step.text) flow.MsgText = LoadResString(step.text);
+  box.text = ShownTrimmed(ValueOf(reference));
   DropResults();
   OfferCalculation();
 }

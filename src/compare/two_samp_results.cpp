@@ -13,29 +13,29 @@ constexpr char kNothing[] = "      ";
 }  // namespace
 
 void TwoSampCompForm::WireVariances() {
-  auto wire = [this](screen::Control& option, const char* choice) {
+  auto wire = [this](screen::Control& option, VarianceChoice choice) {
     option.Click = [this, choice] {
-      session.GSDChoice = choice;
+      record.Change([choice](Given& given) { given.GSDChoice = choice; });
       ShowVariances();
       // The test on the dispersions does not depend on the choice and helps to make it.
       GMInfTxb.text = kNothing;
       PooledFrm.Hide();
       MenuPrint.Hide();
-      standing_ = false;
       OfferCalculation();
     };
   };
-  wire(EqualOpt, "Y");
-  wire(DifferOpt, "N");
+  wire(EqualOpt, VarianceChoice::Pooled);
+  wire(DifferOpt, VarianceChoice::Separate);
 }
 
 void TwoSampCompForm::ShowVariances() {
-  auto show = [this](screen::Control& option, const char* byOption, const char* byCancel) {
+  using enum VarianceChoice;
+  auto show = [this](screen::Control& option, VarianceChoice byOption, VarianceChoice byCancel) {
     option.ticked = session.GSDChoice == byOption || session.GSDChoice == byCancel;
     option.colour = option.ticked ? std::optional(kChosen) : std::nullopt;
   };
-  show(EqualOpt, "Y", "P");
-  show(DifferOpt, "N", "A");
+  show(EqualOpt, Pooled, PooledByProbability);
+  show(DifferOpt, Separate, SeparateByProbability);
 }
 
 void TwoSampCompForm::CalcCmb_Click() {
@@ -54,20 +54,31 @@ void TwoSampCompForm::Inference() {
   ClearResults();
   ShowReference();
   DescrInfFrm.Show();
-  const InferenceResult result =
-      compare::Inference(session, [this](double A) { return AskOnVariances(A); });
-  if (!result.done) return;
-  GSDInfTxb.text = Shown(result.dispersion.A);
-  GMInfTxb.text = Shown(result.location.A);
-  if (result.combined) {
-    SampSizLbl3.text = LoadResString(result.location.caption);
-    SampSizTxb3.text = Shown(result.location.v);
-    GMTxb3.text = Shown(result.both.GM);
-    GSDTxb3.text = Shown(result.both.GSD);
+  const ComparisonBasis basis = ComparisonBasisOf(session);
+  const InferenceResult found =
+      compare::Inference(basis, [this](double A) { return AskOnVariances(A); });
+  if (!found.done) return;
+  if (found.combined) record.Change([&found](Given& given) { given.GSDChoice = found.GSDChoice; });
+  record.Numbers().df2 = basis.M2 - 1;
+  record.Keep(ComparisonResult{found.dispersion.A, found.location.A, found.combined,
+                               found.location.caption, found.location.v, found.both.GM,
+                               found.both.GSD});
+  ShowResults();
+}
+
+void TwoSampCompForm::ShowResults() {
+  const ComparisonResult* result = record.Comparison();
+  if (!result) return;
+  GSDInfTxb.text = Shown(result->dispersionA);
+  GMInfTxb.text = Shown(result->locationA);
+  if (result->combined) {
+    SampSizLbl3.text = LoadResString(result->degreesCaption);
+    SampSizTxb3.text = Shown(result->degrees);
+    GMTxb3.text = Shown(result->GM);
+    GSDTxb3.text = Shown(result->GSD);
     ShowVariances();
   }
   MenuPrint.Show();
-  standing_ = true;
 }
 
 // Asked over the screen that shows A. The record holds the answer once this has returned.
@@ -90,11 +101,9 @@ void TwoSampCompForm::DropResults() {
   DescrInfFrm.Hide();
   PooledFrm.Hide();
   MenuPrint.Hide();
-  standing_ = false;
 }
 
 void TwoSampCompForm::ClearResults() {
-  standing_ = false;
   GSDInfTxb.text = kNothing;
   GMInfTxb.text = kNothing;
   for (screen::Control* box : {&SampSizTxb3, &GMTxb3, &GSDTxb3}) box->text.clear();

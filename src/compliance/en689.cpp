@@ -17,14 +17,14 @@ constexpr double kHalf = 0.5;
 
 bool Met(double ConfNow, double D) { return std::abs(ConfNow - D) < kCloseEnough; }
 
-void Tell(const En689Progress& progress, En689Box box, double value) {
+void Tell(const En689Progress& progress, TestBox box, double value) {
   if (progress) progress(box, value);
 }
 
 // The search for the tolerance limit: its candidate is UTL.
 class LimitSearch {
  public:
-  LimitSearch(const ExposureSession& s, const En689Progress& progress)
+  LimitSearch(const TestBasis& s, const En689Progress& progress)
       : s_(s), progress_(progress), lnGSD_(Log(s.GSD)) {}
 
   ToleranceSearch Run() {
@@ -51,7 +51,7 @@ class LimitSearch {
       ++steps_;
       now_.above1E300 = now_.UTL > kLargestLimit;
       if (now_.above1E300) return false;
-      Tell(progress_, En689Box::ToleranceLimit, now_.UTL);
+      Tell(progress_, TestBox::ToleranceLimit, now_.UTL);
       if (now_.ConfNow > s_.D) return true;
       if (Met(now_.ConfNow, s_.D)) return false;
       SkipAhead();
@@ -102,7 +102,7 @@ class LimitSearch {
         now_.UTL = (now_.UTL + now_.LowBound) / 2;
       }
       now_.ConfNow = Confidence(now_.UTL);
-      if (now_.UTL <= kLargestLimit) Tell(progress_, En689Box::ToleranceLimit, now_.UTL);
+      if (now_.UTL <= kLargestLimit) Tell(progress_, TestBox::ToleranceLimit, now_.UTL);
     } while (!Met(now_.ConfNow, s_.D) && !StandsStill(before));
   }
 
@@ -111,7 +111,7 @@ class LimitSearch {
            now_.HighBound == before.HighBound;
   }
 
-  const ExposureSession& s_;
+  const TestBasis& s_;
   const En689Progress& progress_;
   double lnGSD_;
   int steps_ = 0;
@@ -122,7 +122,7 @@ class LimitSearch {
 // in for a half.
 class FractionRun {
  public:
-  FractionRun(const ExposureSession& s, double Ur, const En689Progress& progress, bool aboveHalf)
+  FractionRun(const TestBasis& s, double Ur, const En689Progress& progress, bool aboveHalf)
       : s_(s), Ur_(Ur), progress_(progress), aboveHalf_(aboveHalf) {}
 
   FractionSearch Run() {
@@ -168,7 +168,7 @@ class FractionRun {
         now_.text = now_.u > 50 ? kFractionAll : kFractionNone;
         return;
       }
-      Tell(progress_, En689Box::Fraction, now_.u);
+      Tell(progress_, TestBox::Fraction, now_.u);
       if (met) return;
     }
   }
@@ -190,7 +190,7 @@ class FractionRun {
            now_.HighBound == before.HighBound;
   }
 
-  const ExposureSession& s_;
+  const TestBasis& s_;
   double Ur_;
   const En689Progress& progress_;
   bool aboveHalf_;
@@ -206,11 +206,11 @@ double En689ConfidenceAt(double df, double u, double r) {
   return Checked(StatFWinBAS::NoncentralTUpper(double{df}, double{p}, double{r}) * 100);
 }
 
-ToleranceSearch En689ToleranceLimit(const ExposureSession& s, const En689Progress& progress) {
+ToleranceSearch En689ToleranceLimit(const TestBasis& s, const En689Progress& progress) {
   return LimitSearch(s, progress).Run();
 }
 
-FractionSearch En689Fraction(const ExposureSession& s, double Ur, const En689Progress& progress) {
+FractionSearch En689Fraction(const TestBasis& s, double Ur, const En689Progress& progress) {
   FractionRun first(s, Ur, progress, false);
   const FractionSearch found = first.Run();
   if (!first.StoodStillAtHalf()) return found;
@@ -222,28 +222,14 @@ FractionSearch En689Fraction(const ExposureSession& s, double Ur, const En689Pro
 
 bool En689Decides(double df) { return df > kDecisionAbove; }
 
-std::optional<bool> En689Complies(const ExposureSession& s) {
-  if (!En689Decides(s.df)) return std::nullopt;
-  return s.UTL < s.OELV.value_or(0);
-}
-
-bool CoverageTooLow(ExposureSession& s) {
-  if (s.U > 50) return false;
-  s.MsgText = "Desired population Coverage U% in Tab Limits must be more than 50%";
-  return true;
-}
-
-En689Result En689Test(ExposureSession& s, double Ur, const En689Progress& progress) {
-  s.TestTag = "Tu";
-  En689Result result;
-  if (!CoverageTooLow(s)) {
-    s.PercEx = En689ConfidenceAt(s.df, s.U, Ur);
-    result.limit = En689ToleranceLimit(s, progress);
-    s.UTL = result.limit->UTL;
+En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress) {
+  En689Result found;
+  if (!CoverageTooLow(basis)) {
+    found.PercEx = En689ConfidenceAt(basis.df, basis.U, Ur);
+    found.limit = En689ToleranceLimit(basis, progress);
   }
-  result.fraction = En689Fraction(s, Ur, progress);
-  result.compliance = En689Complies(s);
-  return result;
+  found.fraction = En689Fraction(basis, Ur, progress);
+  return found;
 }
 
 }  // namespace compliance

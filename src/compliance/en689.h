@@ -3,7 +3,7 @@
 #include <functional>
 #include <optional>
 
-#include "session/exposure_session.h"
+#include "compliance/compliance_tests.h"
 
 // The compliance test of EN 689, Annex F: by the noncentral Student distribution it finds the
 // confidence that less than 100 - U percent of the exposures exceeds the limit value, the upper
@@ -16,12 +16,7 @@ inline constexpr const char* kLimitAbove1E300 = "    >1.00E+300";
 inline constexpr const char* kFractionAll = "   100        ";
 inline constexpr const char* kFractionNone = "    <1.0E-46  ";
 
-// Title (catalogue row) of the message on a coverage of 50 percent or less.
-inline constexpr int kCoverageTitle = 2120;
-
-// Which box a search shows its candidate in.
-enum class En689Box { ToleranceLimit, Fraction };
-using En689Progress = std::function<void(En689Box box, double value)>;
+using En689Progress = std::function<void(TestBox box, double value)>;
 
 // The confidence in percent that the sample's mean plus r of its standard deviations lies above the
 // quantile u (in percent) of the population. u = 50 gives the other tail, by the house rule of
@@ -48,7 +43,7 @@ struct ToleranceSearch {
 // 0.01, where 0.001 percent of confidence is that much), above df 200 by 7.9E-03.
 // Ends after at most 3,500 evaluations, most of them far below GM for a D near 0 at df 1; 50 are
 // many otherwise.
-ToleranceSearch En689ToleranceLimit(const ExposureSession& s, const En689Progress& progress = {});
+ToleranceSearch En689ToleranceLimit(const TestBasis& basis, const En689Progress& progress = {});
 
 struct FractionSearch {
   double u = 0;        // percent of the population below the limit value
@@ -68,29 +63,23 @@ struct FractionSearch {
 // limit far from GM, by the stop of the search, and by 1.5E-01 above df 200.
 // Where the confidence of U is all (99.999999999) or nothing (1E-46), the text comes at once,
 // however far the fraction is from it. Ends after at most 320 evaluations.
-FractionSearch En689Fraction(const ExposureSession& s, double Ur,
-                             const En689Progress& progress = {});
+FractionSearch En689Fraction(const TestBasis& basis, double Ur, const En689Progress& progress = {});
 
 // Whether the test decides at all: with df up to 4 it does not.
 bool En689Decides(double df);
 
-// The verdict: whether the tolerance limit lies below the limit value. None where the test does not
-// decide.
-std::optional<bool> En689Complies(const ExposureSession& s);
-
-// Whether U is 50 percent or less, for which there is no tolerance limit; then stores the message
-// in MsgText.
-bool CoverageTooLow(ExposureSession& s);
-
 struct En689Result {
-  std::optional<ToleranceSearch> limit;  // absent with U up to 50: PercEx and UTL stay
+  double PercEx = 0;                     // the confidence in percent; only with a limit
+  std::optional<ToleranceSearch> limit;  // absent with U up to 50
   FractionSearch fraction;
-  std::optional<bool> compliance;  // absent with df up to 4
 };
 
-// The whole test on the record's GM, GSD, OELV, U, D and df. Writes TestTag "Tu", PercEx (the
-// confidence in percent) and UTL. With U up to 50 the last two stay as they were, MsgText says why,
-// and the verdict is on the old UTL.
-En689Result En689Test(ExposureSession& s, double Ur, const En689Progress& progress = {});
+En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress = {});
+
+// The whole test. With U up to 50 there is no confidence and no tolerance limit; the verdict is
+// then on the standing one, and a sentence says so; where none stands nothing is decided.
+TestResult En689Test(const TestBasis& basis, const TestRun& how = {});
+
+extern const ComplianceTest kEn689;
 
 }  // namespace compliance

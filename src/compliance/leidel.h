@@ -1,5 +1,7 @@
 #pragma once
 
+#include "compliance/compliance_tests.h"
+
 // The maximum likelihood compliance test: the sample's GM and GSD are taken as the population's.
 namespace compliance {
 
@@ -17,5 +19,10 @@ double LeidelDeviate(double U);
 
 // Upper tolerance limit GM * GSD ^ deviate, in the unit of GM. Faults beyond a double.
 double LeidelToleranceLimit(double GM, double GSD, double deviate);
+
+// The whole test: exceedance, verdict and tolerance limit.
+TestResult LeidelTest(const TestBasis& basis, const TestRun& how = {});
+
+extern const ComplianceTest kLeidel;
 
 }  // namespace compliance

@@ -5,17 +5,26 @@
 
 namespace compliance {
 
-PercExForm::PercExForm(ExposureSession& record, navigation::Desk& programDesk,
+PercExForm::PercExForm(Record& sessionRecord, navigation::Desk& programDesk,
                        screen::Ports& formPorts)
-    : SessionForm("PercExForm", navigation::ScreenId::PercEx, "TabPercEx", record, programDesk,
-                  formPorts) {
-  LeidelCmb.Click = [this] { LeidelCmb_Click(); };
-  WilksCmb.Click = [this] { WilksCmb_Click(); };
-  TuggleCmb.Click = [this] { TuggleCmb_Click(); };
+    : SessionForm("PercExForm", navigation::ScreenId::PercEx, "TabPercEx", sessionRecord,
+                  programDesk, formPorts) {
+  AddTestButtons();
   SampSizeCkb.Click = [this] { SampSizeCkb_Click(); };
   for (screen::Control* box :
        {&PercExTxB0, &PercExTxB1, &PercExTxB2, &DegrMinTxb, &PercExTxB3, &SampMinTxB})
     box->locked = true;
+}
+
+void PercExForm::AddTestButtons() {
+  for (const ComplianceTest* test : ComplianceTests()) {
+    screen::Control& button =
+        testButtons_.emplace_back(*this, screen::Kind::CommandButton, std::string(test->button));
+    button.home = TestsFrm.name;
+    button.text = TextOf(test->buttonCaption);
+    if (test->buttonTip) button.tip = TextOf(*test->buttonTip);
+    button.Click = [this, tag = test->tag] { Run(tag); };
+  }
 }
 
 void PercExForm::Load() {
@@ -28,36 +37,13 @@ void PercExForm::Load() {
 
 void PercExForm::Activate() {
   EnterOwnTab();
-  DropStaleResults();
   BasisStatus();
   ShowWording();
   SampsizeFrm.Hide();
   SampSizeCkb.text = LoadResString(2302);
   SampSizeCkb.ticked = false;
-  DimLbl4.text = "%";
-}
-
-PercExForm::Basis PercExForm::PresentBasis() const {
-  return {session.GM,
-          session.GSD,
-          session.M,
-          session.df,
-          session.RegressionOn ? 1.0 : 0.0,
-          static_cast<double>(session.NInRange),
-          session.OELV.value_or(0),
-          session.U,
-          session.D};
-}
-
-// The boxes of a test stay as they are until a button is pressed, but never show the numbers of
-// other data or another limit.
-void PercExForm::DropStaleResults() {
-  if (PresentBasis() == shownBasis_) return;
-  ComplianceLbl.Hide();
-  ClearResults();
   ClearSampleSize();
-  ShowCaptions();
-  ReasonLbl.text = "Statistics or limits have changed since this test: press its button again.";
+  DimLbl4.text = "%";
 }
 
 void PercExForm::BasisStatus() {
@@ -75,8 +61,8 @@ void PercExForm::ShowHeader() {
   NameLbl.text = session.Name;
   SampSizLbl.text = Shown(session.M);
   DegreesLbl.text = Shown(session.df);
-  GMLbl.text = Shown(session.GM);
-  GSDLbl.text = Shown(session.GSD);
+  GMLbl.text = ShownEstimate(session.GM);
+  GSDLbl.text = ShownEstimate(session.GSD);
   DimLbl0.text = session.Unit;
   DimLbl1.text.clear();
   VkrValLbl1.text = LimitText(" \\ ");
@@ -96,7 +82,7 @@ void PercExForm::ShowIntroduction() {
   std::string intro = text(2340) + cr + text(2346) + text(2342) + text(2344) + cr + text(2348) +
                       cr + text(2350) + cr + text(2352) + cr + cr + text(2354) +
                       ShownTrimmed(session.M) + text(2355);
-  if (session.OELV.value_or(0) > 0) {
+  if (session.OELV.value_or(0) > 0 && !session.noEstimates) {
     const double distance = Divide(Log(*session.OELV) - Log(session.GM), Log(session.GSD));
     intro += text(2357) + " = " + ShownTrimmed(distance) + " " + text(2358);
   }
@@ -116,25 +102,25 @@ void PercExForm::ShowWording() {
   }
 }
 
-// Only the EN 689 test has a third row.
-void PercExForm::ShowResultControls(bool shown) {
+// Only a test that finds the fraction has a third row.
+void PercExForm::ShowResultControls(const ComplianceTest* test) {
   for (screen::Control* control : {&MenuVerd, &MenuPrint, &PercExLbl0, &PercExLbl1, &PercExTxB0,
                                    &PercExTxB1, &DimLbl2, &DimLbl3, &ReasonLbl, &CommentLbl})
-    control->visible = shown;
-  for (screen::Control* control : {&PercExLbl2, &PercExTxB2, &DimLbl4})
-    control->visible = shown && session.TestTag == "Tu";
-  IntroFrm.visible = !shown;
+    control->visible = test != nullptr;
+  const bool fraction = test && !test->words(session).fraction.empty();
+  for (screen::Control* control : {&PercExLbl2, &PercExTxB2, &DimLbl4}) control->visible = fraction;
+  IntroFrm.visible = test == nullptr;
 }
-
-void PercExForm::OfferPicture() { MenuVerd.enabled = !PercExTxB1.text.empty() && session.UTL > 0; }
 
 void PercExForm::TestLayout() {
   DimLbl2.text = "%";
   DimLbl3.text = session.Unit;
   CommentLbl.Hide();
-  ShowResultControls(!session.TestTag.empty());
-  OfferPicture();
-  if (session.TestTag.empty()) {
+  const ComplianceTest* test = FindTest(session.TestTag);
+  ShowResultControls(test);
+  if (test) {
+    ShowResult(*test);
+  } else {
     UTLFrm.text = LoadResString(2320);
     ComplianceLbl.Hide();
     OfferSampleSize(false);
@@ -143,7 +129,6 @@ void PercExForm::TestLayout() {
     desk.Open(navigation::ScreenId::Basis);
     return;
   }
-  Ur = Divide(Log(Divide(*session.OELV, session.GM)), Log(session.GSD));
   VkrValLbl1.text = LimitText(" \\  ");
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
+#include <deque>
 #include <string>
 
-#include "compliance/en689.h"
+#include "compliance/compliance_tests.h"
 #include "compliance/sample_size.h"
 #include "navigation/session_form.h"
 
@@ -11,7 +11,7 @@ namespace compliance {
 
 // The compliance screen: the tests of the population's upper percentile against the limit value.
 struct PercExForm final : navigation::SessionForm {
-  PercExForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  PercExForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control MenuPrint{*this, screen::Kind::Menu, "MenuPrint"};
 
@@ -30,9 +30,8 @@ struct PercExForm final : navigation::SessionForm {
   screen::Control VkrValLbl0{*this, screen::Kind::Label, "VkrValLbl(0)"};
   screen::Control VkrValLbl1{*this, screen::Kind::Label, "VkrValLbl(1)"};
 
-  screen::Control LeidelCmb{*this, screen::Kind::CommandButton, "LeidelCmb"};
-  screen::Control WilksCmb{*this, screen::Kind::CommandButton, "WilksCmb"};
-  screen::Control TuggleCmb{*this, screen::Kind::CommandButton, "TuggleCmb"};
+  // Takes the buttons of the tests in.
+  screen::Control TestsFrm{*this, screen::Kind::Frame, "TestsFrm"};
 
   screen::Control IntroFrm{*this, screen::Kind::Frame, "IntroFrm"};
   screen::Control IntroLbl{*this, screen::Kind::Label, "IntroLbl"};
@@ -62,59 +61,42 @@ struct PercExForm final : navigation::SessionForm {
   screen::Control SampMinLbl{*this, screen::Kind::Label, "SampMinLbl"};
   screen::Control SampMinTxB{*this, screen::Kind::TextBox, "SampMinTxB"};
 
-  double Ur = 0;           // standardised distance of the limit from the mean on the log scale
-  double WilksFactor = 0;  // Student deviate of the coverage
-  double ConfNow = 0;      // where the search for the tolerance limit ended, in percent
-  double LowBound = 0;     // where the last search of the EN 689 test ended
-  double HighBound = 0;
   bool loaded = false;
 
   void Load() override;
   void Activate() override;
 
   void BasisStatus();
-  // Sets the layout for the present TestTag and computes Ur.
+  // Sets the layout for the present TestTag.
   void TestLayout();
-  void LeidelCmb_Click();
-  void WilksCmb_Click();
-  void TuggleCmb_Click();
+  // A press of the button of that test.
+  void Run(Extrapolation tag);
   void SampSizeCkb_Click();
 
  private:
-  // What the results rest on.
-  using Basis = std::array<double, 9>;
-  Basis PresentBasis() const;
-
+  void AddTestButtons();
   void ShowHeader();
   void ShowIntroduction();
   void ShowWording();
-  void DropStaleResults();
-  void ShowResultControls(bool shown);
-  // The picture shows UTL and PercEx of the record: they must be those that the boxes show.
-  void OfferPicture();
+  void ShowResultControls(const ComplianceTest* test);
   std::string LimitText(const std::string& separator) const;
 
-  // What the tests begin with: the tag, an empty layout, and the texts that are not results.
-  void BeginTest(const char* tag, const char* windowNumber, int title);
+  // What a test begins with: its tag, an empty layout, and the texts that are not results.
+  void BeginTest(const ComplianceTest& test);
   void ClearResults();
-  void ShowCaptions();
-  void ShowLeidelCaptions();
-  void ShowWilksCaptions();
-  void ShowTuggleCaptions();
+  void ShowWords(const ComplianceTest& test);
+  // The result that the record holds for the present state; without one, empty boxes and why.
+  void ShowResult(const ComplianceTest& test);
+  void ShowVerdict(const ComplianceTest& test, const TestResult& result);
   void OfferSampleSize(bool offered);
-  void ShowVerdict(bool compliance, int captionIfSo, int captionIfNot);
-
-  En689Progress CandidateBoxes();
-  void SearchToleranceLimit();
-  void SearchFraction();
-  std::string TuggleReason(bool coverageTooLow) const;
+  TestRun HowToRun();
   std::string GeneralReason() const;
 
   void MakeRoom();
   void ClearSampleSize();
   void ShowSampleSize(const SampleSizeBoxes& boxes);
 
-  Basis shownBasis_{};
+  std::deque<screen::Control> testButtons_;  // controls keep their place
 };
 
 }  // namespace compliance

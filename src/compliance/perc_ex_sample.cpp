@@ -14,17 +14,19 @@ void Caption(screen::Control& label, const std::optional<int>& row) {
 void PercExForm::SampSizeCkb_Click() {
   SampsizeFrm.visible = SampSizeCkb.ticked;
   MakeRoom();
-  if (!SampSizeCkb.ticked || session.TestTag != "Wi") return;
+  const ComplianceTest* test = FindTest(session.TestTag);
+  if (!SampSizeCkb.ticked || !test || !test->offersSampleSize) return;
   ClearSampleSize();
   SampsizeFrm.text = LoadResString(kSampleSizeCaption);
-  const SampleSizeResult found = OptimiseSampleSize(session);
+  const SampleSizeResult found = OptimiseSampleSize(BasisOf(session));
   if (found.outcome == SampleSizeCase::CoverageTooLow) {
     OfferSampleSize(true);
     MakeRoom();
+    flow.MsgText = kCoverageTooLow;
     Complain(session.MsgText, LoadResString(kCoverageTitle));
     return;
   }
-  Ur = found.Ur;
+  record.Numbers().PercEx = found.PercEx;
   ShowSampleSize(found.boxes);
   if (found.outcome == SampleSizeCase::AnySize)
     Complain(LoadResString(kAnySampleSizeText), LoadResString(kAnySampleSizeTitle));

@@ -4,7 +4,6 @@
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
-#include "compliance/en689.h"
 #include "stats/normal.h"
 #include "stats/student.h"
 
@@ -13,29 +12,24 @@ namespace {
 
 constexpr double kMostDegrees = 99;
 constexpr double kLargeSample = 100;
+constexpr char kCR[] = "\r";
 
 double Int(double x) { return std::trunc(x); }
 
 class Optimisation {
  public:
-  Optimisation(ExposureSession& s, const SampleSizeProgress& progress)
-      : s_(s), progress_(progress), M0_(s.M), df0_(s.df) {}
-  Optimisation(const Optimisation&) = delete;
-  Optimisation& operator=(const Optimisation&) = delete;
-  ~Optimisation() {
-    s_.M = M0_;
-    s_.df = df0_;
-  }
+  Optimisation(const TestBasis& basis, const SampleSizeProgress& progress)
+      : s_(basis), progress_(progress) {}
 
   SampleSizeResult Run() {
     Boxes().ComMinLbl = LoadResString(3403) + LoadResString(3404) + LoadResString(3405);
     Tell();
-    out_.Ur = Divide(Log(Divide(s_.OELV.value_or(0), s_.GM)), Log(s_.GSD));
-    s_.PercEx = Checked(StatFWinBAS::NormalUpper(double{out_.Ur}) * 100);
+    out_.Ur = StandardisedDistance(s_);
+    out_.PercEx = Checked(StatFWinBAS::NormalUpper(double{out_.Ur}) * 100);
     if (Ratio() < 1) return AnySize();
-    s_.M = 2;
-    s_.df = 1;
-    s_.PercEx = Exceedance(Sqrt(1.5));
+    M_ = 2;
+    df_ = 1;
+    out_.PercEx = Exceedance(Sqrt(1.5));
     if (Ratio() > 1) return OneDegree();
     Search();
     return Optimum();
@@ -46,30 +40,30 @@ class Optimisation {
   void Tell() const {
     if (progress_) progress_(out_.boxes);
   }
-  double Ratio() const { return ComplianceRatio(s_.PercEx, s_.U); }
+  double Ratio() const { return ComplianceRatio(out_.PercEx, s_.U); }
 
   double Exceedance(double spread) {
     ++out_.evaluations;
     const double t = Divide(out_.Ur, spread);
-    return Checked(StatFWinBAS::StudentUpper(double{s_.df}, t) * 100);
+    return Checked(StatFWinBAS::StudentUpper(double{df_}, t) * 100);
   }
 
   SampleSizeResult AnySize() {
     out_.outcome = SampleSizeCase::AnySize;
     Boxes().DegrMinLbl = 3440;
     Boxes().PercExLbl3 = 3441;
-    Boxes().PercExTxB3 = s_.PercEx;
+    Boxes().PercExTxB3 = out_.PercEx;
     Boxes().infinite = true;
-    Boxes().ComMinLbl += s_.CR + LoadResString(kAnySampleSizeText);
+    Boxes().ComMinLbl += kCR + LoadResString(kAnySampleSizeText);
     return out_;
   }
 
   void Search() {
     do {
-      if (s_.df >= kMostDegrees) break;
-      s_.PercEx = Exceedance(Sqrt(Divide(1, s_.M) + 1));
-      s_.df = s_.df + 1;
-      s_.M = s_.df + 1;
+      if (df_ >= kMostDegrees) break;
+      out_.PercEx = Exceedance(Sqrt(Divide(1, M_) + 1));
+      df_ = df_ + 1;
+      M_ = df_ + 1;
       prefix_ = out_.Ur <= 0 ? 3445 : 3443;
       if (out_.Ur > 0) ShowPass();
     } while (Ratio() <= 1);
@@ -77,20 +71,20 @@ class Optimisation {
 
   void ShowPass() {
     Boxes().DegrMinLbl = 3423;
-    Boxes().DegrMinTxb = s_.df;
+    Boxes().DegrMinTxb = df_;
     Boxes().PercExLbl3 = 3411;
-    Boxes().PercExTxB3 = s_.PercEx;
+    Boxes().PercExTxB3 = out_.PercEx;
     Boxes().SampMinLbl = 3412;
-    Boxes().SampMinTxB = s_.M;
+    Boxes().SampMinTxB = M_;
     Tell();
   }
 
   SampleSizeResult Optimum() {
     out_.outcome = SampleSizeCase::Search;
-    out_.df = s_.df;
-    Boxes().ComMinLbl += s_.CR;
+    out_.df = df_;
+    Boxes().ComMinLbl += kCR;
     out_.Mopt = OptimalSize();
-    Boxes().ComMinLbl += s_.CR + LoadResString(prefix_) + LoadResString(Comment());
+    Boxes().ComMinLbl += kCR + LoadResString(prefix_) + LoadResString(Comment());
     Boxes().SampMinTxB = out_.Mopt;
     return out_;
   }
@@ -98,43 +92,43 @@ class Optimisation {
   // The sample that has these degrees of freedom. A regression on part of the sample has fewer of
   // them than M - 1, in a proportion that is carried over.
   double OptimalSize() const {
-    const double df = s_.df;
-    if (!s_.RegressionOn || M0_ - 1 == df0_) return df + 1;
+    const double df = df_;
+    if (!s_.RegressionOn || s_.M - 1 == s_.df) return df + 1;
     const double inRange = s_.NInRange;
-    if (df0_ == 2 * inRange) {
-      if (df <= 4) return Int(Divide(M0_ + M0_, inRange) + 0.5);
-      return Int((Divide(df * M0_, inRange) + 1) / 2);
+    if (s_.df == 2 * inRange) {
+      if (df <= 4) return Int(Divide(s_.M + s_.M, inRange) + 0.5);
+      return Int((Divide(df * s_.M, inRange) + 1) / 2);
     }
-    const double v = df <= 4 ? Divide(M0_ * 4, inRange) : Divide((df + df) * M0_, inRange + M0_);
+    const double v = df <= 4 ? Divide(s_.M * 4, inRange) : Divide((df + df) * s_.M, inRange + s_.M);
     return Int(v + 0.5) + 1;
   }
 
   int Comment() const {
     if (out_.Mopt >= kLargeSample) return 3430;
-    if (out_.Mopt == M0_) return 3420;
-    return out_.Mopt < M0_ ? 3421 : 3422;
+    if (out_.Mopt == s_.M) return 3420;
+    return out_.Mopt < s_.M ? 3421 : 3422;
   }
 
   // A sample of which one outcome would do is still shown as the number that stands in the box.
   SampleSizeResult OneDegree() {
     out_.outcome = SampleSizeCase::OneDegree;
-    out_.df = s_.df;
-    Boxes().DegrMinTxb = s_.df;
-    Boxes().PercExTxB3 = s_.PercEx;
+    out_.df = df_;
+    Boxes().DegrMinTxb = df_;
+    Boxes().PercExTxB3 = out_.PercEx;
     Boxes().SampMinLbl = 3412;
     out_.Mopt = 2;
-    if (s_.RegressionOn) out_.Mopt = Int(Divide(M0_ + M0_, double(s_.NInRange)) + 0.5);
+    if (s_.RegressionOn) out_.Mopt = Int(Divide(s_.M + s_.M, double(s_.NInRange)) + 0.5);
     Boxes().SampMinTxB = out_.Mopt;
     Boxes().DegrMinLbl = out_.Ur <= 0 ? 3416 : 3413;
     Boxes().PercExLbl3 = out_.Ur <= 0 ? 3418 : 3415;
-    Boxes().ComMinLbl += s_.CR + LoadResString(3448);
+    Boxes().ComMinLbl += kCR + LoadResString(3448);
     return out_;
   }
 
-  ExposureSession& s_;
+  const TestBasis& s_;
   const SampleSizeProgress& progress_;
-  const double M0_;
-  const double df0_;
+  double M_ = 0;  // of the trial
+  double df_ = 0;
   int prefix_ = 3443;
   SampleSizeResult out_;
 };
@@ -143,14 +137,13 @@ class Optimisation {
 
 double ComplianceRatio(double P, double U) { return Divide(P - 50, 50 - U); }
 
-SampleSizeResult OptimiseSampleSize(ExposureSession& s, const SampleSizeProgress& progress) {
-  if (s.TestTag != "Wi") return {};
-  if (CoverageTooLow(s)) {
+SampleSizeResult OptimiseSampleSize(const TestBasis& basis, const SampleSizeProgress& progress) {
+  if (CoverageTooLow(basis)) {
     SampleSizeResult none;
     none.outcome = SampleSizeCase::CoverageTooLow;
     return none;
   }
-  return Optimisation(s, progress).Run();
+  return Optimisation(basis, progress).Run();
 }
 
 }  // namespace compliance

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "session/exposure_session.h"
+#include "compliance/compliance_tests.h"
 
 // The smallest number of degrees of freedom, and the smallest sample, for which the Wilks
 // exceedance stays below 100 - U percent on average.
@@ -29,8 +29,8 @@ inline constexpr int kAnySampleSizeTitle = 3400;  // title and text of the warni
 inline constexpr int kAnySampleSizeText = 3442;   // no sample size complies
 
 enum class SampleSizeCase {
-  NotWilks,        // TestTag is not "Wi": nothing was done
-  CoverageTooLow,  // U up to 50: MsgText says so, under the title kCoverageTitle
+  NotWilks,        // asked behind another test: nothing is done
+  CoverageTooLow,  // U up to 50: kCoverageTooLow is to be told, under the title kCoverageTitle
   OneDegree,       // compliance holds already at one degree of freedom
   Search,          // df and Mopt were searched
   AnySize          // non-compliance for any sample size: the warning is to be shown
@@ -42,6 +42,7 @@ struct SampleSizeResult {
   double Ur = 0;        // the distance that was set anew, from CoverageTooLow on still 0
   double df = 0;        // smallest degrees of freedom, up to 99; 1 in the case OneDegree
   double Mopt = 0;      // smallest sample size; 0 in the cases without one
+  double PercEx = 0;    // the last exceedance computed, in percent
   int evaluations = 0;  // of StudentUpper
 };
 
@@ -50,12 +51,11 @@ using SampleSizeProgress = std::function<void(const SampleSizeBoxes& boxes)>;
 // (P - 50) / (50 - U): at least 1 when P percent is within 100 - U, for U above 50.
 double ComplianceRatio(double P, double U);
 
-// The search itself. Reads GM, GSD, OELV, U, TestTag, M, df, RegressionOn, NInRange and CR. Writes
-// PercEx (the last exceedance computed), with U up to 50 MsgText instead. M and df are working
-// cells meanwhile; they are put back, also when a fault ends the search. At most 99 evaluations.
-// In the search the degrees of freedom are raised after the probability is computed, so that the
-// boxes show the next value beside the probability of the last.
+// The search itself. Changes nothing. At most 99 evaluations. In the search the degrees of freedom
+// are raised after the probability is computed, so that the boxes show the next value beside the
+// probability of the last.
 // Accuracy: PercEx as WilksExceedance.
-SampleSizeResult OptimiseSampleSize(ExposureSession& s, const SampleSizeProgress& progress = {});
+SampleSizeResult OptimiseSampleSize(const TestBasis& basis,
+                                    const SampleSizeProgress& progress = {});
 
 }  // namespace compliance

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/exposure_session.h"
+#include "compliance/compliance_tests.h"
 
 // The compliance test on the "unbiased" estimate of the exceedance, which takes the sample size
 // into account through Student's t.
@@ -44,13 +44,19 @@ struct WilksLimit {
 WilksLimit WilksToleranceLimit(double GM, double GSD, double U, double df);
 
 struct WilksResult {
+  double PercEx = 0;  // percent
   bool compliance = false;
   WilksLimit limit;
 };
 
-// The whole test on the record's GM, GSD, U and df. Writes TestTag "Wi", PercEx, and UTL, or, for a
-// limit beyond the bounds, MsgText: UTL is then still that of before, and that is what the box of
-// the limit shows.
-WilksResult WilksTest(ExposureSession& s, double Ur);
+WilksResult WilksCalculation(const TestBasis& basis, double Ur);
+
+// The whole test. A limit beyond the bounds leaves the standing one in its box, with a sentence
+// that says so; where none stands, the box shows the bound.
+TestResult WilksTest(const TestBasis& basis, const TestRun& how = {});
+// What is told of a limit beyond the bounds.
+const char* ClampText(Clamp clamp);
+
+extern const ComplianceTest kWilks;
 
 }  // namespace compliance

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -67,7 +68,7 @@ class Call {
 struct Routine {
   std::string_view name;
   std::size_t arguments;
-  void (*run)(Call&);
+  std::function<void(Call&)> run;
   std::vector<std::string> own = {};  // the record's fields that stand in for arguments left out
 };
 

@@ -1,23 +1,25 @@
-#include "base/fault.h"
-#include "compare/inference.h"
-#include "compliance/en689.h"
+#include <algorithm>
+
+#include "compare/inference_on_record.h"
 #include "compliance/leidel.h"
-#include "compliance/sample_size.h"
-#include "compliance/wilks.h"
+#include "compliance/tests_on_record.h"
 #include "drive/call.h"
 
 namespace drive {
 namespace {
 
-double Ur(const ExposureSession& s) {
+TestBasis Basis(const ExposureSession& s) {
   if (!s.OELV) throw Failure("the record has no OELV");
-  return Divide(Log(Divide(*s.OELV, s.GM)), Log(s.GSD));
+  return BasisOf(s);
 }
 
+double Ur(const ExposureSession& s) { return compliance::StandardisedDistance(Basis(s)); }
+
 void Leidel(Call& c) {
-  c.s.PercEx = compliance::LeidelExceedance(Ur(c.s));
-  c.s.UTL = compliance::LeidelToleranceLimit(c.s.GM, c.s.GSD, compliance::LeidelDeviate(c.s.U));
-  c.Tell(compliance::LeidelComplies(c.s.PercEx));
+  const TestResult result = compliance::LeidelTest(Basis(c.s));
+  c.s.PercEx = *result.PercEx.value;
+  c.s.UTL = *result.UTL.value;
+  c.Tell(*result.compliance);
   c.Tell(c.s.PercEx);
   c.Tell(c.s.UTL);
 }
@@ -39,6 +41,14 @@ void En689(Call& c) {
     c.Tell(std::string(result.fraction.text));
   else
     c.Tell(result.fraction.u);
+}
+
+// Verdict, percentage, limit, and the fraction where the test finds one.
+void Plain(Call& c, const compliance::ComplianceTest& test) {
+  const TestResult result = test.run(Basis(c.s), {});
+  c.Tell(result.compliance ? std::optional<double>(*result.compliance) : std::nullopt);
+  for (const ShownNumber* number : {&result.PercEx, &result.UTL, &result.fraction})
+    if (number->value) c.Tell(*number->value);
 }
 
 // The case in the order in which they are met: not the Wilks test, U too low, one degree of
@@ -74,12 +84,21 @@ void Inference(Call& c) {
 
 }  // namespace
 
+// The first three tell more than a row of the table gives.
 const std::vector<Routine>& ComplianceRoutines() {
-  static const std::vector<Routine> routines = {
-      {"LeidelTest", 0, Leidel},   {"WilksTest", 0, Wilks},
-      {"En689Test", 0, En689},     {"OptimiseSampleSize", 0, SampleSize},
-      {"Inference", 1, Inference},
-  };
+  static const std::vector<Routine> routines = [] {
+    std::vector<Routine> all = {
+        {"LeidelTest", 0, Leidel},   {"WilksTest", 0, Wilks},
+        {"En689Test", 0, En689},     {"OptimiseSampleSize", 0, SampleSize},
+        {"Inference", 1, Inference},
+    };
+    for (const compliance::ComplianceTest* test : compliance::ComplianceTests()) {
+      const auto same = [test](const Routine& known) { return known.name == test->routine; };
+      if (std::ranges::none_of(all, same))
+        all.push_back({test->routine, 0, [test](Call& c) { Plain(c, *test); }});
+    }
+    return all;
+  }();
   return routines;
 }
 

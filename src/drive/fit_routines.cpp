@@ -1,5 +1,5 @@
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/shapiro.h"
 #include "analysis/transformations.h"
 #include "drive/call.h"

@@ -5,7 +5,7 @@
 #include "ucl/land_exact.h"
 #include "ucl/land_probability.h"
 #include "ucl/land_search.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 namespace drive {
 namespace {
@@ -57,7 +57,7 @@ void Land(Call& c) {
 }
 
 void Statistics(Call& c) {
-  ucl::MeanStatistics(c.s);
+  ucl::TakeMeanStatistics(c.s);
   for (const double value : {c.s.LnGM, c.s.LnGSD, c.s.GMu, c.s.AMu}) c.Tell(value);
 }
 

@@ -3,20 +3,25 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
+#include "catalog/catalog.h"
 #include "drive/failure.h"
+#include "drive/letters.h"
 #include "drive/text.h"
+#include "session/workflow.h"
 
 namespace drive {
 namespace {
 
 using S = ExposureSession;
 using Doubles = std::vector<double>;
-using Member = std::variant<std::string S::*, bool S::*, std::int16_t S::*, double S::*,
-                            std::optional<double> S::*, Doubles S::*,
-                            std::vector<std::array<std::string, 4>> S::*>;
+using Member = std::variant<DataMode S::*, Extrapolation S::*, PlotStyle S::*, ReferenceKind S::*,
+                            VarianceChoice S::*, std::optional<ScreenId> S::*, std::string S::*,
+                            bool S::*, std::int16_t S::*, double S::*, std::optional<double> S::*,
+                            Doubles S::*, std::vector<std::array<std::string, 4>> S::*>;
 
 struct Field {
   std::string_view name;
@@ -101,7 +106,15 @@ std::string OneLine(const std::string& text) {
   return line;
 }
 
+template <class Choice>
+concept Closed = std::is_enum_v<Choice>;
+
 std::string ValueText(const std::string& value) { return OneLine(value); }
+std::string ValueText(Closed auto value) { return LettersOf(value); }
+// A screen is named by the caption of its tab.
+std::string ValueText(const std::optional<ScreenId>& value) {
+  return value ? LoadResString(workflow::TabOf(*value).caption) : "";
+}
 std::string ValueText(bool value) { return value ? "1" : "0"; }
 std::string ValueText(std::int16_t value) { return IntText(value); }
 std::string ValueText(double value) { return NumberText(value); }
@@ -127,6 +140,15 @@ std::string OneWord(const std::string& rest) {
 }
 
 void Set(std::string& value, const std::string& rest) { value = TextArgument(rest); }
+void Set(Closed auto& value, const std::string& rest) { FromLetters(TextArgument(rest), value); }
+void Set(std::optional<ScreenId>& value, const std::string& rest) {
+  const std::string caption = TextArgument(rest);
+  value.reset();
+  for (int i = 0; i <= static_cast<int>(ScreenId::TwoSamp); ++i) {
+    const auto each = static_cast<ScreenId>(i);
+    if (LoadResString(workflow::TabOf(each).caption) == caption) value = each;
+  }
+}
 void Set(bool& value, const std::string& rest) {
   const std::string word = OneWord(rest);
   value = word == "1" || word == "true";
@@ -177,6 +199,13 @@ bool Holds(bool value, const std::string& rest) {
 bool Holds(const std::optional<double>& value, const std::string& rest) {
   if (Words(rest) == std::vector<std::string>{"empty"}) return !value;
   return value && Holds(*value, rest);
+}
+bool Holds(Closed auto value, const std::string& rest) {
+  return LettersOf(value) == TextArgument(rest);
+}
+bool Holds(const std::string& value, const std::string& rest);
+bool Holds(const std::optional<ScreenId>& value, const std::string& rest) {
+  return ValueText(value) == TextArgument(rest);
 }
 bool Holds(const std::string& value, const std::string& rest) {
   return value == TextArgument(rest) || Quoted(value) == rest;

@@ -3,7 +3,6 @@
 #include <optional>
 #include <string_view>
 
-#include "analysis/limit_checks.h"
 #include "base/fault.h"
 #include "drive/call.h"
 #include "drive/failure.h"
@@ -11,6 +10,8 @@
 #include "drive/text.h"
 #include "rawdata/raw_file.h"
 #include "session/global_bas.h"
+#include "session/limit_checks.h"
+#include "session/moments.h"
 #include "stats/coefficients.h"
 #include "stats/estimators.h"
 #include "stats/normal.h"
@@ -18,7 +19,7 @@
 namespace drive {
 namespace {
 
-template <void (*F)(ExposureSession&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&)>
+template <void (*F)(Workflow&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&)>
 void Validator(Call& c) {
   double& value = c.Ref(1);
   F(c.s, {c.Text(0)}, value, c.Notify());
@@ -76,9 +77,9 @@ const Routine kRoutines[] = {
     {"DegreesOfFreedom", 0, OnTheRecord<DegreesOfFreedom>},
     {"StoreMedian", 0, OnTheRecord<StoreMedian>},
     {"StatusFlags", 0, OnTheRecord<GlobalBAS::StatusFlags>},
-    {"ControleOndergrens", 1, LimitCheck<analysis::ControleOndergrens>},
-    {"ControleBovengrens", 1, LimitCheck<analysis::ControleBovengrens>},
-    {"ControleDetectieBereik", 1, LimitCheck<analysis::ControleDetectieBereik>},
+    {"ControleOndergrens", 1, LimitCheck<ControleOndergrens>},
+    {"ControleBovengrens", 1, LimitCheck<ControleBovengrens>},
+    {"ControleDetectieBereik", 1, LimitCheck<ControleDetectieBereik>},
     {"SortValues", 0, [](Call& c) { rawdata::SortValues(SampleCount(c.s), c.s.C, c.s.SortOrder); }},
     {"Val", 1, [](Call& c) { c.Tell(GlobalBAS::Val(c.Text(0))); }},
     {"NormalizeDecimal", 1, [](Call& c) { c.Tell(GlobalBAS::NormalizeDecimal(c.Text(0))); }},

@@ -1,6 +1,9 @@
 #include "limits/grenzen_form.h"
 
+#include <utility>
+
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "limits/steps.h"
 
 namespace limits {
@@ -17,10 +20,10 @@ constexpr int kDuration = 2322;
 
 }  // namespace
 
-GrenzenForm::GrenzenForm(ExposureSession& record, navigation::Desk& programDesk,
+GrenzenForm::GrenzenForm(Record& sessionRecord, navigation::Desk& programDesk,
                          screen::Ports& formPorts)
-    : SessionForm("GrenzenForm", navigation::ScreenId::Grenzen, "TabGrenzen", record, programDesk,
-                  formPorts) {
+    : SessionForm("GrenzenForm", navigation::ScreenId::Grenzen, "TabGrenzen", sessionRecord,
+                  programDesk, formPorts) {
   WireBoxes();
   WireSteps();
   WireCombos();
@@ -53,20 +56,20 @@ void GrenzenForm::WireSteps() {
 }
 
 void GrenzenForm::WireCombos() {
-  auto wire = [this](screen::Control& combo, std::string& field, const char* window) {
+  auto wire = [this](screen::Control& combo, std::string Given::*field, const char* window) {
     combo.GotFocus = [this, &combo, window] {
       if (*window) ShowFieldNumber(combo, window);
       combo.selectAll = true;
     };
-    combo.Click = [this, &combo, &field] {
+    combo.Click = [this, &combo, field] {
       combo.touched = true;
       LeaveText(combo, field);
     };
-    combo.LostFocus = combo.EnterKey = [this, &combo, &field] { LeaveText(combo, field); };
+    combo.LostFocus = combo.EnterKey = [this, &combo, field] { LeaveText(combo, field); };
   };
-  wire(DimCbo, session.Unit, "14");
-  wire(DurationCmB, session.Duration, "20");
-  wire(RefPerCmb, session.RefPeriod, "");
+  wire(DimCbo, &Given::Unit, "14");
+  wire(DurationCmB, &Given::Duration, "20");
+  wire(RefPerCmb, &Given::RefPeriod, "");
 }
 
 void GrenzenForm::Load() {
@@ -91,7 +94,7 @@ void GrenzenForm::FillCombos() {
 void GrenzenForm::Activate() {
   BasisStatus();
   EnterOwnTab();
-  WindnrLbl.text = session.Mode == "R" ? "21a" : "21b";
+  WindnrLbl.text = session.Mode == DataMode::Raw ? "21a" : "21b";
   if (focusWanted) SetFocusQuietly(*focusWanted);
   IdentFrame.Show();
   NameTxB.text = session.Name;
@@ -99,15 +102,24 @@ void GrenzenForm::Activate() {
 }
 
 void GrenzenForm::BasisStatus() {
-  Flags();
+  JudgeLimits();
   ShowState();
+}
+
+// A limit value that is out of range gives way to the default; whoever stated it is told.
+void GrenzenForm::JudgeLimits() {
+  const std::optional<double> stated = session.OELV;
+  Flags();
+  if (stated && stated != session.OELV)
+    note_ = OwnText(Own::LimitReset, {ShownTrimmed(stated), ShownTrimmed(session.OELV)});
 }
 
 void GrenzenForm::ShowState() {
   NameTxB.text = session.Name;
   SampSizTxB.text = ShownTrimmed(session.M);
-  session.TestTag.clear();
-  if (session.Unit.empty()) session.Unit = LoadResString(kDefaultUnit);
+  flow.TestTag = Extrapolation::None;
+  if (session.Unit.empty())
+    record.Change([](Given& given) { given.Unit = LoadResString(kDefaultUnit); });
   ShowValues();
   ColourLabels();
   ShowMissing();
@@ -141,6 +153,7 @@ void GrenzenForm::ShowMissing() {
 void GrenzenForm::StatusStrip() {
   RebuildStrip();
   menuExtrPol.visible = session.LimitsOk;
+  ShowStatus(std::exchange(note_, {}));
 }
 
 void GrenzenForm::ColourLabels() {
@@ -157,14 +170,14 @@ void GrenzenForm::ColourLabels() {
 
 void GrenzenForm::LeavePercent(screen::Control& box) {
   box.text = GlobalBAS::Trim(box.text);
-  if (&box == &AlphaTxb)
-    GlobalBAS::CheckU(session, EntryOf(box), session.U, Notifier());
-  else
-    GlobalBAS::CheckD(session, EntryOf(box), session.D, Notifier());
+  const bool coverage = &box == &AlphaTxb;
+  double value = coverage ? session.U : session.D;
+  const auto check = coverage ? GlobalBAS::CheckU : GlobalBAS::CheckD;
+  check(flow, EntryOf(box), value, Notifier());
+  record.Change([&](Given& given) { (coverage ? given.U : given.D) = value; });
   box.touched = false;
   const bool refused = session.InputState != 0;
-  Flags();
-  ShowState();
+  BasisStatus();
   if (refused) SetFocus(box);
 }
 
@@ -176,18 +189,19 @@ void GrenzenForm::LeaveLimit() {
     VkrValLbl0.colour = kMissing;
     return;
   }
-  GlobalBAS::CheckOELV(session, EntryOf(VkrValTxB), session.OELV, Notifier());
+  std::optional<double> OELV = session.OELV;
+  GlobalBAS::CheckOELV(flow, EntryOf(VkrValTxB), OELV, Notifier());
+  record.Change([&](Given& given) { given.OELV = OELV; });
   VkrValTxB.touched = false;
   const bool refused = session.InputState != 0;
-  Flags();
   VkrValLbl0.colour.reset();
-  ShowState();
+  BasisStatus();
   if (refused) SetFocus(VkrValTxB);
 }
 
-void GrenzenForm::LeaveText(screen::Control& combo, std::string& field) {
+void GrenzenForm::LeaveText(screen::Control& combo, std::string Given::*field) {
   if (!combo.touched) return;
-  field = combo.text;
+  record.Change([&](Given& given) { given.*field = combo.text; });
   combo.touched = false;
   DimLbl2.text = session.Unit;
   ColourLabels();
@@ -196,17 +210,18 @@ void GrenzenForm::LeaveText(screen::Control& combo, std::string& field) {
 // A text that is still being typed counts first.
 void GrenzenForm::StepPercent(screen::Control& box, int direction) {
   if (box.touched) LeavePercent(box);
-  double& value = &box == &AlphaTxb ? session.U : session.D;
-  value = limits::StepPercent(value, direction);
-  box.text = ShownTrimmed(value);
+  double Given::*const field = &box == &AlphaTxb ? &Given::U : &Given::D;
+  record.Change([&](Given& given) { given.*field = limits::StepPercent(given.*field, direction); });
+  box.text = ShownTrimmed(session.*field);
   box.touched = false;
 }
 
 void GrenzenForm::StepLimit(int direction) {
   if (VkrValTxB.touched) LeaveLimit();
   const LimitStep step = StepOELV(session.OELV, direction);
-  session.OELV = step.value;
-  if (step.atBound) session.MsgText = LoadResString(kSmallestOELV);
+  record.Change([&](Given& given) { given.OELV = step.value; });
+  if (step.atBound) flow.MsgText = LoadResString(kSmallestOELV);
+  VkrValLbl0.colour.reset();
   VkrValTxB.text = ShownTrimmed(session.OELV);
   VkrValTxB.touched = false;
 }
@@ -214,9 +229,9 @@ void GrenzenForm::StepLimit(int direction) {
 // The field that is still being typed in is left first. Leaving a number runs the flags itself; a
 // second run would take the default that stands in for a refused limit as a valid one.
 void GrenzenForm::BeforeTabClick() {
-  LeaveText(DimCbo, session.Unit);
-  LeaveText(RefPerCmb, session.RefPeriod);
-  LeaveText(DurationCmB, session.Duration);
+  LeaveText(DimCbo, &Given::Unit);
+  LeaveText(RefPerCmb, &Given::RefPeriod);
+  LeaveText(DurationCmB, &Given::Duration);
   bool flagged = false;
   for (screen::Control* box : {&AlphaTxb, &DeltaTxb}) {
     if (!box->touched) continue;
@@ -227,7 +242,7 @@ void GrenzenForm::BeforeTabClick() {
     LeaveLimit();
     flagged = flagged || !VkrValTxB.text.empty();
   }
-  if (!flagged) Flags();
+  if (!flagged) BasisStatus();
 }
 
 }  // namespace limits

@@ -6,7 +6,7 @@ namespace limits {
 
 // The limits screen: limit value, reference period, unit, duration, coverage U, confidence D.
 struct GrenzenForm final : navigation::SessionForm {
-  GrenzenForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  GrenzenForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control IdentFrame{*this, screen::Kind::Frame, "IdentFrame"};
   screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
@@ -58,9 +58,13 @@ struct GrenzenForm final : navigation::SessionForm {
 
   void LeavePercent(screen::Control& box);
   void LeaveLimit();
-  void LeaveText(screen::Control& combo, std::string& field);
+  void LeaveText(screen::Control& combo, std::string Given::*field);
   void StepPercent(screen::Control& box, int direction);
   void StepLimit(int direction);
+  // StatusFlags, and a word about a limit value that did not stand.
+  void JudgeLimits();
+
+  std::string note_;  // what the status line is to tell of the last entry
 };
 
 }  // namespace limits

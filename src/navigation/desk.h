@@ -1,12 +1,24 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "catalog/text_id.h"
 #include "session/workflow.h"
 
 namespace navigation {
 
 using workflow::ScreenId;
+
+// A menu item that leads straight to an extrapolation, on every working screen.
+struct ExtrapolationMenu {
+  Extrapolation tag;
+  ScreenId screen;
+  std::string_view name;
+  std::string_view home;  // the menu that it stands in
+  TextId caption;
+};
 
 // What a screen may ask of the program around it.
 class Desk {
@@ -14,8 +26,12 @@ class Desk {
   virtual ~Desk() = default;
   // Hides the present screen, shows `target` and runs its activation.
   virtual void Open(ScreenId target) = 0;
-  // Opens the screen of the extrapolation `tag` ("Le", "Wi", "Tu", "Ap", "Ex") and starts it.
-  virtual void RunExtrapolation(const std::string& tag) = 0;
+  // The extrapolations that there are, in the order of their menus.
+  virtual const std::vector<ExtrapolationMenu>& Extrapolations() const = 0;
+  // Opens the screen of an extrapolation and starts it.
+  virtual void RunExtrapolation(Extrapolation tag) = 0;
+  // Why the frequency distribution picture of the shown screen can't be drawn; empty when it can.
+  virtual std::string PictureObstacle() const = 0;
   // Shows the frequency distribution picture in place of the present screen; then goes back to
   // that screen, which stands as it was left.
   virtual void ShowPicture() = 0;

@@ -1,31 +1,16 @@
 #include "navigation/session_form.h"
 
 #include "catalog/catalog.h"
+#include "navigation/status_text.h"
 
 namespace navigation {
-namespace {
-
-const char* TagOfMenu(const screen::Control& menu) {
-  struct Shortcut {
-    const char* menu;
-    const char* tag;
-  };
-  static constexpr Shortcut kShortcuts[] = {{"MenuLeid", "Le"},
-                                            {"MenuWilks", "Wi"},
-                                            {"MenuTugg", "Tu"},
-                                            {"MenuJahr", "Ap"},
-                                            {"MenuLand", "Ex"}};
-  for (const Shortcut& shortcut : kShortcuts)
-    if (menu.name == shortcut.menu) return shortcut.tag;
-  return "";
-}
-
-}  // namespace
 
 SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string stripName,
-                         ExposureSession& record, Desk& programDesk, screen::Ports& formPorts)
+                         Record& sessionRecord, Desk& programDesk, screen::Ports& formPorts)
     : Form(std::move(formName), formPorts),
-      session(record),
+      record(sessionRecord),
+      session(sessionRecord.Now()),
+      flow(sessionRecord.Flow()),
       desk(programDesk),
       id(screenId),
       Tabs(*this, std::move(stripName)) {
@@ -36,8 +21,17 @@ SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string st
   MenuPlot.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::Plot).key); };
   MenuVerd.Click = [this] { desk.ShowPicture(); };
   MenuComp.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::TwoSamp).key); };
-  for (screen::Control* menu : {&MenuLeid, &MenuWilks, &MenuTugg, &MenuJahr, &MenuLand})
-    menu->Click = [this, menu] { desk.RunExtrapolation(TagOfMenu(*menu)); };
+  AddExtrapolationMenus();
+}
+
+void SessionForm::AddExtrapolationMenus() {
+  for (const ExtrapolationMenu& item : desk.Extrapolations()) {
+    screen::Control& menu =
+        extrapolationMenus_.emplace_back(*this, screen::Kind::Menu, std::string(item.name));
+    menu.home = item.home;
+    menu.text = TextOf(item.caption);
+    menu.Click = [this, tag = item.tag] { desk.RunExtrapolation(tag); };
+  }
 }
 
 void SessionForm::RebuildStrip() {
@@ -48,21 +42,20 @@ void SessionForm::RebuildStrip() {
   }
   Tabs.selected = workflow::TabOf(id).key;
   MenuPlot.visible = workflow::PlotMenuVisible(session, id);
+  OfferPicture();
+  ShowStatus();
 }
 
-void SessionForm::Flags() {
-  GlobalBAS::StatusFlags(session);
-  if (session.Mode == "R" && session.RawIncomplete) session.DescOk = false;
-}
+void SessionForm::Flags() { record.StatusFlags(); }
 
 void SessionForm::EnterOwnTab() {
-  session.CurrentTab = LoadResString(workflow::TabOf(id).caption);
+  flow.CurrentTab = id;
   Tabs.selected = workflow::TabOf(id).key;
 }
 
 void SessionForm::Tab_Click(const std::string& key) {
   const workflow::TabText* tab = workflow::TabByKey(key);
-  if (!tab || LoadResString(tab->caption) == session.CurrentTab) return;
+  if (!tab || tab->screen == session.CurrentTab) return;
   BeforeTabClick();
   // The click itself has moved the toolkit's strip; a closed gate moves it back.
   if (!workflow::GateOpen(session, id, tab->screen)) {
@@ -70,7 +63,7 @@ void SessionForm::Tab_Click(const std::string& key) {
     return;
   }
   BeforeLeavingFor(tab->screen);
-  workflow::PassGate(session, id, tab->screen);
+  workflow::PassGate(flow, id, tab->screen);
   desk.Open(tab->screen);
 }
 
@@ -90,6 +83,20 @@ std::string SessionForm::Shown(const std::optional<double>& value) const {
 
 std::string SessionForm::ShownTrimmed(const std::optional<double>& value) const {
   return GlobalBAS::ShownTrimmed(session, value);
+}
+
+std::string SessionForm::ShownEstimate(const std::optional<double>& value) const {
+  return session.noEstimates || !value ? kUnknown : Shown(value);
+}
+
+void SessionForm::OfferPicture() {
+  MenuVerd.tip = desk.PictureObstacle();
+  MenuVerd.enabled = MenuVerd.tip.empty();
+}
+
+void SessionForm::ShowStatus(const std::string& note) {
+  const std::string state = StatusText(session);
+  StatusLbl.text = note + (note.empty() || state.empty() ? "" : " ") + state;
 }
 
 GlobalBAS::Entry SessionForm::EntryOf(const screen::Control& field) const {

@@ -1,21 +1,28 @@
 #pragma once
 
+#include <deque>
 #include <optional>
 #include <string>
 
 #include "navigation/desk.h"
 #include "screen/form.h"
 #include "session/global_bas.h"
+#include "session/record.h"
 
 namespace navigation {
+
+// What a box shows of an estimate that there is not.
+inline constexpr char kUnknown[] = "   unknown";
 
 // What the working screens have in common: the record, the tab strip, the menus that lead to
 // other screens, and the label with the window number.
 struct SessionForm : screen::Form {
-  SessionForm(std::string formName, ScreenId screenId, std::string stripName,
-              ExposureSession& record, Desk& programDesk, screen::Ports& formPorts);
+  SessionForm(std::string formName, ScreenId screenId, std::string stripName, Record& sessionRecord,
+              Desk& programDesk, screen::Ports& formPorts);
 
-  ExposureSession& session;
+  Record& record;
+  const ExposureSession& session;  // what the record holds now
+  Workflow& flow;
   Desk& desk;
   const ScreenId id;
 
@@ -26,15 +33,12 @@ struct SessionForm : screen::Form {
   screen::Control MenuPlot{*this, screen::Kind::Menu, "MenuPlot"};
   screen::Control MenuVerd{*this, screen::Kind::Menu, "MenuVerd"};
   screen::Control menuExtrPol{*this, screen::Kind::Menu, "menuExtrPol"};
-  screen::Control MenuLeid{*this, screen::Kind::Menu, "MenuLeid"};
-  screen::Control MenuWilks{*this, screen::Kind::Menu, "MenuWilks"};
-  screen::Control MenuTugg{*this, screen::Kind::Menu, "MenuTugg"};
   screen::Control MenuAM{*this, screen::Kind::Menu, "MenuAM"};
-  screen::Control MenuJahr{*this, screen::Kind::Menu, "MenuJahr"};
-  screen::Control MenuLand{*this, screen::Kind::Menu, "MenuLand"};
   screen::Control MenuComp{*this, screen::Kind::Menu, "MenuComp"};
   screen::TabStrip Tabs;
   screen::Control WindnrLbl{*this, screen::Kind::Label, "WindnrLbl"};
+  // Below the screen: what is not in force, what is left out, and why.
+  screen::Control StatusLbl{*this, screen::Kind::StatusLine, "StatusLbl"};
 
   // Empties the strip and fills it with the tabs of the present state; MenuPlot follows.
   void RebuildStrip();
@@ -61,13 +65,25 @@ struct SessionForm : screen::Form {
   // The text of a number as the screens show it: through its mask, and without leading blanks.
   std::string Shown(const std::optional<double>& value) const;
   std::string ShownTrimmed(const std::optional<double>& value) const;
+  // The same of GM, GSD and what follows from them; "   unknown" where the series gives none.
+  std::string ShownEstimate(const std::optional<double>& value) const;
   // What the validator of a field gets.
   GlobalBAS::Entry EntryOf(const screen::Control& field) const;
   // Shows a validator's complaint.
   GlobalBAS::Notify Notifier();
 
+  // The menu item of the picture is open when the picture can be drawn; otherwise its tip says why
+  // not.
+  void OfferPicture();
+
+  // Brings the status line up to date; `note` tells what the last action did.
+  void ShowStatus(const std::string& note = {});
+
  private:
+  void AddExtrapolationMenus();
+
   const screen::Control* quietFocus_ = nullptr;
+  std::deque<screen::Control> extrapolationMenus_;  // controls keep their place
 };
 
 // Label of a regression estimate, such as "Double censored Rankit estimate GMg=".

@@ -24,7 +24,7 @@ double TransformedBound(const std::string& scale, double bound, double outcome) 
 
 std::size_t CheckedSize(const PlotData& data) {
   const auto M = static_cast<std::size_t>(SampleCount(data.s));
-  if (M < 3 || data.s.LnC.size() <= M || data.s.C.size() <= M || data.RankitTable.size() <= M / 2)
+  if (M < 3 || data.CTransf.size() <= M || data.s.C.size() <= M || data.RankitTable.size() <= M / 2)
     fault::Throw(FaultKind::Subscript);
   return M;
 }
@@ -97,7 +97,7 @@ double AnnexPaper::Position(int i) const { return BlomPosition(i, data_.s.M); }
 
 double AnnexPaper::Transformed(int i) const {
   const int M = SampleCount(data_.s);
-  return data_.s.LnC[static_cast<std::size_t>(reversed_ ? M + 1 - i : i)];
+  return data_.CTransf[static_cast<std::size_t>(reversed_ ? M + 1 - i : i)];
 }
 
 }  // namespace PlotWBas

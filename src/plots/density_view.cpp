@@ -5,7 +5,9 @@
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "compliance/compliance_tests.h"
 #include "session/global_bas.h"
+#include "stats/estimators.h"
 
 namespace PlotWBas {
 namespace {
@@ -15,127 +17,100 @@ constexpr drawing::Colour kUpperLimit{128, 64, 0};
 constexpr drawing::Colour kLimitValue{192, 0, 0};
 constexpr drawing::Colour kArithmetic{0, 110, 0};
 
-constexpr char kLineEnd[] = "\r";
-
-bool OfTest(PictureOf of) {
-  return of == PictureOf::Leidel || of == PictureOf::Wilks || of == PictureOf::En689;
-}
-
-bool OfMean(PictureOf of) { return of == PictureOf::MeanExact || of == PictureOf::MeanApproximate; }
-
 std::string Percent(double value, const char* sign) {
   return GlobalBAS::FormatNumber(value, "##.0#") + sign;
 }
 
-std::string Shown(const PictureNumbers& n, double value) {
+std::string Number(const PictureNumbers& n, double value) {
   return GlobalBAS::FormatNumber(value, GlobalBAS::FormatMask(value, n.SigDigits));
 }
 
-std::string ShownTrimmed(const PictureNumbers& n, double value) {
-  return GlobalBAS::Trim(Shown(n, value));
+std::string WithUnit(const PictureNumbers& n, double value) {
+  return Number(n, value) + (n.Unit.empty() ? "" : " " + n.Unit);
 }
 
-std::string WithUnit(const PictureNumbers& n, const std::string& value) {
-  return value + (n.Unit.empty() ? "" : " " + n.Unit);
-}
-
-std::string WithUnit(const PictureNumbers& n, double value) { return WithUnit(n, Shown(n, value)); }
-
-// A text with a number in the place of its two marks.
-std::string Filled(std::string text, const std::string& number) {
-  if (const std::size_t at = text.find("##"); at != std::string::npos) text.replace(at, 2, number);
-  return text;
-}
-
-// A caption's double & stands for one.
-std::string SingleAmpersands(std::string text) {
-  for (std::size_t at = text.find("&&"); at != std::string::npos; at = text.find("&&", at + 1))
-    text.erase(at, 1);
-  return text;
-}
-
-void AddLimit(DensityData& data, const PictureNumbers& n, const char* exceedance) {
-  if (!n.limit) return;
-  std::string text = "H=" + WithUnit(n, *n.limit);
-  if (n.exceeded) text += kLineEnd + (exceedance + Percent(*n.exceeded, " %"));
+void AddLimitValue(DensityData& data, const PictureNumbers& n, const char* exceedance) {
+  if (!n.limit || !n.exceeded) return;
+  std::string text = "H=" + WithUnit(n, *n.limit) + "\r" + exceedance + Percent(*n.exceeded, " %");
+  if (!n.note.empty()) text += "\r" + n.note;
   data.marks.push_back({"VkrValLbl", text, Divide(*n.limit, n.GM), kLimitValue});
 }
 
 void AddTestMarks(DensityData& data, const PictureNumbers& n) {
-  data.marks.push_back({"UTLLbl",
-                        "UTL " + Percent(n.U, " %") + kLineEnd + WithUnit(n, n.upperLimit),
+  data.marks.push_back({"UTLLbl", "UTL " + Percent(n.U, " %") + "\r" + WithUnit(n, n.upperLimit),
                         Divide(n.upperLimit, n.GM), kUpperLimit});
-  AddLimit(data, n, "A(C>H)=");
+  AddLimitValue(data, n, "A(C>H)=");
 }
 
 void AddMeanMarks(DensityData& data, const PictureNumbers& n) {
-  data.marks.push_back({"AMuLbl", std::string("AMu") + kLineEnd + WithUnit(n, n.AMu),
-                        Divide(n.AMu, n.GM), kArithmetic});
-  data.marks.push_back({"UCLLbl", "UCL " + Percent(n.D, "%") + kLineEnd + WithUnit(n, n.upperLimit),
+  data.marks.push_back({"AMuLbl", "AMu\r" + WithUnit(n, n.AMu), Divide(n.AMu, n.GM), kArithmetic});
+  data.marks.push_back({"UCLLbl", "UCL " + Percent(n.D, "%") + "\r" + WithUnit(n, n.upperLimit),
                         Divide(n.upperLimit, n.GM), kUpperLimit});
-  AddLimit(data, n, "A(AM>H)=");
+  AddLimitValue(data, n, "A(AM>H)=");
 }
 
 void AddMarks(DensityData& data, const PictureNumbers& n) {
-  data.marks.push_back({"GMLbl", "GM=" + WithUnit(n, n.GM) + kLineEnd + "50%", 1, kPopulation});
+  data.marks.push_back({"GMLbl", "GM=" + WithUnit(n, n.GM) + "\r50%", 1, kPopulation});
   data.marks.push_back(
-      {"GSDPercLbl", "GSD=" + Shown(n, n.GSD) + kLineEnd + "GM*GSD 84.13%", n.GSD, kPopulation});
-  if (OfTest(n.of)) AddTestMarks(data, n);
-  if (OfMean(n.of)) AddMeanMarks(data, n);
+      {"GSDPercLbl", "GSD=" + Number(n, n.GSD) + "\rGM*GSD 84.13%", n.GSD, kPopulation});
+  if (n.of == PictureOf::Test) AddTestMarks(data, n);
+  if (n.of == PictureOf::Mean) AddMeanMarks(data, n);
 }
 
-// The words of the test or of the mean about its limit.
-std::string Explanation(const PictureNumbers& n) {
-  const std::string U = ShownTrimmed(n, n.U);
-  switch (n.of) {
-    case PictureOf::Population:
-      return {};
-    case PictureOf::Leidel:
-      return LoadResString(2501) + kLineEnd + Filled(LoadResString(2503), U);
-    case PictureOf::Wilks:
-      return LoadResString(2601) + kLineEnd + LoadResString(2603) + U + LoadResString(2604);
-    case PictureOf::En689:
-      return SingleAmpersands(LoadResString(2701)) + kLineEnd + LoadResString(2704) + U +
-             LoadResString(2705) + LoadResString(2706) + ShownTrimmed(n, n.D) +
-             LoadResString(2707) + " " + WithUnit(n, ShownTrimmed(n, n.upperLimit));
-    case PictureOf::MeanExact:
-      return LoadResString(2431);
-    case PictureOf::MeanApproximate:
-      return LoadResString(2430);
-  }
-  return {};
-}
-
-PictureOf CallerOf(const ExposureSession& s) {
-  constexpr int kTests = 90;
-  constexpr int kMean = 92;
-  if (s.CurrentTab == LoadResString(kTests))
-    return s.TestTag == "Wi"   ? PictureOf::Wilks
-           : s.TestTag == "Tu" ? PictureOf::En689
-                               : PictureOf::Leidel;
-  if (s.CurrentTab == LoadResString(kMean))
-    return s.TestTag == "Ex" ? PictureOf::MeanExact : PictureOf::MeanApproximate;
-  return PictureOf::Population;
-}
-
-}  // namespace
-
-PictureNumbers NumbersOf(const ExposureSession& s) {
+PictureNumbers PopulationNumbers(const ExposureSession& s) {
   PictureNumbers n;
-  n.of = CallerOf(s);
-  n.Name = GlobalBAS::Trim(s.Name);
+  n.window = "20d";
+  n.Name = s.Name;
   n.Unit = s.Unit;
   n.SigDigits = s.SigDigits;
   n.GM = s.GM;
   n.GSD = s.GSD;
-  if (n.of == PictureOf::Population) return n;
-  n.AMu = s.AMu;
   n.U = s.U;
   n.D = s.D;
-  n.upperLimit = OfMean(n.of) ? Exp(s.UCL) : s.UTL;
-  n.limit = s.OELV;
-  n.exceeded = s.PercEx;
   return n;
+}
+
+std::optional<PictureNumbers> TestNumbers(const Record& record) {
+  const ExposureSession& s = record.Now();
+  const TestResult* result = record.Test();
+  const compliance::ComplianceTest* test = compliance::FindTest(s.TestTag);
+  if (!result || !test || !result->PercEx.value || !result->UTL.value || result->olderLimit)
+    return std::nullopt;
+  PictureNumbers n = PopulationNumbers(s);
+  n.of = PictureOf::Test;
+  n.window = test->window;
+  n.upperLimit = *result->UTL.value;
+  n.limit = s.OELV;
+  n.exceeded = result->PercEx.value;
+  n.explanation = test->pictureWords(s, n.upperLimit);
+  n.note = test->pictureNote(s);
+  return n;
+}
+
+std::optional<PictureNumbers> MeanNumbers(const Record& record) {
+  const ExposureSession& s = record.Now();
+  const MeanResult* result = record.Mean();
+  if (!result) return std::nullopt;
+  const bool exact = result->method == Extrapolation::Land;
+  PictureNumbers n = PopulationNumbers(s);
+  n.of = PictureOf::Mean;
+  n.window = exact ? "24a" : "24b";
+  n.AMu = StatFWinBAS::FinneyMeanMVU(s.df, s.GM, s.GSD);
+  n.upperLimit = std::exp(result->UCL);
+  n.limit = s.OELV;
+  n.exceeded = result->A;
+  n.explanation = LoadResString(exact ? 2431 : 2430);
+  return n;
+}
+
+}  // namespace
+
+std::optional<PictureNumbers> NumbersOf(const Record& record) {
+  const ExposureSession& s = record.Now();
+  if (s.noEstimates || !(s.GM > 0) || !(s.GSD > 1)) return std::nullopt;
+  if (s.CurrentTab == ScreenId::PercEx) return TestNumbers(record);
+  if (s.CurrentTab == ScreenId::UCL) return MeanNumbers(record);
+  return PopulationNumbers(s);
 }
 
 DensityExtent ExtentOf(const PictureNumbers& n) {
@@ -145,32 +120,25 @@ DensityExtent ExtentOf(const PictureNumbers& n) {
   const double H = n.limit.value_or(0);
   const bool byLimit = 0.5 * E < H && H <= 2 * E;
   const double ratio = Divide(byLimit ? H : E, n.GM);
-  DensityExtent extent = population;
-  extent.xEnd = 2 * ratio;
-  extent.endText = byLimit ? "2 * Limit H" : OfTest(n.of) ? "2 * UTL" : "2 * UCL";
-  // Never behind the left tail, which would leave the peak out. Not checked: a power beyond the
-  // numbers is no place to start from.
-  if (const double start = std::pow(ratio, -6); start > 0)
-    extent.xStart = std::min(start, population.xStart);
+  const bool test = n.of == PictureOf::Test;
+  // Not checked: a power beyond the numbers is no place to start from, like one behind the end.
+  DensityExtent extent{std::pow(ratio, -6), Checked(2 * ratio), test ? "2 * UTL" : "2 * UCL"};
+  if (byLimit) extent.endText = "2 * Limit H";
+  const bool usable = extent.xStart > 0 && extent.xStart < extent.xEnd;
+  // The peak lies left of every limit that is near to GM.
+  if (!usable || extent.xStart > population.xStart) extent.xStart = population.xStart;
   return extent;
 }
 
-const char* DensityWindow(PictureOf of) {
-  switch (of) {
-    case PictureOf::Population:
-      return "20d";
-    case PictureOf::Leidel:
-      return "25";
-    case PictureOf::Wilks:
-      return "26";
-    case PictureOf::En689:
-      return "27";
-    case PictureOf::MeanExact:
-      return "24a";
-    case PictureOf::MeanApproximate:
-      return "24b";
+bool Drawable(const PictureNumbers& n) {
+  try {
+    const DensityData data = DensityOf(n, {});
+    drawing::DrawingRecord trial(11400, 8100);
+    DrawDensity(trial, data);
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
   }
-  return "";
 }
 
 DensityData DensityOf(const PictureNumbers& n, const base::DateTime& time) {
@@ -185,12 +153,12 @@ DensityData DensityOf(const PictureNumbers& n, const base::DateTime& time) {
   data.xEnd = extent.xEnd;
   AddMarks(data, n);
   data.endText = extent.endText;
-  data.endValue = WithUnit(n, n.GM * extent.xEnd);
-  data.header = GlobalBAS::Trim(LoadResString(kProduct)) + kLineEnd +
-                "date: " + base::DateText(time) + kLineEnd + "time : " + base::TimeText(time);
-  data.headline = LoadResString(OfTest(n.of) ? kTestHeadline : kHeadline) + kLineEnd +
-                  LoadResString(kOf) + n.Name;
-  data.explanation = Explanation(n);
+  data.endValue = WithUnit(n, Checked(n.GM * extent.xEnd));
+  data.header = GlobalBAS::Trim(LoadResString(kProduct)) + "\rdate: " + DateText(time) +
+                "\rtime : " + TimeText(time);
+  data.headline = LoadResString(n.of == PictureOf::Test ? kTestHeadline : kHeadline) + "\r" +
+                  LoadResString(kOf) + GlobalBAS::Trim(n.Name);
+  data.explanation = n.explanation;
   return data;
 }
 

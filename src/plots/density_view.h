@@ -2,21 +2,24 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/date_time.h"
 #include "plots/density.h"
-#include "session/exposure_session.h"
+#include "session/record.h"
 
 // What the density picture shows.
 namespace PlotWBas {
 
 // Whose numbers it shows: the population's alone, or those of a test or of an upper confidence
 // limit of the mean besides.
-enum class PictureOf { Population, Leidel, Wilks, En689, MeanExact, MeanApproximate };
+enum class PictureOf { Population, Test, Mean };
 
-// The numbers that the picture shows, and nothing else that it could take.
+// The numbers that the picture shows, and the words about them: those of the boxes of the screen
+// that it was called from.
 struct PictureNumbers {
   PictureOf of = PictureOf::Population;
+  std::string_view window;  // number in the manual
   std::string Name;
   std::string Unit;
   int SigDigits = 3;
@@ -29,11 +32,13 @@ struct PictureNumbers {
   double upperLimit = 0;           // UTL, or UCL in the unit of the outcomes
   std::optional<double> limit;     // OELV
   std::optional<double> exceeded;  // A(C>H) or A(AM>H), in percent
+  std::string explanation;         // the words of the test or method
+  std::string note;                // what `exceeded` means where it is no exceedance
 };
 
-// Of the record, by the screen that the picture was called from: CurrentTab holds that screen's
-// caption. AMu must be in the record. Changes nothing.
-PictureNumbers NumbersOf(const ExposureSession& s);
+// Of the record, by the screen that is shown. None where that screen shows a test or a method that
+// did not compute every number of its picture, or a series without estimates.
+std::optional<PictureNumbers> NumbersOf(const Record& record);
 
 // The axis of the relative concentrations.
 struct DensityExtent {
@@ -46,8 +51,8 @@ struct DensityExtent {
 // Domain: GM > 0, GSD > 1.
 DensityExtent ExtentOf(const PictureNumbers& numbers);
 
-// The window number, from the manual.
-const char* DensityWindow(PictureOf of);
+// Whether these numbers can be drawn: all places of the picture are finite.
+bool Drawable(const PictureNumbers& numbers);
 
 DensityData DensityOf(const PictureNumbers& numbers, const base::DateTime& time);
 

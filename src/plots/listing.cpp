@@ -3,6 +3,7 @@
 #include "base/fault.h"
 #include "plots/annex_e.h"
 #include "session/global_bas.h"
+#include "session/moments.h"
 #include "stats/estimators.h"
 
 namespace PlotWBas {
@@ -92,8 +93,8 @@ std::string DevelopmentListing(const ListedPlaces& places, const PlotData& data,
   const auto M = static_cast<std::size_t>(SampleCount(data.s));
   Listing list(data.s.CR);
   list.Add("Transformation ", data.Transformation);
-  list.Add("CTransf(1) ", data.s.LnC[1]);
-  list.Add("CTransf(M) ", data.s.LnC[M]);
+  list.Add("CTransf(1) ", data.CTransf[1]);
+  list.Add("CTransf(M) ", data.CTransf[M]);
   AddAxes(list, places);
   list.Add("DetecOnderGrens ", data.s.LOQ);
   list.Add("DetecBovenGrens ", data.s.URR);

@@ -49,7 +49,7 @@ void DrawTicks(drawing::DrawSurface& surface, const Frame& f, Point at) {
 void DrawPoint(drawing::DrawSurface& surface, const Paper& paper, const PlotData& data, int i) {
   const ExposureSession& s = data.s;
   const double z = analysis::Score(data.RankitTable, SampleCount(s), i);
-  const Point at = paper.At(s.LnC[static_cast<std::size_t>(i)], z);
+  const Point at = paper.At(data.CTransf[static_cast<std::size_t>(i)], z);
   DrawTicks(surface, paper.Edges(), at);
   const bool followed = i >= s.FirstInRange && i <= s.LastInRange;
   DrawCross(surface, at, followed ? kPoint : kOutside);
@@ -79,11 +79,11 @@ void DrawCumulative(Axes axes, drawing::DrawSurface& surface, Labels& labels,
 Paper::Paper(Axes axes, const drawing::DrawSurface& surface, const PlotData& data)
     : axes_(axes), width_(surface.ScaleWidth()), height_(surface.ScaleHeight()) {
   const auto M = static_cast<std::size_t>(SampleCount(data.s));
-  if (M < 3 || data.s.LnC.size() <= M || data.s.C.size() <= M || data.RankitTable.size() <= M / 2)
+  if (M < 3 || data.CTransf.size() <= M || data.s.C.size() <= M || data.RankitTable.size() <= M / 2)
     fault::Throw(FaultKind::Subscript);
   frame_ = {0.2 * width_, 0.8 * width_, 0.2 * height_, 0.9 * height_};
-  lowest_ = data.s.LnC[1];
-  highest_ = data.s.LnC[M];
+  lowest_ = data.CTransf[1];
+  highest_ = data.CTransf[M];
   span_ = Checked(highest_ - lowest_);
   highestScore_ = data.RankitTable[1];
 }

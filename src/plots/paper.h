@@ -13,10 +13,11 @@
 // twips.
 namespace PlotWBas {
 
-// What is drawn. The record's CTransf (its LnC) holds the outcomes on the scale of
-// `Transformation`, `RankitTable` the scores of the sample size.
+// What is drawn. CTransf holds the outcomes on the scale of `Transformation`, `RankitTable` the
+// scores of the sample size.
 struct PlotData {
   const ExposureSession& s;
+  const std::vector<double>& CTransf;
   const std::vector<double>& RankitTable;
   std::string Transformation;
   base::DateTime time;

@@ -89,14 +89,14 @@ void Writer::PutOutcomes() {
   const ExposureSession& s = data_.s;
   const auto M = static_cast<std::size_t>(SampleCount(s));
   const bool reversed = data_.Transformation.starts_with("1/x");
-  PutOutcome("LblC1", "C(1)=" + GlobalBAS::Shown(s, s.C[1]), s.LnC[reversed ? M : 1]);
+  PutOutcome("LblC1", "C(1)=" + GlobalBAS::Shown(s, s.C[1]), data_.CTransf[reversed ? M : 1]);
   PutOutcome(
       "LblCm",
       "C(" + GlobalBAS::GeneralText(static_cast<double>(M)) + ")=" + GlobalBAS::Shown(s, s.C[M]),
-      s.LnC[reversed ? 1 : M]);
+      data_.CTransf[reversed ? 1 : M]);
   if (M % 2 == 1)
     PutOutcome("LblMedian", LoadResString(1716) + " " + GlobalBAS::ShownTrimmed(s, s.C[0]),
-               s.LnC[M / 2 + 1]);
+               data_.CTransf[M / 2 + 1]);
 }
 
 void Writer::PutPercentage(const char* name, const std::string& text, double z, Across across) {

@@ -4,10 +4,12 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "plots/annex_e.h"
 #include "plots/paper_labels.h"
 #include "plots/regression_line.h"
 #include "session/global_bas.h"
+#include "stats/estimators.h"
 
 namespace plots {
 namespace {
@@ -16,8 +18,8 @@ constexpr char kDefaultTransformation[] = "Log(x)";
 
 }  // namespace
 
-PlotForm::PlotForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts)
-    : SessionForm("PlotForm", navigation::ScreenId::Plot, "TabPlotform", record, programDesk,
+PlotForm::PlotForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts)
+    : SessionForm("PlotForm", navigation::ScreenId::Plot, "TabPlotform", sessionRecord, programDesk,
                   formPorts) {
   for (const std::string& label : PlotWBas::AnnexLabelNames())
     annexLabels_.emplace_back(*this, screen::Kind::PictureLabel, label);
@@ -37,7 +39,7 @@ void PlotForm::Activate() {
   RebuildStrip();
   MenuPlot.Hide();  // it leads here
   WindnrLbl.text = "17a";
-  session.TestTag.clear();
+  flow.TestTag = Extrapolation::None;
   state.RankitTable = analysis::RankitsForSampleSize(SampleCount(session));
   busyPointer = false;
   RefillCTransf();
@@ -48,25 +50,27 @@ void PlotForm::Activate() {
 }
 
 // The size of a hidden screen's picture may change; its series may be gone by then.
-bool PlotForm::IsShown() const {
-  return session.CurrentTab == LoadResString(workflow::TabOf(id).caption);
-}
+bool PlotForm::IsShown() const { return session.CurrentTab == id; }
 
 void PlotForm::RefillCTransf() {
   if (state.Transformation.empty()) state.Transformation = kDefaultTransformation;
-  if (analysis::FillCTransf(session, state.Transformation)) return;
-  state.Transformation = kDefaultTransformation;
-  analysis::FillCTransf(session, state.Transformation);
+  const int M = SampleCount(session);
+  analysis::TransformedSeries series = analysis::Transformed(session.C, M, state.Transformation);
+  if (series.refusal[0] != 0) {
+    state.Transformation = kDefaultTransformation;
+    series = analysis::Transformed(session.C, M, state.Transformation);
+  }
+  state.CTransf = std::move(series.CTransf);
 }
 
 PlotWBas::PlotData PlotForm::Data() const {
-  return {session, state.RankitTable, state.Transformation, ports.clock.Now()};
+  return {session, state.CTransf, state.RankitTable, state.Transformation, ports.clock.Now()};
 }
 
 void PlotForm::PlotStatus() {
   const auto M = static_cast<std::size_t>(SampleCount(session));
-  if (session.LnC.size() <= M) fault::Throw(FaultKind::Subscript);
-  PlotSpan = Checked(session.LnC[M] - session.LnC[1]);
+  if (state.CTransf.size() <= M) fault::Throw(FaultKind::Subscript);
+  PlotSpan = Checked(state.CTransf[M] - state.CTransf[1]);
   if (state.Transformation.empty()) state.Transformation = kDefaultTransformation;
   PlaceBars();
   PlotWBas::Labels labels;
@@ -81,6 +85,8 @@ void PlotForm::PlotStatus() {
   PicPlot.tip = PlotWBas::Shows(PicPlot.drawing, "LblKoptekst", series) ? "" : series;
   TickChoices();
   menuExtrPol.visible = menuExtrPol.enabled = session.LimitsOk;
+  OfferPicture();
+  ShowStatus(note);
 }
 
 void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
@@ -119,11 +125,27 @@ void PlotForm::List(PlotWBas::Labels& labels, const PlotWBas::ListedPlaces& plac
 
 // The message about outcomes that do not differ outlives the regression's own texts.
 analysis::Regression PlotForm::Fit() {
-  const bool noVariability = analysis::CheckVariability(session);
-  const std::string message = session.MsgText;
-  analysis::Regression fit = analysis::ProbabilityRegression(session, state);
-  if (noVariability) session.MsgText = message;
+  const std::string complaint = analysis::VariabilityComplaint(session);
+  const analysis::Regression fit = analysis::FitLine(session, state);
+  flow.MsgText = complaint.empty() ? fit.TestText : complaint;
+  flow.RegressionLabel = fit.RegressionLabel;
+  note = fit.beyondNumbers ? OwnText(Own::LineBeyondNumbers) : "";
+  TakeEstimators(fit);
   return fit;
+}
+
+// Without a line the statistics of the record stay.
+void PlotForm::TakeEstimators(const analysis::Regression& fit) {
+  record.Change([&fit](Given& given) {
+    given.NInRange = fit.NInRange;
+    if (!fit.line) return;
+    given.regression = fit.estimators;
+    given.inForce = fit.estimators ? Estimates::Regression : Estimates::RangeDegrees;
+  });
+  if (!fit.line || session.noEstimates) return;
+  Computed& kept = record.Numbers();
+  kept.GMu = StatFWinBAS::GMUnbiased(session.df, session.GM, session.GSD).value_or(0);
+  kept.SDu = StatFWinBAS::FinneyVarianceMVU(session.df, session.GM, session.GSD);
 }
 
 void PlotForm::ShowLabels(const PlotWBas::Labels& labels) {

@@ -16,7 +16,7 @@ namespace plots {
 // The plot screen: the outcomes on probability paper, the line through them, its fit, and the range
 // of the outcomes that it follows. Each drawing rewrites the statistics of the record.
 struct PlotForm final : navigation::SessionForm {
-  PlotForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  PlotForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control MenuPrinterPrint{*this, screen::Kind::Menu, "MenuPrinterPrint"};
   screen::Control menuSavePicture{*this, screen::Kind::Menu, "menuSavePicture"};
@@ -71,6 +71,7 @@ struct PlotForm final : navigation::SessionForm {
   bool URRActive = false;
   double LimitValue = 0;  // the one last picked, in the unit of the outcomes
   double PlotSpan = 0;
+  std::string note;  // what the status line tells of the last line
 
   void Load() override;
   void Activate() override;
@@ -86,7 +87,7 @@ struct PlotForm final : navigation::SessionForm {
   void PicPlot_MouseDown(double y);
 
  private:
-  using Check = void (*)(ExposureSession&, double);
+  using Check = LimitComplaint (*)(Given&, double);
 
   void ConnectMenus();
   void ConnectLimits();
@@ -98,18 +99,21 @@ struct PlotForm final : navigation::SessionForm {
   void Transform(const std::string& scale);
   // Marks the present scale and kind in their menus.
   void TickChoices();
-  void ShowKind(const char* kind);
+  void ShowKind(PlotStyle kind);
   void ToggleDeveloperMode();
   void ShowDevelopment();
   void SavePicture();
   void Print();
 
-  bool Upright() const { return session.PlotKind != "InvPlot" && !AnnexE(); }
-  bool AnnexE() const { return session.PlotKind == "EN689AnnexE"; }
+  bool Upright() const { return session.PlotKind != PlotStyle::Inverse && !AnnexE(); }
+  bool AnnexE() const { return session.PlotKind == PlotStyle::AnnexE; }
   PlotWBas::PlotData Data() const;
   void DrawCumulative(PlotWBas::Labels& labels);
   void DrawAnnex(PlotWBas::Labels& labels);
+  // The line, whose estimators go into the record.
   analysis::Regression Fit();
+  void TakeEstimators(const analysis::Regression& fit);
+  void CheckLimit(Check check, double value);
   // The inner values, on demand.
   void List(PlotWBas::Labels& labels, const PlotWBas::ListedPlaces& places,
             const analysis::Regression& fit);
@@ -120,8 +124,7 @@ struct PlotForm final : navigation::SessionForm {
   void PlaceBars();
   void FollowLimits(const PlotWBas::LimitMark& LOQ, const PlotWBas::LimitMark& URR);
   void BarMoved(const screen::Control& bar, double from, double sign, Check check);
-  // Shows the complaint of a check; true when there was one.
-  bool Complained();
+  void TellComplaint();
 
   std::deque<screen::Control> annexLabels_;  // controls keep their place
   // In the order of analysis::kTransformations.

@@ -3,28 +3,14 @@
 #include <cmath>
 #include <optional>
 
-#include "analysis/limit_checks.h"
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "plots/plot_form.h"
 #include "plots/regression_line.h"
+#include "session/limit_checks.h"
 
 namespace plots {
 namespace {
-
-constexpr double kBelowLowest = 0.95;
-constexpr double kAboveHighest = 1.05;
-
-// C(i); an index outside 1 to M means the nearer end.
-double Outcome(const ExposureSession& s, int i) {
-  return s.C.at(static_cast<std::size_t>(std::clamp(i, 1, SampleCount(s))));
-}
-
-double DefaultLOQ(const ExposureSession& s) { return Checked(kBelowLowest * Outcome(s, 1)); }
-
-double DefaultURR(const ExposureSession& s) {
-  return Checked(kAboveHighest * Outcome(s, SampleCount(s)));
-}
 
 // Beyond the ends of the frame there may be places that no outcome has.
 std::optional<double> OutcomeAt(const std::string& Transformation, double CTransf) {
@@ -45,37 +31,38 @@ void PlotForm::ConnectLimits() {
   MenuLowLim.Click = [this] { MenuLowLim_Click(); };
   MenuUpLim.Click = [this] { MenuUpLim_Click(); };
   MenuRemDetec.Click = [this] { MenuRemDetec_Click(); };
-  const auto highest = [this] { return session.LnC.at(static_cast<std::size_t>(session.M)); };
-  const auto lowest = [this] { return session.LnC.at(1); };
+  const auto highest = [this] {
+    return state.CTransf.at(static_cast<std::size_t>(SampleCount(session)));
+  };
+  const auto lowest = [this] { return state.CTransf.at(1); };
   VScLowLimit.Change = [this, highest] {
-    BarMoved(VScLowLimit, highest(), -1, analysis::ControleOndergrens);
+    BarMoved(VScLowLimit, highest(), -1, ControleOndergrens);
   };
   // Upward from the highest outcome: the method has it so.
-  HScLowLimit.Change = [this, highest] {
-    BarMoved(HScLowLimit, highest(), 1, analysis::ControleOndergrens);
-  };
-  VScUplimit.Change = [this, highest] {
-    BarMoved(VScUplimit, highest(), -1, analysis::ControleBovengrens);
-  };
-  HScUplimit.Change = [this, lowest] {
-    BarMoved(HScUplimit, lowest(), 1, analysis::ControleBovengrens);
-  };
+  HScLowLimit.Change = [this, highest] { BarMoved(HScLowLimit, highest(), 1, ControleOndergrens); };
+  VScUplimit.Change = [this, highest] { BarMoved(VScUplimit, highest(), -1, ControleBovengrens); };
+  HScUplimit.Change = [this, lowest] { BarMoved(HScUplimit, lowest(), 1, ControleBovengrens); };
 }
 
+// A limit that stands within its bounds is taken up again.
 void PlotForm::MenuLowLim_Click() {
-  session.DetecOn = true;
-  const bool stands = DefaultLOQ(session) <= session.LOQ &&
-                      session.LOQ <= Outcome(session, session.LastInRange - 2);
-  if (!stands) session.LOQ = DefaultLOQ(session);
+  record.Change([](Given& given) {
+    given.DetecOn = true;
+    const bool stands =
+        DefaultLOQ(given) <= given.LOQ && given.LOQ <= NearestOutcome(given, given.LastInRange - 2);
+    if (!stands) given.LOQ = DefaultLOQ(given);
+  });
   OpenPicker(VScLowLimit, HScLowLimit);
   PlotStatus();
 }
 
 void PlotForm::MenuUpLim_Click() {
-  session.DetecOn = true;
-  const bool stands = Outcome(session, session.FirstInRange + 2) < session.URR &&
-                      session.URR <= DefaultURR(session);
-  if (!stands) session.URR = DefaultURR(session);
+  record.Change([](Given& given) {
+    given.DetecOn = true;
+    const bool stands =
+        NearestOutcome(given, given.FirstInRange + 2) < given.URR && given.URR <= DefaultURR(given);
+    if (!stands) given.URR = DefaultURR(given);
+  });
   OpenPicker(VScUplimit, HScUplimit);
   PlotStatus();
 }
@@ -93,15 +80,11 @@ void PlotForm::OpenPicker(screen::Control& upright, screen::Control& across) {
 
 void PlotForm::MenuRemDetec_Click() {
   ResetAll();
-  session.DetecOn = false;
-  session.RegressionOn = false;
-  session.RegressionLabel.clear();
-  session.LOQ = DefaultLOQ(session);
-  session.URR = DefaultURR(session);
-  session.FirstInRange = 1;
-  session.LastInRange = session.NInRange = static_cast<std::int16_t>(SampleCount(session));
-  DegreesOfFreedom(session);
-  LogMoments(session, session.GM, session.GSD);
+  record.Change([](Given& given) {
+    given.DetecOn = false;
+    given.inForce = Estimates::WholeSample;
+  });
+  flow.RegressionLabel.clear();
   PlotStatus();
 }
 
@@ -146,37 +129,48 @@ void PlotForm::FollowLimits(const PlotWBas::LimitMark& LOQ, const PlotWBas::Limi
   if (up.visible) up.value = BarValue(URR.fraction);
 }
 
+// A place that no outcome has is passed over.
 void PlotForm::BarMoved(const screen::Control& bar, double from, double sign, Check check) {
-  session.MsgText.clear();
-  const double t = Checked(from + sign * (bar.value * PlotSpan / 100));
-  LimitValue = analysis::InverseTransform(state.Transformation, t);
-  check(session, LimitValue);
-  if (!Complained()) PlotStatus();
+  flow.MsgText.clear();
+  const double t = from + sign * (bar.value * PlotSpan / 100);
+  const std::optional<double> value = OutcomeAt(state.Transformation, t);
+  if (!value) return;
+  CheckLimit(check, *value);
+  TellComplaint();
+  PlotStatus();
+}
+
+void PlotForm::CheckLimit(Check check, double value) {
+  LimitValue = value;
+  LimitComplaint complaint;
+  record.Change([&](Given& given) { complaint = check(given, value); });
+  flow.MsgText = complaint.MsgText;
+  flow.MsgTitle = complaint.MsgTitle;
 }
 
 // The mouse takes six tenths of the height where the picture has seven: the method has it so.
 void PlotForm::PicPlot_MouseDown(double y) {
   if (!Upright()) return;
-  session.MsgText.clear();
+  flow.MsgText.clear();
   const double below = (y / PicPlot.drawing.ScaleHeight() - 0.2) * 5 / 3;
   const int M = SampleCount(session);
-  const double t = Checked(session.LnC.at(static_cast<std::size_t>(M)) - below * PlotSpan);
+  const double t = state.CTransf.at(static_cast<std::size_t>(M)) - below * PlotSpan;
   if (const auto value = OutcomeAt(state.Transformation, t)) {
     LimitValue = *value;
-    const bool fitsLOQ = DefaultLOQ(session) <= *value && *value < Outcome(session, M - 2);
-    const bool fitsURR = *value > Outcome(session, 3) && *value < Outcome(session, M);
+    const bool fitsLOQ = DefaultLOQ(session) <= *value && *value < NearestOutcome(session, M - 2);
+    const bool fitsURR = *value > NearestOutcome(session, 3) && *value < NearestOutcome(session, M);
     if (LOQActive && fitsLOQ)
-      analysis::ControleOndergrens(session, *value);
+      CheckLimit(ControleOndergrens, *value);
     else if (!LOQActive && URRActive && fitsURR)
-      analysis::ControleBovengrens(session, *value);
+      CheckLimit(ControleBovengrens, *value);
   }
-  if (!Complained()) Activate();
+  TellComplaint();
+  Activate();
 }
 
-bool PlotForm::Complained() {
-  if (session.MsgText.empty()) return false;
-  Complain(session.MsgText, session.MsgTitle);
-  return true;
+// What a check has put in place of a refused limit shows at once.
+void PlotForm::TellComplaint() {
+  if (!session.MsgText.empty()) Complain(session.MsgText, session.MsgTitle);
 }
 
 }  // namespace plots

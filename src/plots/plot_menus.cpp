@@ -4,22 +4,6 @@
 #include "plots/plot_form.h"
 
 namespace plots {
-namespace {
-
-// The hourglass, until the end of the scope however that comes.
-class Busy {
- public:
-  explicit Busy(screen::Form& form) : form_(form) { form.busyPointer = true; }
-  ~Busy() { form_.busyPointer = false; }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-
- private:
-  screen::Form& form_;
-};
-
-}  // namespace
-
 void PlotForm::ConnectMenus() {
   for (std::size_t i = 0; i < scaleMenus_.size(); ++i)
     scaleMenus_[i]->Click = [this, i] {
@@ -28,20 +12,25 @@ void PlotForm::ConnectMenus() {
   MenuRedraw.Click = [this] { PlotStatus(); };
   menuSavePicture.Click = [this] { SavePicture(); };
   MenuPrinterPrint.Click = [this] { Print(); };
-  memuVALKOplot.Click = [this] { ShowKind("VALKORIN"); };
-  MenuInvPlot.Click = [this] { ShowKind("InvPlot"); };
-  MenuAnnexEPlot.Click = [this] { ShowKind("EN689AnnexE"); };
+  memuVALKOplot.Click = [this] { ShowKind(PlotStyle::Paper); };
+  MenuInvPlot.Click = [this] { ShowKind(PlotStyle::Inverse); };
+  MenuAnnexEPlot.Click = [this] { ShowKind(PlotStyle::AnnexE); };
   MenuDevelop.Click = [this] { ShowDevelopment(); };
   MenuDevMode.Click = [this] { ToggleDeveloperMode(); };
 }
 
 void PlotForm::Transform(const std::string& scale) {
-  const Busy busy(*this);
-  if (!analysis::FillCTransf(session, scale)) {
+  const screen::Busy busy(*this);
+  const analysis::TransformedSeries series =
+      analysis::Transformed(session.C, SampleCount(session), scale);
+  if (series.refusal[0] != 0) {
+    flow.MsgText = LoadResString(series.refusal[0]) + session.CR + LoadResString(series.refusal[1]);
+    flow.MsgTitle = LoadResString(analysis::kInvalidTransformation);
     Complain(session.MsgText, session.MsgTitle);
     return;
   }
   state.Transformation = scale;
+  state.CTransf = series.CTransf;
   PlotStatus();
 }
 
@@ -49,22 +38,22 @@ void PlotForm::TickChoices() {
   for (std::size_t i = 0; i < scaleMenus_.size(); ++i)
     scaleMenus_[i]->ticked = state.Transformation == analysis::kTransformations[i].name;
   memuVALKOplot.ticked = Upright();
-  MenuInvPlot.ticked = session.PlotKind == "InvPlot";
+  MenuInvPlot.ticked = session.PlotKind == PlotStyle::Inverse;
   MenuAnnexEPlot.ticked = AnnexE();
 }
 
 // A picker belongs to the kind of plot in which it was opened.
-void PlotForm::ShowKind(const char* kind) {
+void PlotForm::ShowKind(PlotStyle kind) {
   ResetAll();
-  session.PlotKind = kind;
+  flow.PlotKind = kind;
   PlotStatus();
 }
 
 void PlotForm::ToggleDeveloperMode() {
-  session.DeveloperMode = !session.DeveloperMode;
-  if (!session.DeveloperMode && session.PlotKind != "VALKORIN") {
+  flow.DeveloperMode = !session.DeveloperMode;
+  if (!session.DeveloperMode && session.PlotKind != PlotStyle::Paper) {
     ResetAll();
-    session.PlotKind = "VALKORIN";
+    flow.PlotKind = PlotStyle::Paper;
   }
   Activate();
 }

@@ -36,8 +36,8 @@ Room::Room(const Paper& paper, const PlotData& data, const std::optional<LineEnd
   const int M = SampleCount(data.s);
   points_.reserve(static_cast<std::size_t>(M));
   for (int i = 1; i <= M; ++i)
-    points_.push_back(
-        paper.At(data.s.LnC[static_cast<std::size_t>(i)], analysis::Score(data.RankitTable, M, i)));
+    points_.push_back(paper.At(data.CTransf[static_cast<std::size_t>(i)],
+                               analysis::Score(data.RankitTable, M, i)));
 }
 
 bool Room::IsFree(const Label& label) const {

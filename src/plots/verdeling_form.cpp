@@ -9,9 +9,9 @@
 
 namespace plots {
 
-VerdelingForm::VerdelingForm(ExposureSession& record, navigation::Desk& programDesk,
+VerdelingForm::VerdelingForm(Record& sessionRecord, navigation::Desk& programDesk,
                              screen::Ports& formPorts)
-    : Form("VerdelingForm", formPorts), session(record), desk(programDesk) {
+    : Form("VerdelingForm", formPorts), record(sessionRecord), desk(programDesk) {
   menuSavePicture.Click = [this] { SavePicture(); };
   Menuclose.Click = [this] { desk.ClosePicture(); };
   MenuExit.Click = [this] { desk.Exit(); };
@@ -20,26 +20,24 @@ VerdelingForm::VerdelingForm(ExposureSession& record, navigation::Desk& programD
   };
 }
 
-void VerdelingForm::Activate() {
-  WindnrLbl.text = PlotWBas::DensityWindow(PlotWBas::NumbersOf(session).of);
-  Draw();
-}
+void VerdelingForm::Activate() { Draw(); }
 
-// Should a calculation fault, no earlier picture stands there.
+// Where the numbers can't be drawn the way here is closed, and a resize draws nothing.
 void VerdelingForm::Draw() {
   VerdelingPict.drawing.Clear();
   HideLabels();
-  if (session.AMu == 0)
-    session.AMu = StatFWinBAS::FinneyMeanMVU(session.df, session.GM, session.GSD);
-  session.LnGSD = Log(session.GSD);
-  const PlotWBas::DensityData data =
-      PlotWBas::DensityOf(PlotWBas::NumbersOf(session), ports.clock.Now());
+  const std::optional<PlotWBas::PictureNumbers> numbers = PlotWBas::NumbersOf(record);
+  if (!numbers || !PlotWBas::Drawable(*numbers)) return;
+  WindnrLbl.text = numbers->window;
+  const ExposureSession& s = record.Now();
+  Computed& kept = record.Numbers();
+  kept.AMu = StatFWinBAS::FinneyMeanMVU(s.df, s.GM, s.GSD);
+  kept.LnGSD = Log(s.GSD);
+  const PlotWBas::DensityData data = PlotWBas::DensityOf(*numbers, ports.clock.Now());
   PlotWBas::DrawDensity(VerdelingPict.drawing, data);
   // The headline may have had to shorten it.
-  VerdelingPict.tip =
-      PlotWBas::Shows(VerdelingPict.drawing, "LblKoptekst", GlobalBAS::Trim(session.Name))
-          ? ""
-          : GlobalBAS::Trim(session.Name);
+  const std::string series = GlobalBAS::Trim(s.Name);
+  VerdelingPict.tip = PlotWBas::Shows(VerdelingPict.drawing, "LblKoptekst", series) ? "" : series;
   for (const PlotWBas::DensityMark& mark : data.marks) ShowLabel(mark.name, mark.text);
   ShowLabel("XasLbl(0)", data.endText);
   ShowLabel("XasLbl", data.endValue);
@@ -60,15 +58,15 @@ void VerdelingForm::ShowLabel(const std::string& label, const std::string& text)
 }
 
 void VerdelingForm::SavePicture() {
-  session.MsgTitle = LoadResString(902);
-  session.MsgText = LoadResString(904);
+  record.Flow().MsgTitle = LoadResString(902);
+  record.Flow().MsgText = LoadResString(904);
   const std::string path =
       ports.fileDialog.Ask({true, LoadResString(5200), "Valkorin Files (*.bmp)|*.bmp", "", "", 0});
   if (path.empty()) return;
-  session.MsgTitle = LoadResString(910) + path;
-  session.MsgText.clear();
+  record.Flow().MsgTitle = LoadResString(910) + path;
+  record.Flow().MsgText.clear();
   if (!ports.pictureFile.Write(path, VerdelingPict.drawing))
-    Complain("The picture could not be written.", session.MsgTitle);
+    Complain("The picture could not be written.", record.Flow().MsgTitle);
 }
 
 }  // namespace plots

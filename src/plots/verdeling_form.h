@@ -3,16 +3,16 @@
 #include "navigation/desk.h"
 #include "plots/density.h"
 #include "screen/picture.h"
-#include "session/exposure_session.h"
+#include "session/record.h"
 
 namespace plots {
 
 // The frequency distribution picture: the lognormal density of the present GM and GSD with the
 // marks of the screen that it was called from. It changes nothing that a screen shows.
 struct VerdelingForm final : screen::Form {
-  VerdelingForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  VerdelingForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
-  ExposureSession& session;
+  Record& record;
   navigation::Desk& desk;
 
   screen::Control MenuFile{*this, screen::Kind::Menu, "MenuFile"};

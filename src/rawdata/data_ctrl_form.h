@@ -7,7 +7,7 @@ namespace rawdata {
 
 // The data control screen: the series in an editable table, its range, unit and detection range.
 struct DataCtrlForm final : navigation::SessionForm {
-  DataCtrlForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  DataCtrlForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
   screen::Control MenuEdit{*this, screen::Kind::Menu, "MenuEdit"};
@@ -57,16 +57,17 @@ struct DataCtrlForm final : navigation::SessionForm {
   bool RangeCheck();
   void ShowRange();
   void TakeUnit();
+  // Puts the whole sample's GM, GSD and df in force again.
   void SampleStatistics();
-  void ScanSeries();
-  void SortAndLog();
+  void ShowDetection();
   void StatusStrip();
 
   void DetecChB_Click();
   void DetectionOff();
   void DetectionOn();
   void LeaveDetectionLimit(screen::Control& field);
-  void RecountRange();
+  // Changes what was given, and tells what the checks of the range had to say.
+  void ChangeSeries(const std::function<void(Given&)>& change);
 
   std::string CellText(int row, int column);
   std::string OperatorOf(double value) const;

@@ -26,6 +26,9 @@ std::string LineList(const std::vector<int>& lines) {
   return text;
 }
 
+// Outcomes beyond the sample size go with the first edit or save.
+void CutSeries(Given& given) { given.C.resize(static_cast<std::size_t>(SampleCount(given)) + 1); }
+
 std::vector<std::string> Lines(const std::string& text) {
   std::vector<std::string> lines(1);
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -63,12 +66,7 @@ void DataCtrlForm::Rebind() {
   DBGridVkr.rowCount = std::max(count, 0);
   DBGridVkr.text = session.Name;
   SampSzLbl.text = ShownTrimmed(session.M);
-  // Showing a concentration widens the numbers to the longest one.
-  for (int row = 1; row <= DBGridVkr.rowCount; ++row) {
-    const auto width = GlobalBAS::GeneralText(session.C[static_cast<std::size_t>(row)]).size();
-    session.SigDigits = std::max(session.SigDigits, static_cast<std::int16_t>(width));
-  }
-  session.GridData.resize(static_cast<std::size_t>(DBGridVkr.rowCount));
+  flow.GridData.resize(static_cast<std::size_t>(DBGridVkr.rowCount));
   ++DBGridVkr.revision;
 }
 
@@ -79,7 +77,7 @@ std::string DataCtrlForm::CellText(int row, int column) {
   if (column == kNumber) text = Shown(row + 1);
   if (column == kOperator) text = OperatorOf(value);
   if (column == kConcentration) text = Shown(value);
-  session.GridData[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
+  flow.GridData[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
   return text;
 }
 
@@ -107,53 +105,54 @@ bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
   if (column != kConcentration || row < 0 || row >= DBGridVkr.rowCount) return false;
   const double value = GlobalBAS::ReadNumber(text);
   if (Refuses(value)) return false;
-  SizeSeries(session);
-  session.C[static_cast<std::size_t>(row) + 1] = value;
+  ChangeSeries([&](Given& given) {
+    CutSeries(given);
+    given.C[static_cast<std::size_t>(row) + 1] = value;
+  });
   return true;
 }
 
 bool DataCtrlForm::AddRow(const std::string& text) {
   const double value = GlobalBAS::ReadNumber(text);
   if (!HasRoomFor(SampleCount(session) + 1) || Refuses(value)) return false;
-  SizeSeries(session);
-  session.M += 1;
-  SizeSeries(session);
-  std::fill(session.LnC.begin(), session.LnC.end(), 0.0);
-  const auto last = static_cast<std::size_t>(SampleCount(session));
-  session.C[last] = value;
-  if (session.RawIncomplete || value < session.C[last - 1]) session.SortOrder = "Onbekend";
+  ChangeSeries([&](Given& given) {
+    CutSeries(given);
+    given.M += 1;
+    given.C.push_back(value);
+  });
   CommitRow();
   return true;
 }
 
 void DataCtrlForm::DeleteRow(int row) {
-  SizeSeries(session);
-  if (session.M <= 2 || row < 0 || row >= SampleCount(session)) return;
-  session.C.erase(session.C.begin() + row + 1);
-  session.M -= 1;
-  SizeSeries(session);
-  std::fill(session.LnC.begin(), session.LnC.end(), 0.0);
+  if (session.M <= 2 || row < 0 || row >= SampleCount(session)) {
+    ChangeSeries(CutSeries);
+    return;
+  }
+  ChangeSeries([&](Given& given) {
+    CutSeries(given);
+    given.C.erase(given.C.begin() + row + 1);
+    given.M -= 1;
+  });
   DBGridVkr.currentRow = std::min(row, SampleCount(session) - 1);
   CommitRow();
 }
 
+// With a detection range its degrees of freedom hold again behind an edit.
 void DataCtrlForm::CommitRow() {
   DataCtrlStatus();
-  if (!session.RawIncomplete && session.DetecOn) RecountRange();
+  if (!session.RawIncomplete && session.DetecOn) {
+    DetectionOn();
+    ShowDetection();
+    record.AcceptSeries();
+    StatusStrip();
+  }
   Rebind();
 }
 
-// After an edit, the values that lie within the detection range are counted anew.
-void DataCtrlForm::RecountRange() {
-  const auto first = session.C.begin() + 1;
-  const auto last = first + SampleCount(session);
-  const auto below = session.LOQ < *first ? first : std::upper_bound(first, last, session.LOQ);
-  const auto above = session.URR > *(last - 1) ? last : std::lower_bound(first, last, session.URR);
-  if (above - below < 2) return;
-  session.FirstInRange = static_cast<std::int16_t>(below - first + 1);
-  session.LastInRange = static_cast<std::int16_t>(above - first);
-  DetectionOn();
-  DegreesOfFreedom(session);
+void DataCtrlForm::ChangeSeries(const std::function<void(Given&)>& change) {
+  const LimitComplaint complaint = record.Change(change);
+  if (!complaint.MsgText.empty()) Complain(complaint.MsgText, complaint.MsgTitle);
 }
 
 // All lines or none: a refused line would shift the rows behind it.
@@ -171,11 +170,12 @@ void DataCtrlForm::PasteRows(int row, const std::string& text) {
   }
   const int rows = std::max(SampleCount(session), row + static_cast<int>(values.size()));
   if (!HasRoomFor(rows)) return;
-  SizeSeries(session);
-  session.M = rows;
-  SizeSeries(session);
-  std::copy(values.begin(), values.end(), session.C.begin() + 1 + row);
-  session.SortOrder = "Onbekend";
+  ChangeSeries([&](Given& given) {
+    CutSeries(given);
+    given.M = rows;
+    given.C.resize(static_cast<std::size_t>(rows) + 1);
+    std::copy(values.begin(), values.end(), given.C.begin() + 1 + row);
+  });
   CommitRow();
 }
 
@@ -197,8 +197,8 @@ void DataCtrlForm::TellReading(const ReadingNotes* notes) {
 }
 
 void DataCtrlForm::VkrSave() {
-  session.MsgText = LoadResString(1320);
-  session.MsgTitle = LoadResString(1324);
+  flow.MsgText = LoadResString(1320);
+  flow.MsgTitle = LoadResString(1324);
   const std::string path =
       GlobalBAS::Trim(ports.fileDialog.Ask({true, LoadResString(94), "Valkorin Files (*.vkr)|*.vkr",
                                             session.Name, "Valkowin.chm", 100260}));
@@ -209,9 +209,9 @@ void DataCtrlForm::VkrSave() {
   if (!MayOverwrite(path)) return;
   busyPointer = true;
   Refresh();
-  session.MsgTitle = LoadResString(910) + path;
-  session.MsgText.clear();
-  SizeSeries(session);
+  flow.MsgTitle = LoadResString(910) + path;
+  flow.MsgText.clear();
+  record.Change(CutSeries);
   const std::string bytes = FileBytes({session.C.begin() + 1, session.C.end()});
   const bool written = files::WriteSafely(path, bytes);
   busyPointer = false;
@@ -219,7 +219,7 @@ void DataCtrlForm::VkrSave() {
     ReadingLbl.text = "The file could not be written: " + path + ". The series is not saved.";
     return;
   }
-  session.Name = path;
+  record.Change([&path](Given& given) { given.Name = path; });
   mark_ = files::MarkOfBytes(bytes);
   markedPath_ = path;
   desk.MarkSaved();

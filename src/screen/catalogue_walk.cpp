@@ -39,6 +39,7 @@ void ApplyTo(Control& control) {
     case Kind::ComboBox:
     case Kind::Label:
     case Kind::PictureLabel:
+    case Kind::StatusLine:
     case Kind::CommandButton:
     case Kind::Frame:
     case Kind::CheckBox:
@@ -59,7 +60,9 @@ void ApplyTo(Control& control) {
 
 void ApplyCatalogue(Form& form) {
   ReplaceById(form.caption, form.captionTag);
-  for (Control* control : form.controls) ApplyTo(*control);
+  // What the layout does not know brings its texts along.
+  for (Control* control : form.controls)
+    if (control->home.empty()) ApplyTo(*control);
 }
 
 }  // namespace screen

@@ -28,6 +28,7 @@ enum class Kind {
   ScrollBar,
   Picture,
   PictureLabel,  // a text that its screen draws in a picture; it has no widget
+  StatusLine,    // the line below the screen; the window has one for all of them
   CommonDialog
 };
 
@@ -70,6 +71,10 @@ struct Control : ControlState {
 
   const Kind kind;
   const std::string name;  // DimLbl(0) carries its index
+
+  // The design-time name of the menu or frame that takes a menu item or button in which the layout
+  // does not know.
+  std::string home;
 
   // Design-time ids of caption and tip, filled by whoever lays the screen out.
   std::string tag;

@@ -47,6 +47,18 @@ struct SideWindow : Form {
   bool shown = false;
 };
 
+// The busy pointer, until the end of the scope however that comes.
+class Busy {
+ public:
+  explicit Busy(Form& form) : form_(form) { form.busyPointer = true; }
+  ~Busy() { form_.busyPointer = false; }
+  Busy(const Busy&) = delete;
+  Busy& operator=(const Busy&) = delete;
+
+ private:
+  Form& form_;
+};
+
 // Replaces the design-time ids in tag and toolTipText of every control by catalogue texts.
 void ApplyCatalogue(Form& form);
 

@@ -35,17 +35,15 @@ std::string Str(double value);
 // GeneralText with the zero before the point, as raw files hold it.
 std::string FileText(double value);
 
-void CheckU(ExposureSession& s, const Entry& entry, double& value, const Notify& notify);
-void CheckD(ExposureSession& s, const Entry& entry, double& value, const Notify& notify);
-void CheckOELV(ExposureSession& s, const Entry& entry, std::optional<double>& value,
-               const Notify& notify);
-void CheckGM(ExposureSession& s, const Entry& entry, double& value, const Notify& notify);
-void CheckGSD(ExposureSession& s, const Entry& entry, double& value, const Notify& notify);
-void CheckM(ExposureSession& s, const Entry& entry, double& value, const Notify& notify);
-void CheckMRef(ExposureSession& s, const Entry& entry, double& value, const Notify& notify);
+void CheckU(Workflow& s, const Entry& entry, double& value, const Notify& notify);
+void CheckD(Workflow& s, const Entry& entry, double& value, const Notify& notify);
+void CheckOELV(Workflow& s, const Entry& entry, std::optional<double>& value, const Notify& notify);
+void CheckGM(Workflow& s, const Entry& entry, double& value, const Notify& notify);
+void CheckGSD(Workflow& s, const Entry& entry, double& value, const Notify& notify);
+void CheckM(Workflow& s, const Entry& entry, double& value, const Notify& notify);
+void CheckMRef(Workflow& s, const Entry& entry, double& value, const Notify& notify);
 // `text` is the text of the name field; `name` the record's name, changed in place.
-void CheckName(ExposureSession& s, const std::string& text, std::string& name,
-               const Notify& notify);
+void CheckName(Workflow& s, const std::string& text, std::string& name, const Notify& notify);
 
 bool InRangeOELV(const std::optional<double>& value);
 bool InRangeU(double value);
@@ -53,6 +51,10 @@ bool InRangeD(double value);
 bool InRangeGM(double value);
 bool InRangeGSD(double value);
 bool InRangeMRef(double value);
+// Whether the data have a name and a sample size.
+bool Identified(const Given& given);
+// Whether GM and GSD may be used, by the ranges of their fields.
+bool EstimatesInRange(const Derived& d);
 
 // The mask for `value` at `sigDigits`; the empty mask for an absent value.
 std::string FormatMask(const std::optional<double>& value, int sigDigits);

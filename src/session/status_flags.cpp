@@ -12,11 +12,19 @@ constexpr double kDefaultOELV = 1;
 
 }  // namespace
 
+bool Identified(const Given& given) {
+  return !given.Name.empty() && given.M > 1 && given.M <= kMaxSampleSize && !given.refusedFile;
+}
+
+bool EstimatesInRange(const Derived& d) {
+  return !d.noEstimates && InRangeGM(d.GM) && InRangeGSD(d.GSD);
+}
+
 // An absent or refused limit becomes 1 with LimitsOk false; the next run finds the 1 in range and
 // reports LimitsOk true. The screens rely on these two steps.
 void StatusFlags(ExposureSession& s) {
-  s.IdentOk = !s.Name.empty() && s.M > 1 && s.M <= 2000;
-  s.DescOk = s.IdentOk && InRangeGM(s.GM) && InRangeGSD(s.GSD);
+  s.IdentOk = Identified(s);
+  s.DescOk = s.IdentOk && EstimatesInRange(s);
   s.LimitsOk = InRangeOELV(s.OELV);
   if (s.LimitsOk) {
     if (s.U < kLeastPercent) s.U = kDefaultU;

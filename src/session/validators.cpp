@@ -14,7 +14,7 @@ namespace {
 
 enum InputCode : std::int16_t { kAccepted, kEmpty, kZero, kTooSmall, kTooLarge };
 
-struct Limits {
+struct Bounds {
   double lower;
   double upper;
   bool clamps;
@@ -26,31 +26,31 @@ struct Limits {
 
 constexpr int kReferenceTooLarge = 381;  // the one text that is ours and not the catalogue's
 
-constexpr Limits kU = {0.01, 99.99, true, 2120, 2125, 2130, 2135};
-constexpr Limits kD = {0.01, 99.99, true, 2140, 2145, 2150, 2155};
+constexpr Bounds kU = {0.01, 99.99, true, 2120, 2125, 2130, 2135};
+constexpr Bounds kD = {0.01, 99.99, true, 2140, 2145, 2150, 2155};
 // GM keeps a refused value and relies on StatusFlags to mark it; GSD is pulled to its limit.
-constexpr Limits kGM = {0.0001, 10000, false, 770, 775, 780, 785};
-constexpr Limits kGSD = {1.001, 1000, true, 790, 795, 800, 805};
-constexpr Limits kOELV = {1E-10, 1E+10, true, 810, 815, 820, 825};
-constexpr Limits kM = {2, 2000, false, 370, 375, 380, 385};
-constexpr Limits kMRef = {2, 30000, true, 370, 375, kReferenceTooLarge, 385};
+constexpr Bounds kGM = {0.0001, 10000, false, 770, 775, 780, 785};
+constexpr Bounds kGSD = {1.001, 1000, true, 790, 795, 800, 805};
+constexpr Bounds kOELV = {1E-10, 1E+10, true, 810, 815, 820, 825};
+constexpr Bounds kM = {2, 2000, false, 370, 375, 380, 385};
+constexpr Bounds kMRef = {2, 30000, true, 370, 375, kReferenceTooLarge, 385};
 
 std::string ComplaintText(int id) {
   if (id == kReferenceTooLarge) return "A Sample size M of more than thirty thousand is too large";
   return LoadResString(id);
 }
 
-void Begin(ExposureSession& s, const Limits& limits) {
+void Begin(Workflow& s, const Bounds& limits) {
   s.MsgTitle = LoadResString(limits.title);
   s.MsgText.clear();
   s.InputState = kAccepted;
 }
 
-void Complain(ExposureSession& s, const Notify& notify) {
+void Complain(Workflow& s, const Notify& notify) {
   if (s.InputState > kAccepted) notify(s.MsgText, s.MsgTitle);
 }
 
-void CheckLimits(ExposureSession& s, const Limits& limits, double& value) {
+void CheckLimits(Workflow& s, const Bounds& limits, double& value) {
   if (value < limits.lower) {
     s.InputState = kTooSmall;
     s.MsgText = ComplaintText(limits.tooSmall);
@@ -65,14 +65,14 @@ void CheckLimits(ExposureSession& s, const Limits& limits, double& value) {
 // A sample size that is no whole number is cut to one, with the code of an empty entry, so that
 // the hint comes up. Whole is what a ten-thousandth more leaves the same; a negative number is
 // thereby never whole.
-bool CutToWhole(ExposureSession& s, double& value) {
+bool CutToWhole(Workflow& s, double& value) {
   if (std::trunc(value + 0.0001) == value) return false;
   value = std::trunc(value);
   s.InputState = kEmpty;
   return true;
 }
 
-void JudgeValue(ExposureSession& s, const Limits& limits, double& value, bool whole) {
+void JudgeValue(Workflow& s, const Bounds& limits, double& value, bool whole) {
   if (whole && CutToWhole(s, value)) return;
   if (value == 0)
     s.InputState = kZero;
@@ -80,7 +80,7 @@ void JudgeValue(ExposureSession& s, const Limits& limits, double& value, bool wh
     CheckLimits(s, limits, value);
 }
 
-void Check(ExposureSession& s, const Limits& limits, const Entry& entry, double& value, bool whole,
+void Check(Workflow& s, const Bounds& limits, const Entry& entry, double& value, bool whole,
            const Notify& notify) {
   Begin(s, limits);
   if (entry.text.empty()) {
@@ -95,22 +95,22 @@ void Check(ExposureSession& s, const Limits& limits, const Entry& entry, double&
 
 Entry Trimmed(const Entry& entry) { return {Trim(entry.text), entry.touched}; }
 
-bool Within(double value, const Limits& limits) {
+bool Within(double value, const Bounds& limits) {
   return value >= limits.lower && value <= limits.upper;
 }
 
 }  // namespace
 
-void CheckU(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+void CheckU(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   Check(s, kU, entry, value, false, notify);
 }
 
-void CheckD(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+void CheckD(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   Check(s, kD, entry, value, false, notify);
 }
 
 // A field whose limit is still absent has no value to stand for: its text is read.
-void CheckOELV(ExposureSession& s, const Entry& entry, std::optional<double>& value,
+void CheckOELV(Workflow& s, const Entry& entry, std::optional<double>& value,
                const Notify& notify) {
   const Entry read = {entry.text, entry.touched || !value};
   double present = value.value_or(0);
@@ -118,19 +118,19 @@ void CheckOELV(ExposureSession& s, const Entry& entry, std::optional<double>& va
   if (!entry.text.empty()) value = present;
 }
 
-void CheckGM(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+void CheckGM(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   Check(s, kGM, Trimmed(entry), value, false, notify);
 }
 
-void CheckGSD(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+void CheckGSD(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   Check(s, kGSD, Trimmed(entry), value, false, notify);
 }
 
-void CheckM(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+void CheckM(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   Check(s, kM, Trimmed(entry), value, true, notify);
 }
 
-void CheckMRef(ExposureSession& s, const Entry& entry, double& value, const Notify& notify) {
+void CheckMRef(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   const Entry trimmed = Trimmed(entry);
   if (trimmed.text.empty()) return;
   const Notify afterPull = [&](const std::string& text, const std::string& title) {
@@ -140,8 +140,7 @@ void CheckMRef(ExposureSession& s, const Entry& entry, double& value, const Noti
   Check(s, kMRef, trimmed, value, true, afterPull);
 }
 
-void CheckName(ExposureSession& s, const std::string& text, std::string& name,
-               const Notify& notify) {
+void CheckName(Workflow& s, const std::string& text, std::string& name, const Notify& notify) {
   s.MsgTitle = LoadResString(400);
   s.MsgText.clear();
   s.InputState = kAccepted;

@@ -26,22 +26,31 @@ std::size_t Index(ScreenId screen) { return static_cast<std::size_t>(screen); }
 // Conditions on the record.
 bool Always(const ExposureSession&) { return true; }
 bool Never(const ExposureSession&) { return false; }
-bool Raw(const ExposureSession& s) { return s.Mode == "R"; }
-bool ModeChosen(const ExposureSession& s) { return !s.Mode.empty(); }
+bool Raw(const ExposureSession& s) { return s.Mode == DataMode::Raw; }
+bool ModeChosen(const ExposureSession& s) { return s.Mode != DataMode::None; }
 // A regression needs three points.
 bool Plottable(const ExposureSession& s) { return Raw(s) && s.M > 2; }
 bool DescOk(const ExposureSession& s) { return s.DescOk; }
 bool LimitsOk(const ExposureSession& s) { return s.LimitsOk; }
 bool DescAndLimits(const ExposureSession& s) { return s.DescOk && s.LimitsOk; }
-// The start and data control screens hold the later tabs back while a new series is being typed.
-bool Complete(const ExposureSession& s) { return s.LimitsOk || !Raw(s) || !s.RawIncomplete; }
+// A line can be laid through outcomes that differ, also where the range leaves so few degrees of
+// freedom that all outcomes together spread too widely.
+bool LineMayMend(const ExposureSession& s) {
+  return s.spread == Spread::TooLarge && s.inForce == Estimates::RangeDegrees;
+}
+// The start and data control screens hold the later tabs back while a new series is being typed, or
+// where one gives no estimates.
+bool Complete(const ExposureSession& s) {
+  return s.LimitsOk || !Raw(s) || !(s.RawIncomplete || s.noEstimates);
+}
 bool CompleteOrDesc(const ExposureSession& s) { return Complete(s) || s.DescOk; }
-bool CompletePlot(const ExposureSession& s) { return Complete(s) && Plottable(s); }
+bool CompletePlot(const ExposureSession& s) {
+  return (Complete(s) || LineMayMend(s)) && Plottable(s);
+}
 // While other values are tried on top of the sample, the sample itself is out of reach.
 bool RawOpen(const ExposureSession& s) { return Raw(s) && !s.ModifyMode; }
-bool NotModified(const ExposureSession& s) { return !s.ModifyMode; }
 bool PlotOpen(const ExposureSession& s) {
-  return Plottable(s) && !s.ModifyMode && !s.RawIncomplete;
+  return Plottable(s) && !s.ModifyMode && !s.RawIncomplete && (!s.noEstimates || LineMayMend(s));
 }
 
 // Which tabs a screen's strip holds: a condition a tab, in the order of kTabs, and one for the
@@ -79,7 +88,7 @@ constexpr std::array<Strip, 8> kStrips = {{
 constexpr std::array<std::array<Condition, 8>, 8> kGates = {{
     /* to Basis */ {Never, Always, Always, Always, Always, Always, Always, Always},
     /* to DataCtrl */
-    {RawOpen, Never, RawOpen, RawOpen, NotModified, NotModified, NotModified, NotModified},
+    {RawOpen, Never, RawOpen, RawOpen, RawOpen, RawOpen, RawOpen, RawOpen},
     /* to Grenzen */ {DescOk, DescOk, Never, DescOk, Always, Always, Always, Always},
     /* to Descript */ {DescOk, DescOk, Always, Never, Always, Always, Always, Always},
     /* to Plot */
@@ -122,7 +131,10 @@ std::vector<ScreenId> TabSet(const ExposureSession& s, ScreenId shown) {
   return tabs;
 }
 
-bool StripVisible(const ExposureSession& s) { return s.DescOk || (s.IdentOk && s.RawIncomplete); }
+// A series that is still being typed, or that gives no estimates, can be reached and mended.
+bool StripVisible(const ExposureSession& s) {
+  return s.DescOk || (s.IdentOk && (s.RawIncomplete || s.noEstimates));
+}
 
 bool PlotMenuVisible(const ExposureSession& s, ScreenId shown) {
   const std::vector<ScreenId> tabs = TabSet(s, shown);
@@ -130,12 +142,15 @@ bool PlotMenuVisible(const ExposureSession& s, ScreenId shown) {
 }
 
 bool GateOpen(const ExposureSession& s, ScreenId from, ScreenId target) {
+  const bool evaluates = target != Basis && target != DataCtrl && target != Plot;
+  if (s.noEstimates && evaluates) return false;
   return kGates[Index(target)][Index(from)](s);
 }
 
-void PassGate(ExposureSession& s, ScreenId from, ScreenId target) {
-  if (from == UCL || kEmptiesTestTag[Index(target)][Index(from)]) s.TestTag.clear();
-  if (target == Plot) s.PlotKind = "VALKORIN";
+void PassGate(Workflow& flow, ScreenId from, ScreenId target) {
+  if (from == UCL || kEmptiesTestTag[Index(target)][Index(from)])
+    flow.TestTag = Extrapolation::None;
+  if (target == Plot) flow.PlotKind = PlotStyle::Paper;
 }
 
 }  // namespace workflow

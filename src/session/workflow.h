@@ -9,7 +9,7 @@
 // that read them.
 namespace workflow {
 
-enum class ScreenId { Basis, DataCtrl, Grenzen, Descript, Plot, PercEx, UCL, TwoSamp };
+using ::ScreenId;
 
 struct TabText {
   ScreenId screen;
@@ -34,7 +34,7 @@ bool PlotMenuVisible(const ExposureSession& s, ScreenId shown);
 // Whether a click on the tab of `target` on the screen `from` leads there.
 bool GateOpen(const ExposureSession& s, ScreenId from, ScreenId target);
 
-// What passing the gate does to the record (TestTag, PlotKind).
-void PassGate(ExposureSession& s, ScreenId from, ScreenId target);
+// What passing the gate does (TestTag, PlotKind).
+void PassGate(Workflow& flow, ScreenId from, ScreenId target);
 
 }  // namespace workflow

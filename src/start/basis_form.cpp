@@ -1,6 +1,7 @@
 #include "start/basis_form.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "catalog/catalog.h"
 #include "stats/coefficient_status.h"
@@ -13,9 +14,8 @@ constexpr int kReset = 730;
 
 }  // namespace
 
-BasisForm::BasisForm(ExposureSession& record, navigation::Desk& programDesk,
-                     screen::Ports& formPorts)
-    : SessionForm("BasisForm", navigation::ScreenId::Basis, "TabBasis", record, programDesk,
+BasisForm::BasisForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts)
+    : SessionForm("BasisForm", navigation::ScreenId::Basis, "TabBasis", sessionRecord, programDesk,
                   formPorts) {
   WireMenus();
   WireFields();
@@ -24,7 +24,6 @@ BasisForm::BasisForm(ExposureSession& record, navigation::Desk& programDesk,
 void BasisForm::WireMenus() {
   menuopen.Click = [this] {
     if (!desk.MayDropSeries()) return;
-    session.Mode = "R";
     RawOpt.ticked = true;
     DesOpt.ticked = false;
     VkrOpen();
@@ -62,12 +61,8 @@ void BasisForm::Load() {
   WindnrLbl.text = "2";
   Tabs.Hide();
   for (screen::Control* box : {&NameTxB, &SampSizTxB, &GMTxB, &GSDTxB}) box->text.clear();
-  session.Unit.clear();
-  session.Duration.clear();
-  session.RefPeriod.clear();
   OriModiCmd.text = LoadResString(kModify);
   OriModiCmd.Hide();
-  session.ModifyMode = false;
   CmdContinu.Hide();
   menuTools.Hide();
   MenuPlot.Hide();
@@ -100,10 +95,10 @@ void BasisForm::ShowMessage(const std::string& text) {
 }
 
 void BasisForm::RawOpt_Click() {
-  if (!session.Mode.empty()) {
+  if (session.Mode != DataMode::None) {
     if (!desk.MayDropSeries()) {
-      RawOpt.ticked = session.Mode == "R";
-      DesOpt.ticked = session.Mode == "D";
+      RawOpt.ticked = session.Mode == DataMode::Raw;
+      DesOpt.ticked = session.Mode == DataMode::Statistics;
       return;
     }
     Menuclose_Click();
@@ -112,7 +107,7 @@ void BasisForm::RawOpt_Click() {
 }
 
 void BasisForm::ChooseRaw() {
-  session.Mode = "R";
+  record.Change([](Given& given) { given.Mode = DataMode::Raw; });
   RawOpt.ticked = true;
   DesOpt.ticked = false;
   WindnrLbl.text = "8";
@@ -127,17 +122,17 @@ void BasisForm::ChooseRaw() {
 // A mouse click gives the focus first and clicks then: a refusal holds for both. The focus goes
 // back to the other option, so that the next wish for mode "D" is asked about anew.
 void BasisForm::DesOpt_GotFocus() {
-  if (session.Mode == "D") return;
+  if (session.Mode == DataMode::Statistics) return;
   keptSession_ = false;
   DesOpt_Click();
-  keptSession_ = session.Mode != "D";
+  keptSession_ = session.Mode != DataMode::Statistics;
   if (keptSession_) SetFocus(RawOpt);
 }
 
 void BasisForm::DesOpt_Click() {
   const bool declinedJustNow = keptSession_;
   keptSession_ = false;
-  if (!session.Mode.empty() && session.Mode != "D") {
+  if (session.Mode != DataMode::None && session.Mode != DataMode::Statistics) {
     if (declinedJustNow || !desk.MayDropSeries()) {
       DesOpt.ticked = false;
       RawOpt.ticked = true;
@@ -149,7 +144,7 @@ void BasisForm::DesOpt_Click() {
 }
 
 void BasisForm::ChooseStatistics() {
-  session.Mode = "D";
+  record.Change([](Given& given) { given.Mode = DataMode::Statistics; });
   WindnrLbl.text = "7";
   DesOpt.ticked = true;
   RawOpt.ticked = false;
@@ -164,16 +159,18 @@ void BasisForm::ChooseStatistics() {
 }
 
 void BasisForm::MenuNewVkrFil_Click() {
-  if (!session.Mode.empty()) {
+  if (session.Mode != DataMode::None) {
     if (!desk.MayDropSeries()) return;
     Menuclose_Click();
   }
   RawOpt.ticked = true;
   DesOpt.ticked = false;
   WindnrLbl.text = "6";
-  session.RawIncomplete = true;
-  session.DetecOn = false;
-  session.Mode = "R";
+  record.Change([](Given& given) {
+    given.Mode = DataMode::Raw;
+    given.newSeries = true;
+    given.DetecOn = false;
+  });
   IdentFrame.Show();
   DesRawFrame.enabled = false;
   menuopen.enabled = false;
@@ -184,36 +181,52 @@ void BasisForm::MenuNewVkrFil_Click() {
 
 void BasisForm::CmdContinu_Click() {
   BasisStatus();
-  GrowSeries(session);
-  session.RawIncomplete = HasUnfilled(session);
   Tab_Click(workflow::TabOf(navigation::ScreenId::DataCtrl).key);
 }
 
 void BasisForm::OfferModify() { OriModiCmd.text = LoadResString(kModify); }
 
 void BasisForm::OriModiCmd_Click() {
-  if (!session.ModifyMode) {
-    OriModiCmd.text = LoadResString(kReset);
-    session.ModifyMode = true;
-    ori_ = {session.Name, session.M, session.df, session.GM, session.GSD};
-    session.Name += LoadResString(765);
-    session.M = session.df + 1;
-  } else {
-    OfferModify();
-    session.ModifyMode = false;
-    for (screen::Control* box : {&NameTxB, &SampSizTxB, &GMTxB, &GSDTxB}) box->locked = true;
-    session.Name = ori_.Name;
-    session.M = ori_.M;
-    session.df = ori_.df;
-    session.GM = ori_.GM;
-    session.GSD = ori_.GSD;
-  }
+  if (session.ModifyMode)
+    Reset();
+  else
+    Modify();
   BasisStatus();
+}
+
+// Other values are tried on top of the data, which stay as they are.
+void BasisForm::Modify() {
+  OriModiCmd.text = LoadResString(kReset);
+  record.Change([this](Given& given) {
+    given.original = {given.Name,     given.M,          given.TypedGM,
+                      given.TypedGSD, given.typedWidth, given.inForce};
+    given.Name += LoadResString(765);
+    given.M = session.df + 1;
+    given.TypedGM = session.GM;
+    given.TypedGSD = session.GSD;
+  });
+}
+
+void BasisForm::Reset() {
+  OfferModify();
+  for (screen::Control* box : {&NameTxB, &SampSizTxB, &GMTxB, &GSDTxB}) box->locked = true;
+  record.Change([](Given& given) {
+    const Original original = *given.original;
+    given.original.reset();
+    given.Name = original.Name;
+    given.M = original.M;
+    given.TypedGM = original.TypedGM;
+    given.TypedGSD = original.TypedGSD;
+    given.typedWidth = original.typedWidth;
+    given.inForce = original.inForce;
+  });
 }
 
 void BasisForm::LeaveName() {
   if (NameTxB.locked) return;
-  GlobalBAS::CheckName(session, NameTxB.text, session.Name, Notifier());
+  std::string typed = session.Name;
+  GlobalBAS::CheckName(flow, NameTxB.text, typed, Notifier());
+  record.Change([&typed](Given& given) { given.Name = typed; });
   const bool refused = session.InputState != 0;
   BasisStatus();
   if (refused) SetFocus(NameTxB);
@@ -222,51 +235,45 @@ void BasisForm::LeaveName() {
 void BasisForm::LeaveSampleSize() {
   if (SampSizTxB.locked) return;
   const bool typed = SampSizTxB.touched;
-  const double before = session.M;
-  GlobalBAS::CheckM(session, EntryOf(SampSizTxB), session.M, Notifier());
+  double M = session.M;
+  GlobalBAS::CheckM(flow, EntryOf(SampSizTxB), M, Notifier());
   const bool refused = session.InputState != 0;
-  if (session.M != before) SampleSizeChanged();
+  // A number beyond all numbers is no sample size that could be kept.
+  if (std::isfinite(M)) TakeSampleSize(M);
   BasisStatus();
   KeepFocus(SampSizTxB, refused, typed);
 }
 
 void BasisForm::StepSampleSize(double step) {
   if (SampSizTxB.locked) return;
-  const double before = session.M;
-  session.M = std::clamp(session.M + step, 2.0, static_cast<double>(kMaxSampleSize));
-  if (session.M != before) SampleSizeChanged();
+  TakeSampleSize(std::clamp(session.M + step, 2.0, static_cast<double>(kMaxSampleSize)));
   BasisStatus();
 }
 
-// A refused sample size changes nothing else. A modified one is a what-if on top of the series and
-// leaves the series alone.
-void BasisForm::SampleSizeChanged() {
-  if (session.M < 2 || session.M > kMaxSampleSize) return;
-  if (session.ModifyMode) {
-    session.df = session.M - 1;
-    return;
-  }
-  if (session.Mode == "R") {
-    GrowSeries(session);
-    session.RawIncomplete = HasUnfilled(session);
-  }
-  DegreesOfFreedom(session);
+// A series is evaluated anew for its first M outcomes, by the degrees of freedom of its range.
+void BasisForm::TakeSampleSize(double M) {
+  if (M == session.M) return;
+  const LimitComplaint complaint = record.Change([M](Given& given) {
+    given.M = M;
+    if (given.inForce != Estimates::Typed) given.inForce = Estimates::RangeDegrees;
+  });
+  if (!complaint.MsgText.empty()) Complain(complaint.MsgText, complaint.MsgTitle);
 }
 
 void BasisForm::LeaveStatistic(screen::Control& field) {
   if (field.locked) return;
   const bool typed = field.touched;
   const bool isGM = &field == &GMTxB;
-  double& value = isGM ? session.GM : session.GSD;
-  if (isGM)
-    GlobalBAS::CheckGM(session, EntryOf(field), value, Notifier());
-  else
-    GlobalBAS::CheckGSD(session, EntryOf(field), value, Notifier());
+  double value = isGM ? session.TypedGM : session.TypedGSD;
+  const auto check = isGM ? GlobalBAS::CheckGM : GlobalBAS::CheckGSD;
+  check(flow, EntryOf(field), value, Notifier());
   const bool refused = session.InputState != 0;
-  if (!refused) {
+  record.Change([&](Given& given) {
+    (isGM ? given.TypedGM : given.TypedGSD) = value;
+    if (refused || !typed) return;
     const auto width = static_cast<std::int16_t>(GlobalBAS::GeneralText(value).size());
-    session.SigDigits = std::max(session.SigDigits, width);
-  }
+    given.typedWidth = std::max(given.typedWidth, width);
+  });
   BasisStatus();
   KeepFocus(field, refused, typed);
 }

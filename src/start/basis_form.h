@@ -11,7 +11,7 @@ namespace start {
 // The start screen: choice of the data type, identification of the data, and in mode "D" the
 // known geometric mean and standard deviation.
 struct BasisForm final : navigation::SessionForm {
-  BasisForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  BasisForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control menuopen{*this, screen::Kind::Menu, "menuopen"};
   screen::Control MenuNewVkrFil{*this, screen::Kind::Menu, "MenuNewVkrFil"};
@@ -65,15 +65,6 @@ struct BasisForm final : navigation::SessionForm {
   void OpeningMessage();
 
  private:
-  // What Modify saves and Reset brings back.
-  struct Original {
-    std::string Name;
-    double M = 0;
-    double df = 0;
-    double GM = 0;
-    double GSD = 0;
-  };
-
   void WireMenus();
   void WireFields();
 
@@ -91,7 +82,9 @@ struct BasisForm final : navigation::SessionForm {
   void LeaveName();
   void LeaveSampleSize();
   void StepSampleSize(double step);
-  void SampleSizeChanged();
+  void TakeSampleSize(double M);
+  void Modify();
+  void Reset();
   void LeaveStatistic(screen::Control& field);
   void KeepFocus(screen::Control& field, bool refused, bool typed);
 
@@ -103,9 +96,8 @@ struct BasisForm final : navigation::SessionForm {
   void ShowMessage(const std::string& text);
 
   void TellRefusal(const std::string& path, const rawdata::FileCheck& check);
-  void TakeSeries(const rawdata::FileValues& file);
+  void TakeSeries(const std::string& path, const rawdata::FileValues& file);
 
-  Original ori_;
   bool keptSession_ = false;  // the user has just declined to give up the series for mode "D"
 };
 

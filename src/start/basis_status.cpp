@@ -8,14 +8,14 @@ void BasisForm::BasisStatus() {
   menuExtrPol.enabled = false;
   menuTools.Show();
   MenuPlot.enabled = true;
-  if (session.Mode.empty()) {
+  if (session.Mode == DataMode::None) {
     IdentFrame.Hide();
     NameTxB.locked = false;
     SampSizTxB.locked = false;
     menuTools.Hide();
     return;
   }
-  if (session.Mode == "R")
+  if (session.Mode == DataMode::Raw)
     StatusRaw();
   else
     StatusKnown();
@@ -74,7 +74,6 @@ void BasisForm::StatusKnown() {
   }
   BoodschFrame.Hide();
   DescriptFrame.Show();
-  DegreesOfFreedom(session);
   ShowDegrees();
   GMTxB.locked = false;
   GSDTxB.locked = false;
@@ -102,6 +101,8 @@ void BasisForm::StatusStrip() {
   Tabs.visible = workflow::StripVisible(session);
   if (!Tabs.visible) {
     MenuPlot.Hide();
+    OfferPicture();
+    ShowStatus();
     return;
   }
   if (session.LimitsOk) menuTools.Show();
@@ -117,27 +118,9 @@ void BasisForm::Menuclose_Click() {
 }
 
 void BasisForm::Sluiten() {
-  session.Name.clear();
-  session.M = 0;
-  if (session.Mode == "R") {
-    session.C.assign(1, 0.0);
-    session.LnC.assign(1, 0.0);
-    if (tellReading) tellReading(nullptr);
-    session.GridData.assign(1, {});
-  }
-  session.Mode.clear();
-  session.DescOk = false;
-  session.IdentOk = false;
-  if (session.LimitsOk) GlobalBAS::StatusFlags(session);
-  session.LimitsOk = false;
-  session.RawIncomplete = false;
-  session.SortOrder = "Onbekend";
-  session.MsgTitle.clear();
-  session.MsgText.clear();
-  session.InputState = 0;
-  session.DetecOn = false;
-  session.RegressionOn = false;
-  session.ModifyMode = false;
+  const bool raw = session.Mode == DataMode::Raw;
+  record.Close();
+  if (raw && tellReading) tellReading(nullptr);
 
   DesRawFrame.enabled = true;
   DesRawFrame.Show();
@@ -145,21 +128,13 @@ void BasisForm::Sluiten() {
   RawOpt.ticked = true;
   DesOpt.ticked = false;
   if (!wasTicked) ChooseRaw();
-  session.IdentOk = false;
   IdentFrame.Hide();
   for (screen::Control* box : {&NameTxB, &SampSizTxB}) {
     box->text.clear();
     box->locked = false;
   }
-  session.Unit.clear();
-  session.Duration.clear();
-  session.RefPeriod.clear();
   DescriptFrame.Hide();
   for (screen::Control* box : {&DegreesLbl, &GMTxB, &GSDTxB}) box->text.clear();
-  session.df = 0;
-  session.GM = 0;
-  session.GSD = 0;
-  session.LogName.clear();
   desk.MarkSaved();
   OpeningMessage();
   menuTools.Hide();
@@ -169,6 +144,7 @@ void BasisForm::Sluiten() {
   CmdContinu.Hide();
   Tabs.Hide();
   busyPointer = false;
+  ShowStatus();
 }
 
 }  // namespace start

@@ -5,12 +5,16 @@
 
 #include "analysis/descript_form.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "compare/two_samp_comp_form.h"
+#include "compliance/compliance_tests.h"
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
+#include "plots/density_view.h"
 #include "plots/plot_form.h"
 #include "plots/verdeling_form.h"
 #include "rawdata/data_ctrl_form.h"
+#include "session/derivation.h"
 #include "start/basis_form.h"
 #include "start/version.h"
 #include "stats/coefficients.h"
@@ -24,15 +28,15 @@ struct Program::Parts {
   Parts(Program& program, screen::Ports& formPorts, std::vector<std::string> folders)
       : ports(formPorts),
         coefficientFolders(std::move(folders)),
-        basis(session, program, formPorts),
-        dataCtrl(session, program, formPorts),
-        grenzen(session, program, formPorts),
-        descript(session, program, formPorts),
-        plot(session, program, formPorts),
-        percEx(session, program, formPorts),
-        mean(session, program, formPorts),
-        compare(session, program, formPorts),
-        verdeling(session, program, formPorts),
+        basis(record, program, formPorts),
+        dataCtrl(record, program, formPorts),
+        grenzen(record, program, formPorts),
+        descript(record, program, formPorts),
+        plot(record, program, formPorts),
+        percEx(record, program, formPorts),
+        mean(record, program, formPorts),
+        compare(record, program, formPorts),
+        verdeling(record, program, formPorts),
         forms{&basis, &dataCtrl, &grenzen, &descript, &plot, &percEx, &mean, &compare} {
     allForms.push_back(&mean.landHulp);
     allForms.push_back(&verdeling);
@@ -41,7 +45,8 @@ struct Program::Parts {
 
   screen::Ports& ports;
   const std::vector<std::string> coefficientFolders;
-  ExposureSession session;
+  Record record;
+  const ExposureSession& session = record.Now();
   BasisForm basis;
   rawdata::DataCtrlForm dataCtrl;
   limits::GrenzenForm grenzen;
@@ -65,11 +70,11 @@ struct Program::Parts {
     return nullptr;
   }
 
-  // The outcomes 1 to M as they would be written. Under Modify the record's M is another one.
+  // The outcomes 1 to M as they would be written.
   std::vector<double> Series() const {
     if (session.C.size() < 2) return {};
-    auto count = static_cast<std::size_t>(SampleCount(session));
-    if (session.ModifyMode || count >= session.C.size()) count = session.C.size() - 1;
+    const auto count =
+        std::min(static_cast<std::size_t>(SeriesCount(session)), session.C.size() - 1);
     return {session.C.begin() + 1, session.C.begin() + 1 + static_cast<std::ptrdiff_t>(count)};
   }
 
@@ -79,24 +84,22 @@ struct Program::Parts {
     return std::none_of(series.begin(), series.end(), [](double c) { return c > 0; });
   }
 
-  void StartExtrapolation(const std::string& tag) {
-    if (tag == "Ap")
+  void StartExtrapolation(Extrapolation tag) {
+    if (tag == Extrapolation::Jahr)
       mean.JahrCmb_Click();
-    else if (tag == "Ex")
+    else if (tag == Extrapolation::Land)
       mean.LandCmb_Click();
-    else if (tag == "Wi")
-      percEx.WilksCmb_Click();
-    else if (tag == "Tu")
-      percEx.TuggleCmb_Click();
     else
-      percEx.LeidelCmb_Click();
+      percEx.Run(tag);
   }
 
   // What to ask before the program ends; the words follow the kind of data.
   std::string ExitQuestion() const {
     const std::string start = LoadResString(215);
-    if (session.Mode == "R") return start + LoadResString(220) + session.Name + LoadResString(225);
-    if (session.Mode == "D") return start + LoadResString(230) + session.Name + LoadResString(225);
+    if (session.Mode == DataMode::Raw)
+      return start + LoadResString(220) + session.Name + LoadResString(225);
+    if (session.Mode == DataMode::Statistics)
+      return start + LoadResString(230) + session.Name + LoadResString(225);
     return start + LoadResString(220) + LoadResString(235);
   }
 };
@@ -106,7 +109,9 @@ Program::Program(screen::Ports& ports, std::vector<std::string> coefficientFolde
 
 Program::~Program() = default;
 
-ExposureSession& Program::Session() { return parts_->session; }
+ExposureSession& Program::Session() { return parts_->record.Script(); }
+
+const Record& Program::SessionRecord() const { return parts_->record; }
 
 const std::vector<screen::Form*>& Program::Forms() const { return parts_->allForms; }
 
@@ -126,8 +131,8 @@ void Program::Start() {
     }
   };
   Parts& p = *parts_;
-  p.session.CR = "\r";
-  step([&] { p.session.VersionText = LoadResString(2) + kVersion + "  "; });
+  p.record.Flow().CR = "\r";
+  step([&] { p.record.Flow().VersionText = LoadResString(2) + kVersion + "  "; });
   step([&] { p.basis.caption = p.session.VersionText + LoadResString(3); });
   for (screen::Form* form : p.allForms) step([&] { screen::ApplyCatalogue(*form); });
   for (screen::Form* form : p.allForms)
@@ -148,7 +153,7 @@ std::string Program::Title() const {
 
 bool Program::Unsaved() const {
   const Parts& p = *parts_;
-  return p.session.Mode == "R" && p.Series() != p.savedSeries &&
+  return p.session.Mode == DataMode::Raw && p.Series() != p.savedSeries &&
          !(p.savedSeries.empty() && p.NothingTyped());
 }
 
@@ -172,7 +177,7 @@ void Program::Open(ScreenId target) {
   if (!form) return;
   if (ShowsPicture()) p.shown = p.behindPicture;
   // Whichever way the mean is left, what it showed is no test of another screen.
-  if (p.shown == &p.mean && form != &p.mean) p.session.TestTag.clear();
+  if (p.shown == &p.mean && form != &p.mean) p.record.Flow().TestTag = Extrapolation::None;
   p.shown = form;
   form->focusWanted = nullptr;
   if (form == &p.percEx && !p.percEx.loaded) p.percEx.Load();
@@ -181,18 +186,35 @@ void Program::Open(ScreenId target) {
   form->Activate();
 }
 
-void Program::RunExtrapolation(const std::string& tag) {
+const std::vector<navigation::ExtrapolationMenu>& Program::Extrapolations() const {
+  static const std::vector<navigation::ExtrapolationMenu> menus = [] {
+    std::vector<navigation::ExtrapolationMenu> all;
+    for (const compliance::ComplianceTest* test : compliance::ComplianceTests())
+      all.push_back({test->tag, ScreenId::PercEx, test->menu, "menuExtrPol", test->menuCaption});
+    all.push_back({Extrapolation::Jahr, ScreenId::UCL, "MenuJahr", "MenuAM", 54});
+    all.push_back({Extrapolation::Land, ScreenId::UCL, "MenuLand", "MenuAM", 56});
+    return all;
+  }();
+  return menus;
+}
+
+void Program::RunExtrapolation(Extrapolation tag) {
   Parts& p = *parts_;
-  const bool ofMean = tag == "Ap" || tag == "Ex";
-  const ScreenId target = ofMean ? ScreenId::UCL : ScreenId::PercEx;
+  const auto item = std::ranges::find(Extrapolations(), tag, &navigation::ExtrapolationMenu::tag);
   auto& from = *static_cast<navigation::SessionForm*>(p.shown);
-  if (from.id != target) {
+  if (from.id != item->screen) {
     from.BeforeTabClick();
-    if (!workflow::GateOpen(p.session, from.id, target)) return;
-    workflow::PassGate(p.session, from.id, target);
-    Open(target);
+    if (!workflow::GateOpen(p.session, from.id, item->screen)) return;
+    workflow::PassGate(p.record.Flow(), from.id, item->screen);
+    Open(item->screen);
   }
   p.StartExtrapolation(tag);
+}
+
+std::string Program::PictureObstacle() const {
+  const auto numbers = PlotWBas::NumbersOf(parts_->record);
+  if (!numbers) return OwnText(Own::PictureNeedsTest);
+  return PlotWBas::Drawable(*numbers) ? "" : OwnText(Own::NoPicture);
 }
 
 void Program::ShowPicture() {

@@ -8,6 +8,7 @@
 #include "navigation/desk.h"
 #include "screen/form.h"
 #include "screen/ports.h"
+#include "session/record.h"
 
 namespace start {
 
@@ -19,7 +20,9 @@ class Program final : public navigation::Desk {
   Program(screen::Ports& ports, std::vector<std::string> coefficientFolders);
   ~Program() override;
 
+  // Every field of the record, for session scripts.
   ExposureSession& Session();
+  const Record& SessionRecord() const;
   const std::vector<screen::Form*>& Forms() const;
   screen::Form* FormByName(const std::string& name) const;
 
@@ -44,7 +47,9 @@ class Program final : public navigation::Desk {
   void Open(navigation::ScreenId target) override;
   bool Unsaved() const override;
   void MarkSaved() override;
-  void RunExtrapolation(const std::string& tag) override;
+  const std::vector<navigation::ExtrapolationMenu>& Extrapolations() const override;
+  void RunExtrapolation(Extrapolation tag) override;
+  std::string PictureObstacle() const override;
   void ShowPicture() override;
   void ClosePicture() override;
   bool ShowsPicture() const override;

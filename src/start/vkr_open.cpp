@@ -1,6 +1,3 @@
-#include <algorithm>
-
-#include "base/fault.h"
 #include "catalog/catalog.h"
 #include "start/basis_form.h"
 
@@ -23,39 +20,44 @@ std::string RefusalText(const rawdata::FileCheck& check, const std::string& cr) 
 
 }  // namespace
 
+// A file that is refused leaves a series that is there alone; without one its name and the number
+// of its lines stay, and nothing can be done with them.
 void BasisForm::VkrOpen() {
-  const ExposureSession before = session;
-  const bool loaded = session.C.size() > 2;  // closing the data leaves one element
-  session.MsgText = LoadResString(902);
-  session.MsgTitle = LoadResString(904);
+  flow.MsgText = LoadResString(902);
+  flow.MsgTitle = LoadResString(904);
   const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
       {false, LoadResString(900), "Valkorin Files (*.vkr)|*.vkr", "", "Valkowin.chm", 100170}));
   if (path.empty()) {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
     return;
   }
-  busyPointer = true;
-  Refresh();
-  session.Name = path;
-  session.MsgTitle = LoadResString(910) + path;
-  const rawdata::FileCheck check = rawdata::CheckFile(path);
-  session.M = check.count;
+  rawdata::FileCheck check;
   rawdata::FileValues file;
-  if (check.readable && check.messageId == 0) file = rawdata::ReadFile(path, check.count);
-  busyPointer = false;
+  {
+    const screen::Busy busy(*this);
+    Refresh();
+    flow.MsgTitle = LoadResString(910) + path;
+    check = rawdata::CheckFile(path);
+    if (check.readable && check.messageId == 0) file = rawdata::ReadFile(path, check.count);
+  }
   if (file.ok) {
-    TakeSeries(file);
+    TakeSeries(path, file);
     return;
   }
   // A file that can't be read ends without a box; a refused one says why.
   if (check.readable && check.messageId != 0) {
-    session.MsgText = LoadResString(check.messageId);
+    flow.MsgText = LoadResString(check.messageId);
     Complain(session.MsgText, session.MsgTitle);
   }
-  if (loaded) {
-    session = before;
+  if (session.C.size() > 2)
     BasisStatus();
-  }
+  else
+    record.Change([&](Given& given) {
+      given.Mode = DataMode::Raw;
+      given.Name = path;
+      given.M = check.count;
+      given.refusedFile = true;
+    });
   TellRefusal(path, check);
 }
 
@@ -66,32 +68,26 @@ void BasisForm::TellRefusal(const std::string& path, const rawdata::FileCheck& c
     ShowMessage(RefusalText(check, session.CR));
 }
 
-void BasisForm::TakeSeries(const rawdata::FileValues& file) {
-  session.RawIncomplete = false;
-  session.DescOk = true;
-  session.Mode = "R";
-  session.ModifyMode = false;
+// Another series: nothing of the one before but what documents it.
+void BasisForm::TakeSeries(const std::string& path, const rawdata::FileValues& file) {
   OfferModify();
-  const int count = SampleCount(session);
-  SizeSeries(session);
-  std::copy(file.values.begin(), file.values.end(), session.C.begin() + 1);
-  session.SortOrder =
-      std::is_sorted(session.C.begin() + 1, session.C.end()) ? "Ascending" : "Onbekend";
-  rawdata::SortValues(count, session.C, session.SortOrder);
-  StoreMedian(session);
-  session.LnC[0] = 0;
-  for (std::size_t i = 1; i < session.C.size(); ++i) session.LnC[i] = Log(session.C[i]);
-  session.DescOk = true;
-  session.IdentOk = true;
-  session.DetecOn = false;
-  session.RegressionOn = false;
-  session.LOQ = 0.95 * session.C[1];
-  session.URR = 1.05 * session.C[static_cast<std::size_t>(count)];
-  session.FirstInRange = 1;
-  session.LastInRange = static_cast<std::int16_t>(count);
-  session.NInRange = static_cast<std::int16_t>(count);
-  DegreesOfFreedom(session);
-  session.GridData.assign(static_cast<std::size_t>(count), {});
+  record.Change([&](Given& given) {
+    Given fresh;
+    fresh.Mode = DataMode::Raw;
+    fresh.Name = path;
+    fresh.M = static_cast<double>(file.values.size());
+    fresh.C.assign(1, 0.0);
+    fresh.C.insert(fresh.C.end(), file.values.begin(), file.values.end());
+    fresh.Unit = given.Unit;
+    fresh.RefPeriod = given.RefPeriod;
+    fresh.Duration = given.Duration;
+    fresh.OELV = given.OELV;
+    fresh.U = given.U;
+    fresh.D = given.D;
+    given = fresh;
+  });
+  record.AcceptSeries();
+  flow.GridData.assign(file.values.size(), {});
   if (tellReading) tellReading(&file.notes);
   desk.MarkSaved();
   desk.Open(navigation::ScreenId::DataCtrl);

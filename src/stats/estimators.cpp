@@ -25,7 +25,7 @@ double FinneySeries(double n, double A) {
 }
 
 // Mean and standard deviation of the outcomes themselves.
-void SampleMoments(ExposureSession& s) {
+LinearStatistics SampleMoments(const ExposureSession& s) {
   if (s.C.size() <= static_cast<std::size_t>(SampleCount(s))) fault::Throw(FaultKind::Subscript);
   double S1 = 0;
   double S2 = 0;
@@ -34,23 +34,27 @@ void SampleMoments(ExposureSession& s) {
     S1 = Checked(S1 + c);
     S2 = Checked(S2 + c * c);
   }
-  s.XM = Divide(S1, s.M);
+  LinearStatistics out;
+  out.XM = Divide(S1, s.M);
   const double Q = Checked(S2 - Divide(S1 * S1, s.M));
-  if (Q <= 1E-10) {
-    s.InputState = 4;
-    return;
-  }
-  s.SDlin = Sqrt(Divide(Q, s.M - 1));
-  if (s.SDlin >= 10000) s.InputState = 5;
+  if (Q > 1E-10) out.SDlin = Sqrt(Divide(Q, s.M - 1));
+  return out;
 }
 
 // Mean and standard deviation that follow from GM and GSD.
-void LognormalMoments(ExposureSession& s) {
+LinearStatistics LognormalMoments(const ExposureSession& s) {
   const double L = Log(s.GSD);
   const double v = L * L;
   const double e = Exp(v / 2);
-  s.XM = Checked(s.GM * e);
-  s.SDlin = Sqrt(Divide(Checked(s.GM * s.GM * e * (e - 1) * s.M), s.M - 1));
+  LinearStatistics out;
+  out.XM = Checked(s.GM * e);
+  out.SDlin = Sqrt(Divide(Checked(s.GM * s.GM * e * (e - 1) * s.M), s.M - 1));
+  return out;
+}
+
+// While the user tries other values, it is those that are judged and not the outcomes.
+bool JudgesOutcomes(const ExposureSession& s) {
+  return s.Mode == DataMode::Raw && !s.DetecOn && !s.ModifyMode;
 }
 
 }  // namespace
@@ -84,31 +88,54 @@ double FinneyVarianceMVU(double& df, double& GM, double& GSD) {
   return Divide(Checked(Sum * (GM * GM)), df);
 }
 
-double GMUnbiased(ExposureSession& s, double& GM, double& GSD) {
-  s.InputState = 0;
-  if (Divide(GSD, (s.df + 1) * (s.df + 1)) > 6) {
-    s.InputState = 1;
-    return 0;
-  }
+std::optional<double> GMUnbiased(double df, double GM, double GSD) {
+  if (Divide(GSD, (df + 1) * (df + 1)) > 6) return std::nullopt;
   const double L = Log(GSD);
   const double A = Checked(-(L * L)) / 4;
   double t = 1;
   double S = 1;
   int j = 1;
   do {
-    t = Divide(Checked(t * A) / j, s.df / 2 + j);
+    t = Divide(Checked(t * A) / j, df / 2 + j);
     S = Checked(S + t);
     j = j + 1;
   } while (!(std::abs(t) < kSmallTerm || j > kMostTerms));
   return Checked(S * GM);
 }
 
+double GMUnbiased(ExposureSession& s, double GM, double GSD) {
+  s.InputState = 0;
+  const std::optional<double> GMu = GMUnbiased(s.df, GM, GSD);
+  if (!GMu) s.InputState = 1;
+  return GMu.value_or(0);
+}
+
+LinearStatistics LinearMomentsOf(const ExposureSession& s) {
+  return JudgesOutcomes(s) ? SampleMoments(s) : LognormalMoments(s);
+}
+
 void LinearMoments(ExposureSession& s) {
-  // While the user tries other values, it is those that are judged and not the outcomes.
-  if (s.Mode == "R" && !s.DetecOn && !s.ModifyMode)
-    SampleMoments(s);
-  else
-    LognormalMoments(s);
+  const LinearStatistics linear = LinearMomentsOf(s);
+  s.XM = linear.XM;
+  if (linear.SDlin) s.SDlin = *linear.SDlin;
+  if (!JudgesOutcomes(s)) return;
+  if (!linear.SDlin)
+    s.InputState = 4;
+  else if (s.SDlin >= 10000)
+    s.InputState = 5;
+}
+
+Estimators EstimatorsOf(const ExposureSession& s) {
+  Estimators out;
+  out.GMu = GMUnbiased(s.df, s.GM, s.GSD);
+  out.LnGM = Log(s.GM);
+  out.LnGSD = Log(s.GSD);
+  out.AMml = Exp(out.LnGM + 0.5 * (out.LnGSD * out.LnGSD));
+  out.AMu = FinneyMeanMVU(s.df, s.GM, s.GSD);
+  if (s.df > 3) out.AMmv = FinneyMeanMMSE(s.df, s.GM, s.GSD);
+  out.SDu = Sqrt(FinneyVarianceMVU(s.df, s.GM, s.GSD));
+  out.linear = LinearMomentsOf(s);
+  return out;
 }
 
 }  // namespace StatFWinBAS

@@ -1,11 +1,9 @@
 #include "ucl/mean_limit.h"
 
 #include <cmath>
-#include <utility>
 
 #include "base/fault.h"
 #include "stats/estimators.h"
-#include "ucl/jahr.h"
 #include "ucl/land_exact.h"
 
 namespace ucl {
@@ -14,56 +12,54 @@ namespace {
 constexpr double kNearestTail = 1E-11;  // the root of a smaller p, or 1 - p, lies at infinity
 constexpr double kLastRange = 0.0001;   // percent
 
-double Limit(const ExposureSession& s) {
-  if (!s.OELV) fault::Throw(FaultKind::InvalidOperation);
-  return *s.OELV;
+double Limit(const Limits& limits) {
+  if (!limits.OELV) fault::Throw(FaultKind::InvalidOperation);
+  return *limits.OELV;
 }
 
-// How far the trial's limit lies above OELV on the logarithmic scale; only its sign counts.
-double Excess(const ExposureSession& s, double LnOELV, UCLBAS::LandWatch& watch) {
-  const double p = 1 - s.LandConfidence / 100;
-  if (p < kNearestTail) return 1;
-  if (p > 1 - kNearestTail) return -1;
-  return UCLBAS::LandExactUCL(0.5, s.df, s.LnGSD, s.LnGM, s.LandConfidence, watch).UCL - LnOELV;
-}
+// The search for the confidence whose limit equals OELV.
+class ConfidenceSearch {
+ public:
+  ConfidenceSearch(const TestBasis& basis, const MeanStatistics& statistics,
+                   UCLBAS::LandWatch& watch)
+      : df_(basis.df), statistics_(statistics), LnOELV_(Log(Limit(basis))), watch_(watch) {}
 
-// Halves towards the confidence whose limit equals OELV; returns the number of trials.
-int SearchConfidence(ExposureSession& s, UCLBAS::LandWatch& watch) {
-  const double LnOELV = Log(Limit(s));
-  double LandLow = 0;
-  double LandHigh = 100;
-  int halvings = 0;
-  do {
-    ++halvings;
-    if (Excess(s, LnOELV, watch) < 0) {
-      LandLow = s.LandConfidence;
-      s.LandConfidence = (s.LandConfidence + LandHigh) / 2;
-    } else {
-      LandHigh = s.LandConfidence;
-      s.LandConfidence = (s.LandConfidence + LandLow) / 2;
-    }
-  } while (std::abs(LandLow - LandHigh) >= kLastRange);
-  return halvings;
-}
-
-LandResult Searched(ExposureSession& s, UCLBAS::LandWatch& watch) {
-  LandResult result;
-  JahrLimits(s);
-  result.Refusal = LandRefusal(s.M, s.D);
-  if (!result.Refusal.empty()) {
-    s.TestTag = "";
-    return result;
+  // Halves towards it from `LandConfidence` on; returns the number of trials.
+  int Run(double& LandConfidence) {
+    double LandLow = 0;
+    double LandHigh = 100;
+    int halvings = 0;
+    do {
+      ++halvings;
+      if (Excess(LandConfidence) < 0) {
+        LandLow = LandConfidence;
+        LandConfidence = (LandConfidence + LandHigh) / 2;
+      } else {
+        LandHigh = LandConfidence;
+        LandConfidence = (LandConfidence + LandLow) / 2;
+      }
+    } while (std::abs(LandLow - LandHigh) >= kLastRange);
+    return halvings;
   }
-  s.LandConfidence = 100 - s.PercEx;
-  result.Halvings = SearchConfidence(s, watch);
-  const UCLBAS::LandLimit limit = UCLBAS::LandExactUCL(0.5, s.df, s.LnGSD, s.LnGM, s.D, watch);
-  s.UCL = limit.UCL;
-  result.LandConfidence = s.LandConfidence;
-  result.A = 100 - s.LandConfidence;
-  result.UCL = limit.UCL;
-  result.Factor = limit.Factor;
-  return result;
-}
+
+  UCLBAS::LandLimit LimitAt(double confidence) {
+    return UCLBAS::LandExactUCL(0.5, df_, statistics_.LnGSD, statistics_.LnGM, confidence, watch_);
+  }
+
+ private:
+  // How far the trial's limit lies above OELV on the logarithmic scale; only its sign counts.
+  double Excess(double confidence) {
+    const double p = 1 - confidence / 100;
+    if (p < kNearestTail) return 1;
+    if (p > 1 - kNearestTail) return -1;
+    return LimitAt(confidence).UCL - LnOELV_;
+  }
+
+  double df_;
+  const MeanStatistics& statistics_;
+  double LnOELV_;
+  UCLBAS::LandWatch& watch_;
+};
 
 }  // namespace
 
@@ -77,32 +73,30 @@ std::string LandRefusal(double M, double D) {
   return text;
 }
 
-void MeanStatistics(ExposureSession& s) {
-  s.LnGM = Log(s.GM);
-  s.LnGSD = Log(s.GSD);
-  s.GMu = StatFWinBAS::GMUnbiased(s, std::as_const(s.GM), std::as_const(s.GSD));
-  s.AMu =
-      StatFWinBAS::FinneyMeanMVU(std::as_const(s.df), std::as_const(s.GM), std::as_const(s.GSD));
+MeanStatistics MeanStatisticsOf(const Sample& sample) {
+  return {Log(sample.GM), Log(sample.GSD),
+          StatFWinBAS::GMUnbiased(sample.df, sample.GM, sample.GSD).value_or(0),
+          StatFWinBAS::FinneyMeanMVU(sample.df, sample.GM, sample.GSD)};
 }
 
-void JahrLimits(ExposureSession& s) {
-  const JahrLimit limit = JahrUCL(s.AMu, s.GSD, s.df, s.D, Limit(s));
-  s.UCL = limit.UCL;
-  s.PercEx = limit.PercEx;
+JahrLimit JahrLimits(const TestBasis& basis, double AMu) {
+  return JahrUCL(AMu, basis.GSD, basis.df, basis.D, Limit(basis));
 }
 
-LandResult LandCmb(ExposureSession& s, UCLBAS::LandWatch& watch) {
-  const double UCL = s.UCL;
-  const double PercEx = s.PercEx;
-  s.TestTag = "Ex";
-  try {
-    return Searched(s, watch);
-  } catch (const RunTimeError&) {
-    s.UCL = UCL;
-    s.PercEx = PercEx;
-    s.TestTag = "";
-    throw;
-  }
+LandResult LandCmb(const TestBasis& basis, UCLBAS::LandWatch& watch) {
+  const MeanStatistics statistics = MeanStatisticsOf(basis);
+  LandResult result;
+  result.jahr = JahrLimits(basis, statistics.AMu);
+  result.Refusal = LandRefusal(basis.M, basis.D);
+  if (!result.Refusal.empty()) return result;
+  ConfidenceSearch search(basis, statistics, watch);
+  result.LandConfidence = 100 - result.jahr.PercEx;
+  result.Halvings = search.Run(result.LandConfidence);
+  const UCLBAS::LandLimit limit = search.LimitAt(basis.D);
+  result.A = 100 - result.LandConfidence;
+  result.UCL = limit.UCL;
+  result.Factor = limit.Factor;
+  return result;
 }
 
 }  // namespace ucl

@@ -17,27 +17,24 @@ std::string TwoLines(const std::string& cr, int first, int second) {
   return LoadResString(first) + cr + LoadResString(second);
 }
 
-// Shows that the program is at work; however the search ends, the pointer is normal again and the
-// progress window gone.
-class Busy {
+// The progress window, until the end of the scope however that comes.
+class ProgressWindow {
  public:
-  explicit Busy(UCLForm& form) : form_(form) { form.busyPointer = true; }
-  ~Busy() {
-    form_.busyPointer = false;
-    form_.landHulp.shown = false;
-  }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
+  explicit ProgressWindow(LandHulpForm& window) : window_(window) { window.Begin(); }
+  ~ProgressWindow() { window_.shown = false; }
+  ProgressWindow(const ProgressWindow&) = delete;
+  ProgressWindow& operator=(const ProgressWindow&) = delete;
 
  private:
-  UCLForm& form_;
+  LandHulpForm& window_;
 };
 
 }  // namespace
 
-UCLForm::UCLForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts)
-    : SessionForm("UCLForm", navigation::ScreenId::UCL, "TabUCL", record, programDesk, formPorts),
-      landHulp(record, formPorts) {
+UCLForm::UCLForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts)
+    : SessionForm("UCLForm", navigation::ScreenId::UCL, "TabUCL", sessionRecord, programDesk,
+                  formPorts),
+      landHulp(sessionRecord.Now(), formPorts) {
   JahrCmb.Click = [this] { JahrCmb_Click(); };
   LandCmb.Click = [this] { LandCmb_Click(); };
   for (screen::Control* box : {&AMuTxb, &UCLTxB, &PercExTxB}) box->locked = true;
@@ -56,7 +53,7 @@ void UCLForm::Load() {
 
 void UCLForm::Activate() {
   BasisStatus();
-  if (session.TestTag == "Ex") return;
+  if (session.TestTag == Extrapolation::Land && record.Mean()) return;
   EnterOwnTab();
   ShowIdentification();
   ShowStatistics();
@@ -80,10 +77,13 @@ void UCLForm::ShowIdentification() {
 }
 
 void UCLForm::ShowStatistics() {
-  MeanStatistics(session);
-  GMuLbl1.text = Shown(session.GMu);
+  const MeanStatistics mean = MeanStatisticsOf(BasisOf(session));
+  Computed& kept = record.Numbers();
+  kept.LnGM = mean.LnGM;
+  kept.LnGSD = mean.LnGSD;
+  GMuLbl1.text = Shown(kept.GMu = mean.GMu);
   GSDLbl1.text = Shown(session.GSD);
-  AMuTxb.text = Shown(session.AMu);
+  AMuTxb.text = Shown(kept.AMu = mean.AMu);
 }
 
 void UCLForm::ShowWording() {
@@ -125,77 +125,75 @@ void UCLForm::ShowResultControls(bool result) {
 }
 
 void UCLForm::UCLResults() {
-  session.MsgTitle.clear();
-  session.MsgText.clear();
-  ShowResultControls(!session.TestTag.empty());
-  if (!session.TestTag.empty()) {
-    JahrLimits(session);
-    return;
+  flow.MsgTitle.clear();
+  flow.MsgText.clear();
+  const bool method = session.TestTag != Extrapolation::None;
+  ShowResultControls(method);
+  for (screen::Control* control : {&UCLTxB, &PercExTxB}) control->text.clear();
+  if (!method) {
+    WindnrLbl.text = "24";
+    Methodlbl.text.clear();
+  } else if (const MeanResult* result = record.Mean()) {
+    ShowResult(*result);
   }
-  WindnrLbl.text = "24";
-  // No number of other data waits behind the introduction.
-  for (screen::Control* control : {&Methodlbl, &UCLTxB, &PercExTxB}) control->text.clear();
+  OfferPicture();
 }
 
-void UCLForm::TellLimitBeyondNumbers() {
-  Complain(LoadResString(2432) + Shown(session.UCL) + ").", "UCL");
+void UCLForm::ShowResult(const MeanResult& result) {
+  UCLTxB.text = result.UCL < kLargestExponent ? Shown(Exp(result.UCL)) : std::string();
+  const bool jahr = result.method == Extrapolation::Jahr;
+  PercExTxB.text = jahr && result.A == 0 ? "    <1E-16" : Shown(result.A);
+}
+
+void UCLForm::TellLimitBeyondNumbers(double UCL) {
+  if (UCL >= kLargestExponent) Complain(LoadResString(2432) + Shown(UCL) + ").", "UCL");
+}
+
+void UCLForm::BeginMethod(Extrapolation method, int methodName, const char* window) {
+  flow.TestTag = method;
+  record.Drop(method);
+  Methodlbl.text = LoadResString(methodName);
+  WindnrLbl.text = window;
+  UCLResults();
 }
 
 void UCLForm::JahrCmb_Click() {
-  session.TestTag = "Ap";
-  Methodlbl.text = LoadResString(2430);
-  WindnrLbl.text = "24b";
+  BeginMethod(Extrapolation::Jahr, 2430, "24b");
+  const TestBasis basis = BasisOf(session);
+  const JahrLimit found = JahrLimits(basis, MeanStatisticsOf(basis).AMu);
+  record.Keep(MeanResult{Extrapolation::Jahr, found.UCL, found.PercEx});
+  record.Numbers().PercEx = found.PercEx;
   UCLResults();
-  if (session.UCL >= kLargestExponent)
-    TellLimitBeyondNumbers();
-  else
-    UCLTxB.text = Shown(Exp(session.UCL));
-  PercExTxB.text = session.PercEx == 0 ? "    <1E-16" : Shown(session.PercEx);
+  TellLimitBeyondNumbers(found.UCL);
   Refresh();
 }
 
-// After a fault nothing of the search remains: the screen is back at its introduction.
+// After a fault nothing of the search remains: the screen is back at its introduction. A refusal
+// leaves the boxes empty: a number of Jahr's must not stand under Land's name.
 void UCLForm::LandCmb_Click() {
-  const double UCL = session.UCL;
-  const double PercEx = session.PercEx;
+  BeginMethod(Extrapolation::Land, 2431, "24a");
+  flow.MsgText = LandRefusal(session.M, session.D);
+  if (!session.MsgText.empty()) {
+    Complain(session.MsgText, session.MsgTitle);
+    flow.TestTag = Extrapolation::None;
+    OfferPicture();
+    return;
+  }
   try {
-    Land();
+    SearchLand();
   } catch (...) {
-    session.UCL = UCL;
-    session.PercEx = PercEx;
-    session.TestTag.clear();
+    flow.TestTag = Extrapolation::None;
     UCLResults();
     throw;
   }
-}
-
-// A refusal leaves the boxes empty: a number of Jahr's must not stand under Land's name.
-void UCLForm::Land() {
-  session.TestTag = "Ex";
-  Methodlbl.text = LoadResString(2431);
-  WindnrLbl.text = "24a";
   UCLResults();
-  UCLTxB.text.clear();
-  PercExTxB.text.clear();
-  session.MsgText = LandRefusal(session.M, session.D);
-  if (!session.MsgText.empty()) {
-    Complain(session.MsgText, session.MsgTitle);
-    session.TestTag.clear();
-    return;
-  }
-  SearchLand();
-  if (session.UCL < kLargestExponent) {
-    UCLTxB.text = Shown(Exp(session.UCL));
-  } else {
-    UCLTxB.text.clear();
-    TellLimitBeyondNumbers();
-  }
+  TellLimitBeyondNumbers(session.UCL);
   Refresh();
 }
 
 // Every limit that the search computes is shown, also those of its trial confidences.
 void UCLForm::SearchLand() {
-  const Busy busy(*this);
+  const screen::Busy busy(*this);
   Refresh();
   LandWatch watch;
   watch.Report = [this](const LandWatch& now, LandSign sign) {
@@ -206,8 +204,11 @@ void UCLForm::SearchLand() {
     UCLTxB.text = now.UCL > kLargestExponent ? LoadResString(3447) : Shown(Exp(now.UCL));
     UCLTxB.Refresh();
   };
-  landHulp.Begin();
-  PercExTxB.text = Shown(ucl::LandCmb(session, watch).A);
+  const ProgressWindow window(landHulp);
+  const LandResult found = ucl::LandCmb(BasisOf(session), watch);
+  record.Keep(MeanResult{Extrapolation::Land, found.UCL, found.A});
+  record.Numbers().PercEx = found.jahr.PercEx;
+  record.Numbers().LandConfidence = found.LandConfidence;
 }
 
 }  // namespace ucl

@@ -11,7 +11,7 @@ namespace ucl {
 // it exceeds the limit value. TestTag tells what is shown: "" the introduction, "Ap" Jahr's result,
 // "Ex" Land's.
 struct UCLForm final : navigation::SessionForm {
-  UCLForm(ExposureSession& record, navigation::Desk& programDesk, screen::Ports& formPorts);
+  UCLForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control MenuPrint{*this, screen::Kind::Menu, "MenuPrint"};
 
@@ -56,8 +56,7 @@ struct UCLForm final : navigation::SessionForm {
 
   // The strip and the menus.
   void BasisStatus();
-  // The layout for the present TestTag, and for either method Jahr's limit, from which Land's
-  // search starts.
+  // The layout for the present TestTag, with the result that the record holds for it.
   void UCLResults();
   void JahrCmb_Click();
   void LandCmb_Click();
@@ -68,9 +67,10 @@ struct UCLForm final : navigation::SessionForm {
   void ShowWording();
   void ShowGate();
   void ShowResultControls(bool result);
-  void Land();
+  void ShowResult(const MeanResult& result);
+  void BeginMethod(Extrapolation method, int methodName, const char* window);
   void SearchLand();
-  void TellLimitBeyondNumbers();
+  void TellLimitBeyondNumbers(double UCL);
 };
 
 }  // namespace ucl

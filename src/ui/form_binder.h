@@ -29,8 +29,8 @@ class FormBinder : public QObject {
   void Connect(FocusWatch& focus);
 
   screen::Form& Form() const { return form_; }
-  PageArea* Area() const { return page_.area; }
-  // The laid-out controls for a window of their own; there is no area any more.
+  QWidget* Frame() const { return page_.frame; }
+  // The laid-out controls for a window of their own; there is no frame any more.
   QWidget* TakeContent();
   QWidget* WidgetOf(const screen::Control& control) const;
   QAction* ActionOf(const screen::Control& control) const;
@@ -48,6 +48,9 @@ class FormBinder : public QObject {
 
  private:
   void Add(screen::Control& control);
+  // What the layout does not know goes where the control says it stands.
+  QWidget* AddButton(const screen::Control& control);
+  QAction* AddItem(const screen::Control& control);
   const ControlView* ViewOf(const screen::Control& control) const;
   void Connect(ControlView& view);
   void ConnectAction(ControlView& view);

@@ -85,7 +85,7 @@ void MainWindow::Private::Add(screen::Form& form) {
   if (const auto* side = dynamic_cast<const screen::SideWindow*>(&form))
     sides_.push_back(new SideView(window_, *side, *binder.TakeContent()));
   else
-    pages_->addWidget(binder.Area());
+    pages_->addWidget(binder.Frame());
 }
 
 FormBinder* MainWindow::Private::BinderOf(const screen::Form& form) const {
@@ -121,7 +121,7 @@ void MainWindow::Private::Push() {
   for (SideView* side : sides_) side->Push();
   strip_->Push(shown.strip);
   const QWidget* oldPage = pages_->currentWidget();
-  if (const FormBinder* binder = BinderOf(shown)) pages_->setCurrentWidget(binder->Area());
+  if (const FormBinder* binder = BinderOf(shown)) pages_->setCurrentWidget(binder->Frame());
   if (oldPage != pages_->currentWidget()) FocusNewPage(before);
   window_.setWindowTitle(Shown(program_.Title()) + QLatin1String("[*]"));
   window_.setWindowModified(program_.Unsaved());

@@ -1,6 +1,8 @@
 #include "ui/page.h"
 
+#include <QLabel>
 #include <QMainWindow>
+#include <QVBoxLayout>
 #include <QVariant>
 
 #include <map>
@@ -47,6 +49,16 @@ const std::map<std::string, Shell (*)()>& Designs() {
   return designs;
 }
 
+// Below the scrolled page, so that it stays in view.
+QLabel* StatusLine() {
+  auto* line = new QLabel;
+  line->setObjectName(QStringLiteral("StatusLbl"));
+  line->setWordWrap(true);
+  line->setTextFormat(Qt::PlainText);
+  line->setContentsMargins(14, 2, 14, 6);
+  return line;
+}
+
 // The designer's form is a window of its own. Its menus and actions move into the shared window.
 void TakeMenus(QMainWindow& shell, QMenuBar& menuBar, Page& page) {
   for (QAction* item : shell.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly))
@@ -66,15 +78,23 @@ void TakeMenus(QMainWindow& shell, QMenuBar& menuBar, Page& page) {
 
 }  // namespace
 
-QWidget* Page::FindWidget(const QString& name) const { return content->findChild<QWidget*>(name); }
+QWidget* Page::FindWidget(const QString& name) const {
+  if (auto* widget = content->findChild<QWidget*>(name)) return widget;
+  return frame ? frame->findChild<QWidget*>(name) : nullptr;
+}
+
+QMenu* Page::FindMenu(const QString& name) const {
+  for (QMenu* menu : menus) {
+    if (menu->objectName() == name) return menu;
+    if (auto* submenu = menu->findChild<QMenu*>(name)) return submenu;
+  }
+  return nullptr;
+}
 
 QAction* Page::FindAction(const QString& name) const {
   if (auto* item = content->findChild<QAction*>(name)) return item;
-  for (QMenu* menu : menus) {
-    if (menu->objectName() == name) return menu->menuAction();
-    if (auto* submenu = menu->findChild<QMenu*>(name)) return submenu->menuAction();
-  }
-  return nullptr;
+  const QMenu* menu = FindMenu(name);
+  return menu ? menu->menuAction() : nullptr;
 }
 
 Page LoadPage(const std::string& formName, QMenuBar& menuBar) {
@@ -86,6 +106,12 @@ Page LoadPage(const std::string& formName, QMenuBar& menuBar) {
   page.content = shell->takeCentralWidget();
   page.sizes = std::make_unique<DesignSizes>(*page.content);
   page.area = new PageArea(*page.content, *page.sizes);
+  page.frame = new QWidget;
+  auto* column = new QVBoxLayout(page.frame);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(page.area, 1);
+  column->addWidget(StatusLine());
   TakeMenus(*shell, menuBar, page);
   return page;
 }

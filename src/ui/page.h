@@ -15,6 +15,7 @@ namespace ui {
 
 // One screen as its designer file lays it out: the page for the window's stack, and its menus.
 struct Page {
+  QWidget* frame = nullptr;  // the scrolled area, and below it the status line
   PageArea* area = nullptr;
   QWidget* content = nullptr;
   std::unique_ptr<DesignSizes> sizes;
@@ -22,6 +23,8 @@ struct Page {
   std::vector<QMenu*> menus;  // of the menu bar
 
   QWidget* FindWidget(const QString& name) const;
+  // The menu of that name; null when there is none.
+  QMenu* FindMenu(const QString& name) const;
   // The item of that name, or the action that stands for the submenu of that name.
   QAction* FindAction(const QString& name) const;
 };

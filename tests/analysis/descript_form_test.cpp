@@ -6,6 +6,7 @@
 
 #include "base/fault.h"
 #include "session/global_bas.h"
+#include "session/moments.h"
 #include "stats/estimators.h"
 #include "tests/analysis/descriptive_screen.h"
 
@@ -25,6 +26,7 @@ class DescriptiveScreen : public descriptive::Screen {
     s.LastInRange = s.NInRange = static_cast<std::int16_t>(s.M);
     s.LOQ = 0.95 * s.C[1];
     s.URR = 1.05 * s.C[static_cast<std::size_t>(s.M)];
+    s.inForce = Estimates::RangeDegrees;
     DegreesOfFreedom(s);
   }
   std::string Number(double value) { return GlobalBAS::Shown(p.Record(), value); }
@@ -53,20 +55,22 @@ TEST_F(DescriptiveScreen, FiveOutcomesGiveTheMeanSquareErrorEstimate) {
   EXPECT_EQ(p.Text("AMmvTxb"), Number(p.Record().AMmv));
 }
 
-TEST_F(DescriptiveScreen, EqualOutcomesKeepTheDeviationInTheRecordAndShowItAsUnknown) {
+// Nothing that followed from the outcomes of before stands beside the equal ones.
+TEST_F(DescriptiveScreen, EqualOutcomesGiveNoEstimatesAndAllAreShownAsUnknown) {
   OpenSeries(kFive);
   ExposureSession& s = p.Record();
+  ASSERT_GT(s.SDlin, 0);
   for (std::size_t i = 0; i < s.C.size(); ++i) s.C[i] = 3;
-  s.GSD = 2;
-  const double before = s.SDlin;
-  Reopen();
+  Reopen();  // evaluates the outcomes that were written by hand
   EXPECT_EQ(s.InputState, 4);
-  EXPECT_EQ(s.GSD, 2);
+  EXPECT_TRUE(s.noEstimates);
   EXPECT_NEAR(s.GM, 3, 1e-14);
-  EXPECT_EQ(s.XM, 3);
-  EXPECT_EQ(s.SDlin, before);
-  EXPECT_EQ(p.Text("GSDTxB"), "   unknown");
-  EXPECT_EQ(p.Text("SDlinTxb"), "   unknown");
+  EXPECT_EQ(s.GSD, 0);
+  for (const double none : {s.GMu, s.AMml, s.AMu, s.AMmv, s.XM, s.SDu, s.SDlin}) EXPECT_EQ(none, 0);
+  Reopen();
+  for (const std::string& box : kValueBoxes) EXPECT_EQ(p.Text(box), "   unknown") << box;
+  EXPECT_EQ(p.Text("AMmvTxb"), "   unknown");
+  EXPECT_FALSE(s.DescOk);
 }
 
 TEST_F(DescriptiveScreen, ARangeOverAllOutcomesShowsTheSampleWordsAndNothingOutside) {
@@ -160,6 +164,7 @@ TEST_F(DescriptiveScreen, WithoutARegressionTheWordsAreTheSamplesAgain) {
   EXPECT_EQ(p.Text("DegreesLbl(5)"), Number(5));
 }
 
+// The numbers of statistics that were set by hand go with those statistics.
 TEST_F(DescriptiveScreen, ShowsWhatTheRecordHeldAndLeavesTheSamplesOwn) {
   OpenSeries(kFive);
   ExposureSession& s = p.Record();
@@ -170,9 +175,16 @@ TEST_F(DescriptiveScreen, ShowsWhatTheRecordHeldAndLeavesTheSamplesOwn) {
   Reopen();
   EXPECT_EQ(p.Text("GMTxB"), Number(7));
   EXPECT_EQ(p.Text("GSDTxB"), Number(3));
-  EXPECT_EQ(s.LnGM, std::log(7.0));
+  EXPECT_NEAR(GlobalBAS::ReadNumber(p.Text("AMmlTxb")),
+              7 * std::exp(std::log(3.0) * std::log(3.0) / 2), 0.01);
+  EXPECT_EQ(s.LnGM, 0);
+  EXPECT_EQ(s.AMml, 0);
   EXPECT_EQ(s.GM, gm);
   EXPECT_EQ(s.GSD, gsd);
+  Reopen();
+  EXPECT_EQ(p.Text("GMTxB"), Number(gm));
+  EXPECT_EQ(p.Text("GSDTxB"), Number(gsd));
+  EXPECT_EQ(s.LnGM, std::log(gm));
 }
 
 TEST_F(DescriptiveScreen, TriedValuesStayAndAreJudgedInPlaceOfTheOutcomes) {

@@ -17,7 +17,7 @@ class DescriptiveScreenTabs : public descriptive::Screen {};
 
 TEST_F(DescriptiveScreenTabs, OfStatisticsHasNoTabForOutcomesOrTheirPlot) {
   Enter("10");
-  EXPECT_EQ(p.Record().CurrentTab, "Descriptive statistics");
+  EXPECT_EQ(p.Record().CurrentTab, ScreenId::Descript);
   EXPECT_EQ(p.Shown().strip->selected, "descript");
   EXPECT_EQ(p.TabKeys(),
             (Keys{"basis", "grenzen", "descript", "extrapolation", "mean", "Compare"}));
@@ -50,7 +50,7 @@ TEST_F(DescriptiveScreenTabs, WithoutValidLimitsTheTestsAreNotOffered) {
 
 TEST_F(DescriptiveScreenTabs, WithoutADataTypeHasNoTabs) {
   Enter("10");
-  p.Record().Mode.clear();
+  p.Record().Mode = DataMode::None;
   Reopen();
   EXPECT_TRUE(p.TabKeys().empty());
 }
@@ -62,11 +62,11 @@ TEST_F(DescriptiveScreenTabs, TheTestsOpenWithValidStatisticsAndLimitsOnly) {
   EXPECT_EQ(p.Shown().name, "DescriptForm");
   p.Click("MenuLeid");
   EXPECT_EQ(p.Shown().name, "DescriptForm");
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
   p.Record().DescOk = true;
   p.Click("MenuLeid");
   EXPECT_EQ(p.Shown().name, "PercExForm");
-  EXPECT_EQ(p.Record().TestTag, "Le");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Leidel);
 }
 
 TEST_F(DescriptiveScreenTabs, ClosingFromItsMenuEndsTheSessionOnTheStartScreen) {

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/transformations.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/stats/table_check.h"

@@ -1,8 +1,10 @@
 #include "tests/analysis/fit_data.h"
+#include "session/moments.h"
 
 #include <cmath>
 
 #include "analysis/rankits.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/transformations.h"
 
 namespace fit_data {
@@ -20,7 +22,7 @@ const std::map<std::string, std::vector<double>>& SortedSeries() {
 ExposureSession Opened(const std::vector<double>& outcomes) {
   ExposureSession s;
   s.CR = "\r";
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   s.C = outcomes;
   s.M = static_cast<double>(outcomes.size() - 1);
   s.LnC.assign(outcomes.size(), 0);

@@ -4,10 +4,11 @@
 
 #include <optional>
 
-#include "analysis/limit_checks.h"
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/transformations.h"
+#include "session/limit_checks.h"
+#include "session/moments.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
@@ -54,9 +55,9 @@ struct Player {
     const double t = s.LnC.back() - v * span / 100;
     const double limit = analysis::InverseTransform(state.Transformation, t);
     if (bar == "VScLowLimit")
-      analysis::ControleOndergrens(s, limit);
+      ControleOndergrens(s, limit);
     else
-      analysis::ControleBovengrens(s, limit);
+      ControleBovengrens(s, limit);
     if (s.MsgText.empty())
       Draw();
     else

@@ -5,10 +5,10 @@
 #include <cmath>
 #include <random>
 
-#include "analysis/limit_checks.h"
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/shapiro.h"
+#include "session/limit_checks.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/stats/table_check.h"
 
@@ -139,14 +139,14 @@ TEST_F(FitSweeps, EveryLimitLeavesARangeThatHoldsWhatLiesWithinIt) {
     ExposureSession s = fit_data::Opened(Skew(M, 0.8));
     s.DetecOn = true;
     const double low = std::exp(2.5 * normal_(random_));
-    analysis::ControleOndergrens(s, low);
+    ControleOndergrens(s, low);
     if (s.MsgText.empty()) {
       ++accepted;
       ASSERT_EQ(s.LOQ, low);
       ASSERT_EQ(s.FirstInRange, CountBelowOrAt(s, low) + 1) << "M " << M << ", " << low;
     }
     const double high = std::exp(2.5 * normal_(random_));
-    analysis::ControleBovengrens(s, high);
+    ControleBovengrens(s, high);
     if (s.MsgText.empty()) {
       ++accepted;
       ASSERT_EQ(s.URR, high);

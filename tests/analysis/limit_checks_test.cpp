@@ -1,4 +1,4 @@
-#include "analysis/limit_checks.h"
+#include "session/limit_checks.h"
 
 #include <gtest/gtest.h>
 
@@ -52,9 +52,9 @@ void ExpectRow(const support::Row& row) {
                row.Text("value") + ", rules " + row.Text("rules"));
   ExposureSession s = Before(row);
   if (row.Text("routine") == "ControleOndergrens")
-    analysis::ControleOndergrens(s, row.Number("value"));
+    ControleOndergrens(s, row.Number("value"));
   else
-    analysis::ControleBovengrens(s, row.Number("value"));
+    ControleBovengrens(s, row.Number("value"));
   EXPECT_EQ(s.MsgTitle, row.Text("MsgTitle"));
   EXPECT_EQ(s.MsgText, WithLineEnds(row.Text("MsgText")));
   EXPECT_EQ(s.FirstInRange, row.Number("First"));
@@ -87,7 +87,7 @@ TEST(LimitChecks, TheRangeIsCountedAndResetAsTheTableSays) {
     s.FirstInRange = static_cast<std::int16_t>(row.Number("First_before"));
     s.LastInRange = static_cast<std::int16_t>(row.Number("Last_before"));
     s.MsgText = "old text";
-    analysis::ControleDetectieBereik(s, 1);
+    ControleDetectieBereik(s, 1);
     EXPECT_EQ(s.NInRange, row.Number("NInRange"));
     EXPECT_EQ(s.FirstInRange, row.Number("First"));
     EXPECT_EQ(s.LastInRange, row.Number("Last"));
@@ -97,11 +97,11 @@ TEST(LimitChecks, TheRangeIsCountedAndResetAsTheTableSays) {
 
 TEST(LimitChecks, ALimitEqualToTheFifthOutcomeLeavesItOutsideOnBothSides) {
   ExposureSession s = Nine();
-  analysis::ControleOndergrens(s, 50);
+  ControleOndergrens(s, 50);
   EXPECT_EQ(s.FirstInRange, 6);
   EXPECT_EQ(s.LOQ, 50);
   s = Nine();
-  analysis::ControleBovengrens(s, 50);
+  ControleBovengrens(s, 50);
   EXPECT_EQ(s.LastInRange, 4);
   EXPECT_EQ(s.URR, 50);
 }
@@ -112,14 +112,14 @@ TEST(LimitChecks, WithoutADetectionRangeNoLimitIsStored) {
   s.MsgText = "old";
   s.FirstInRange = 3;
   s.NInRange = 7;
-  analysis::ControleOndergrens(s, 50);
+  ControleOndergrens(s, 50);
   EXPECT_EQ(s.LOQ, 9.5);
   EXPECT_EQ(s.NInRange, 7);
   EXPECT_EQ(s.FirstInRange, 1);
   EXPECT_EQ(s.MsgText, "");
   EXPECT_EQ(s.MsgTitle, "Invalid LOQ");
   s.LastInRange = 5;
-  analysis::ControleBovengrens(s, 50);
+  ControleBovengrens(s, 50);
   EXPECT_EQ(s.URR, 94.5);
   EXPECT_EQ(s.LastInRange, 9);
 }
@@ -127,7 +127,7 @@ TEST(LimitChecks, WithoutADetectionRangeNoLimitIsStored) {
 // The lowest outcome is the third highest: three detectables are all there are.
 TEST(LimitChecks, OfThreeOutcomesTheLimitGoesBackToTheLowest) {
   ExposureSession s = WithSeries({2, 1, 2, 3});
-  analysis::ControleOndergrens(s, 1.5);
+  ControleOndergrens(s, 1.5);
   EXPECT_EQ(s.LOQ, 1);
   EXPECT_EQ(s.FirstInRange, 1);
   EXPECT_EQ(s.NInRange, 3);
@@ -137,7 +137,7 @@ TEST(LimitChecks, OfThreeOutcomesTheLimitGoesBackToTheLowest) {
 TEST(LimitChecks, OfThreeOutcomesTheUpperLimitGoesBackToTheHighest) {
   ExposureSession s = WithSeries({2, 1, 2, 3});
   s.FirstInRange = 2;
-  analysis::ControleBovengrens(s, 2.5);
+  ControleBovengrens(s, 2.5);
   EXPECT_EQ(s.URR, 3);
   EXPECT_EQ(s.LastInRange, 3);
 }
@@ -145,7 +145,7 @@ TEST(LimitChecks, OfThreeOutcomesTheUpperLimitGoesBackToTheHighest) {
 TEST(LimitChecks, ALimitAboveTheLowestGoesBackToItWhenOnlyTheTwoLowestAreInRange) {
   ExposureSession s = Nine();
   s.LastInRange = 2;
-  analysis::ControleOndergrens(s, 30);
+  ControleOndergrens(s, 30);
   EXPECT_EQ(s.LOQ, 10);
   EXPECT_EQ(s.FirstInRange, 1);
   EXPECT_EQ(s.NInRange, 2);
@@ -153,18 +153,18 @@ TEST(LimitChecks, ALimitAboveTheLowestGoesBackToItWhenOnlyTheTwoLowestAreInRange
 
 TEST(LimitChecks, WithTwoOutcomesTheRuleOfThreeDetectablesIsSilent) {
   ExposureSession s = WithSeries({2, 1.5, 2.5});
-  analysis::ControleOndergrens(s, 1.5);
+  ControleOndergrens(s, 1.5);
   EXPECT_EQ(s.MsgText, "Less than 2 exposure data above the LOQ");
   EXPECT_EQ(s.LOQ, 1.5);
   s = WithSeries({2, 1.5, 2.5});
-  analysis::ControleBovengrens(s, 2.5);
+  ControleBovengrens(s, 2.5);
   EXPECT_EQ(s.MsgText, "Less than 2 exposure data within the regression range");
   EXPECT_EQ(s.LastInRange, 2);
 }
 
 TEST(LimitChecks, TheMessageShowsTheValueAsItWasEntered) {
   ExposureSession s = Nine();
-  analysis::ControleOndergrens(s, -0.25);
+  ControleOndergrens(s, -0.25);
   EXPECT_EQ(s.MsgText,
             "-.25 The entered limit of quantification (LOQ) is too small. LOQ set at 95% of the "
             "lowest outcome");
@@ -174,10 +174,10 @@ TEST(LimitChecks, TheMessageShowsTheValueAsItWasEntered) {
 TEST(LimitChecks, ARecordWithoutItsSeriesIsAFaultAndNoCrash) {
   ExposureSession s;
   s.DetecOn = true;
-  EXPECT_THROW(analysis::ControleOndergrens(s, 1), RunTimeError);
+  EXPECT_THROW(ControleOndergrens(s, 1), RunTimeError);
   s.M = 5;
   s.C = {0, 1, 2};
-  EXPECT_THROW(analysis::ControleBovengrens(s, 1), RunTimeError);
+  EXPECT_THROW(ControleBovengrens(s, 1), RunTimeError);
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "analysis/limit_checks.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "base/fault.h"
+#include "session/limit_checks.h"
+#include "session/moments.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
@@ -21,8 +22,8 @@ class RegressionTables : public table::Delivered {};
 ExposureSession Before(const Row& row) {
   ExposureSession s = fit_data::Opened(fit_data::SortedSeries().at(row.Text("series")));
   s.DetecOn = !row.Text("LOQ_in").empty() || !row.Text("URR_in").empty();
-  if (!row.Text("LOQ_in").empty()) analysis::ControleOndergrens(s, row.Number("LOQ_in"));
-  if (!row.Text("URR_in").empty()) analysis::ControleBovengrens(s, row.Number("URR_in"));
+  if (!row.Text("LOQ_in").empty()) ControleOndergrens(s, row.Number("LOQ_in"));
+  if (!row.Text("URR_in").empty()) ControleBovengrens(s, row.Number("URR_in"));
   DegreesOfFreedom(s);
   return s;
 }
@@ -104,8 +105,8 @@ TEST_F(RegressionTables, FitsTheRealisticSeriesWholeAndWithARange) {
     expect("A(W)", 100 * whole.test.PW);
     expect("GMu", s.GMu);
     s.DetecOn = true;
-    analysis::ControleOndergrens(s, row.Number("LOQ_in"));
-    analysis::ControleBovengrens(s, row.Number("URR_in"));
+    ControleOndergrens(s, row.Number("LOQ_in"));
+    ControleBovengrens(s, row.Number("URR_in"));
     const Regression part = ProbabilityRegression(s, state);
     expect("range a", part.a);
     expect("range b", part.b);

@@ -1,4 +1,4 @@
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "session/global_bas.h"
+#include "session/moments.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/stats/table_check.h"
 

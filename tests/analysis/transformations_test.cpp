@@ -1,4 +1,5 @@
 #include "analysis/transformations.h"
+#include "analysis/regression_on_record.h"
 
 #include <gtest/gtest.h>
 

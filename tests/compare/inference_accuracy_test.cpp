@@ -2,9 +2,10 @@
 
 #include <cmath>
 
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 #include "tests/support/record.h"
 
 // How far the comparison is from the mathematical values. The bounds are the errors last seen with
@@ -19,7 +20,7 @@ class ComparisonAccuracy : public table::Delivered {};
 
 ExposureSession SessionOf(const Row& row) {
   ExposureSession s = support::RecordOf(row);
-  s.CompareMode = row.Text("mode");
+  s.CompareMode = support::KindOf(row.Text("mode"));
   return s;
 }
 
@@ -29,7 +30,7 @@ InferenceResult Answered(ExposureSession& s, Answer answer) {
 
 // Above these the chi-square and F tails are approximations by one normal tail.
 bool Exact(const ExposureSession& s) {
-  return s.CompareMode == "P" ? s.df <= 200 : s.df * (s.M2 - 1) < 32768;
+  return s.CompareMode == ReferenceKind::Population ? s.df <= 200 : s.df * (s.M2 - 1) < 32768;
 }
 
 TEST_F(ComparisonAccuracy, TheProbabilitiesAreThoseOfArbitraryPrecision) {
@@ -43,7 +44,7 @@ TEST_F(ComparisonAccuracy, TheProbabilitiesAreThoseOfArbitraryPrecision) {
     (Exact(s) ? exact : approximate)
         .Take(pooled.dispersion.A, row.Number("dispersion"), row.Where());
     locations.Take(pooled.location.A, row.Number("pooled"), row.Where());
-    if (s.CompareMode != "S") continue;
+    if (s.CompareMode != ReferenceKind::Sample) continue;
     locations.Take(Answered(s, Answer::Yes).location.A, row.Number("separate"), row.Where());
     both.Take(pooled.both.GM, row.Number("both_GM"), row.Where());
     both.Take(pooled.both.GSD, row.Number("both_GSD"), row.Where());
@@ -58,7 +59,7 @@ TEST_F(ComparisonAccuracy, TheWorkedExamplesOfOtherProgramsComeOutAlike) {
   for (const Row& row : support::ReadTable("two_sample_derived.csv")) {
     ExposureSession s =
         support::SampleRecord(row.Number("n1"), row.Number("GM1"), row.Number("GSD1"), 1);
-    s.CompareMode = "S";
+    s.CompareMode = ReferenceKind::Sample;
     s.M2 = row.Number("n2");
     s.GM2 = row.Number("GM2");
     s.GSD2 = row.Number("GSD2");

@@ -1,4 +1,4 @@
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +12,7 @@
 #include "stats/student.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 
 // The comparison with a reference sample or population: its figures, its question, its paths.
 namespace {
@@ -33,18 +34,18 @@ class Comparison : public table::Delivered {
     s.GSD2 = GSD2;
   }
   void GivenRow(const Row& row) {
-    s.CompareMode = row.Text("mode");
+    s.CompareMode = support::KindOf(row.Text("mode"));
     Given(row.Number("M"), row.Number("GM"), row.Number("GSD"), row.Number("M2"), row.Number("GM2"),
           row.Number("GSD2"));
     s.df = row.Number("df");
   }
 
   InferenceResult WithSample(Answer answer) {
-    s.CompareMode = "S";
+    s.CompareMode = ReferenceKind::Sample;
     return compare::Inference(s, [answer](double) { return answer; });
   }
   InferenceResult WithPopulation() {
-    s.CompareMode = "P";
+    s.CompareMode = ReferenceKind::Population;
     return compare::Inference(s, [](double) -> Answer {
       ADD_FAILURE() << "a population needs no question";
       return Answer::Cancel;
@@ -95,7 +96,7 @@ TEST_F(Comparison, EveryRowOfTheTableGetsItsProbabilitiesAndItsCombinedStatistic
     ExpectNear(row, "t", result.location.t, 1e-12);
     if (!sample || row.Number("v_safe") == 1) ExpectPercent(row, "GMInfTxb", result.location.A);
     if (!sample) continue;
-    EXPECT_EQ(s.GSDChoice, row.Text("GSDChoice")) << row.Where();
+    EXPECT_EQ(s.GSDChoice, support::ChoiceOf(row.Text("GSDChoice"))) << row.Where();
     ExpectSampleRow(row, result);
   }
 }
@@ -140,29 +141,29 @@ TEST_F(Comparison, CombinedDegreesOfFreedomAreCutNeverRounded) {
 }
 
 TEST_F(Comparison, CancellingTheQuestionGoesByTheProbabilityWithFivePooled) {
-  EXPECT_STREQ(compare::GSDChoiceFor(Answer::Cancel, 5), "P");
-  EXPECT_STREQ(compare::GSDChoiceFor(Answer::Cancel, std::nextafter(5.0, 0)), "A");
-  EXPECT_STREQ(compare::GSDChoiceFor(Answer::Cancel, 0), "A");
-  EXPECT_STREQ(compare::GSDChoiceFor(Answer::Cancel, 100), "P");
+  EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, 5), VarianceChoice::PooledByProbability);
+  EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, std::nextafter(5.0, 0)), VarianceChoice::SeparateByProbability);
+  EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, 0), VarianceChoice::SeparateByProbability);
+  EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, 100), VarianceChoice::PooledByProbability);
 }
 
 // The wording of the question says it the other way round.
 TEST_F(Comparison, NoPoolsTheVariancesAndYesSeparatesThem) {
   Given(12, 1, 2, 20, 1.4, 3);
   const InferenceResult no = WithSample(Answer::No);
-  EXPECT_EQ(s.GSDChoice, "Y");
+  EXPECT_EQ(s.GSDChoice, VarianceChoice::Pooled);
   EXPECT_EQ(no.location.v, 30);
   EXPECT_EQ(no.location.caption, 3130);
   const InferenceResult yes = WithSample(Answer::Yes);
-  EXPECT_EQ(s.GSDChoice, "N");
+  EXPECT_EQ(s.GSDChoice, VarianceChoice::Separate);
   EXPECT_LT(yes.location.v, 30);
   EXPECT_EQ(yes.location.caption, 3140);
 }
 
 TEST_F(Comparison, TheQuestionIsAskedAtEveryRunWithTheProbabilityAndOverwritesAnEarlierChoice) {
   Given(12, 1, 2, 20, 1.4, 3);
-  s.CompareMode = "S";
-  s.GSDChoice = "N";
+  s.CompareMode = ReferenceKind::Sample;
+  s.GSDChoice = VarianceChoice::Separate;
   int asked = 0;
   for (int run = 0; run < 2; ++run) {
     double shown = -1;
@@ -172,7 +173,7 @@ TEST_F(Comparison, TheQuestionIsAskedAtEveryRunWithTheProbabilityAndOverwritesAn
       return Answer::No;
     });
     EXPECT_EQ(shown, result.dispersion.A);
-    EXPECT_EQ(s.GSDChoice, "Y");
+    EXPECT_EQ(s.GSDChoice, VarianceChoice::Pooled);
   }
   EXPECT_EQ(asked, 2);
 }
@@ -188,11 +189,11 @@ TEST_F(Comparison, APopulationIsComparedAtOneDegreeOfFreedom) {
 
 TEST_F(Comparison, APopulationLeavesTheChoiceOnTheVariancesAndTheSizeOfTheReferenceAlone) {
   Given(7, 1, 2, 9, 1.5, 3);
-  s.GSDChoice = "Y";
+  s.GSDChoice = VarianceChoice::Pooled;
   const InferenceResult with9 = WithPopulation();
   s.M2 = 30000;
   const InferenceResult with30000 = WithPopulation();
-  EXPECT_EQ(s.GSDChoice, "Y");
+  EXPECT_EQ(s.GSDChoice, VarianceChoice::Pooled);
   EXPECT_EQ(with9.location.A, with30000.location.A);
   EXPECT_EQ(with9.dispersion.A, with30000.dispersion.A);
 }
@@ -210,24 +211,17 @@ TEST_F(Comparison, TheSignOfTheDistanceDoesNotMatter) {
 
 TEST_F(Comparison, WithoutAKindOfReferenceNothingIsCompared) {
   Given(7, 1.2, 2, 9, 3.1, 2.4);
-  s.CompareMode = "";
-  s.GSDChoice = "P";
+  s.CompareMode = ReferenceKind::None;
+  s.GSDChoice = VarianceChoice::PooledByProbability;
   EXPECT_FALSE(compare::Inference(s, {}).done);
   EXPECT_EQ(s.df2, 8) << "is set at the start of every run";
-  EXPECT_EQ(s.GSDChoice, "P");
+  EXPECT_EQ(s.GSDChoice, VarianceChoice::PooledByProbability);
 }
 
-TEST_F(Comparison, AnyOtherChoiceLeavesTheLocationTestWhereItWas) {
+TEST_F(Comparison, WithoutAChoiceTheLocationTestHasNothingToGoBy) {
   Given(7, 1.2, 2, 9, 3.1, 2.4);
-  s.GSDChoice = "X";
-  compare::Location before;
-  before.t = 1.5;
-  before.v = 11;
-  before.caption = 3130;
-  const compare::Location after = compare::SampleLocation(s, before);
-  EXPECT_EQ(after.t, 1.5);
-  EXPECT_EQ(after.v, 11);
-  EXPECT_EQ(after.A, compare::TwoSidedPercent(StatFWinBAS::StudentUpper(11.0, 1.5)));
+  s.GSDChoice = VarianceChoice::None;
+  EXPECT_THROW(compare::SampleLocation(s), RunTimeError);
 }
 
 TEST_F(Comparison, TheSecondSampleWeighsOneMoreInTheCombinedDispersion) {

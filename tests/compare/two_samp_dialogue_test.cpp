@@ -35,7 +35,7 @@ TEST_F(ComparisonScreen, TheFirstVisitAsksForReferenceDataOverTheIntroduction) {
 TEST_F(ComparisonScreen, ANoOnTheFirstQuestionLeavesTheIntroductionAlone) {
   Reply(Answer::No);
   p.Tab("Compare");
-  EXPECT_EQ(p.Record().CompareMode, "");
+  EXPECT_EQ(p.Record().CompareMode, ReferenceKind::None);
   EXPECT_EQ(p.Record().M2, 0);
   EXPECT_TRUE(form.IntroFrame.visible);
   EXPECT_TRUE(form.HuidigFrame.visible);
@@ -55,7 +55,7 @@ TEST_F(ComparisonScreen, TheQuestionStandsOverTheIntroductionAndTheCurrentData) 
   p.box.watch = [&] { introduction = form.IntroFrame.visible && !form.DescrSecond.visible; };
   Start();
   EXPECT_TRUE(introduction);
-  p.Record().CompareMode.clear();
+  p.Record().CompareMode = ReferenceKind::None;
   introduction = false;
   Start();
   EXPECT_TRUE(introduction) << "whatever stood there before";
@@ -63,7 +63,7 @@ TEST_F(ComparisonScreen, TheQuestionStandsOverTheIntroductionAndTheCurrentData) 
 
 TEST_F(ComparisonScreen, AYesStartsWithTheDataAgainstThemselves) {
   Start();
-  EXPECT_EQ(p.Record().CompareMode, "S");
+  EXPECT_EQ(p.Record().CompareMode, ReferenceKind::Sample);
   EXPECT_EQ(p.Record().M2, 10);
   EXPECT_EQ(p.Record().df2, 9);
   EXPECT_EQ(p.Record().GM2, 0.3);
@@ -110,7 +110,7 @@ void ExpectWords(compare::TwoSampCompForm& form, const std::vector<int>& rows) {
 TEST_F(ComparisonScreen, APopulationHasNoSampleSizeAndNothingOnVariances) {
   Start();
   p.Click("PopOpt");
-  EXPECT_EQ(p.Record().CompareMode, "P");
+  EXPECT_EQ(p.Record().CompareMode, ReferenceKind::Population);
   EXPECT_EQ(form.WindnrLbl.text, "30a");
   EXPECT_TRUE(form.PopOpt.ticked);
   EXPECT_FALSE(form.SampOpt.ticked);
@@ -126,7 +126,7 @@ TEST_F(ComparisonScreen, ASampleChosenAgainHasThemBack) {
   ExpectWords(form, {2910, 2930, 2920, 2970, 2980, 2990});
   p.Click("PopOpt");
   p.Click("SampOpt");
-  EXPECT_EQ(p.Record().CompareMode, "S");
+  EXPECT_EQ(p.Record().CompareMode, ReferenceKind::Sample);
   EXPECT_EQ(form.WindnrLbl.text, "29a");
   for (const screen::Control* control :
        {&form.GSDEqualFrm, &form.SampSizLbl2, &form.SampSizTxB2, &form.SampSiz2_UpD, &form.CalcCmb})
@@ -155,7 +155,7 @@ TEST_F(ComparisonScreen, AReturnResumesTheComparisonWithoutAQuestion) {
   p.box.shown.clear();
   p.Tab("Compare");
   EXPECT_TRUE(p.box.shown.empty());
-  EXPECT_EQ(p.Record().CompareMode, "S");
+  EXPECT_EQ(p.Record().CompareMode, ReferenceKind::Sample);
   EXPECT_EQ(form.SampSizTxB2.text, "40");
   EXPECT_EQ(form.GMTxB2.text, "0.5");
   EXPECT_EQ(form.GSDTxB2.text, "3");
@@ -238,10 +238,10 @@ TEST_F(ComparisonScreen, NeedsNoLimitValueAndOffersTestsAndMeanOnlyWithOne) {
 
 TEST_F(ComparisonScreen, LeavingForTheTestsForgetsTheChosenTest) {
   Start();
-  p.Record().TestTag = "Le";
+  p.Record().TestTag = Extrapolation::Leidel;
   EXPECT_TRUE(p.Tab("extrapolation"));
   EXPECT_EQ(p.Shown().name, "PercExForm");
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
 }
 
 TEST(ComparisonMenu, LeadsHereFromEveryScreen) {
@@ -255,10 +255,10 @@ TEST(ComparisonMenu, LeadsHereFromEveryScreen) {
   for (const std::string& key : from) {
     user.Tab(key);
     EXPECT_TRUE(user.At("MenuComp").enabled) << key;
-    if (key == "extrapolation") user.Record().TestTag = "Le";
+    if (key == "extrapolation") user.Record().TestTag = Extrapolation::Leidel;
     user.Click("MenuComp");
     EXPECT_EQ(user.Shown().name, "TwoSampCompForm") << key;
-    EXPECT_EQ(user.Record().TestTag, "") << key;
+    EXPECT_EQ(user.Record().TestTag, Extrapolation::None) << key;
   }
 }
 

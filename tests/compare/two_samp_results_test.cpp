@@ -2,6 +2,7 @@
 
 #include "tests/compare/comparison_screen.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 
 // The results of the comparison screen, and the decision on the variances.
 namespace {
@@ -21,7 +22,7 @@ class ComparisonResults : public ComparisonScreen {
     s.M2 = M2;
     s.GM2 = GM2;
     s.GSD2 = GSD2;
-    if (s.CompareMode.empty()) s.CompareMode = "S";
+    if (s.CompareMode == ReferenceKind::None) s.CompareMode = ReferenceKind::Sample;
     Start();
   }
   void ExpectText(const screen::Control& box, const Row& row, const std::string& column,
@@ -43,7 +44,7 @@ TEST_F(ComparisonResults, EveryRowOfTheTableStandsOnTheScreen) {
   p.Record().SigDigits = 7;
   for (const Row& row : support::ReadTable("comparison.csv")) {
     const bool sample = row.Text("mode") == "S";
-    p.Record().CompareMode = row.Text("mode");
+    p.Record().CompareMode = support::KindOf(row.Text("mode"));
     Given(row.Number("M"), row.Number("GM"), row.Number("GSD"), row.Number("M2"), row.Number("GM2"),
           row.Number("GSD2"));
     p.Record().df = row.Number("df");
@@ -55,7 +56,7 @@ TEST_F(ComparisonResults, EveryRowOfTheTableStandsOnTheScreen) {
     ExpectText(form.GSDInfTxb, row, "GSDInfTxb");
     if (!sample || row.Number("v_safe") == 1) ExpectText(form.GMInfTxb, row, "GMInfTxb");
     if (!sample) continue;
-    EXPECT_EQ(p.Record().GSDChoice, row.Text("GSDChoice")) << row.Where();
+    EXPECT_EQ(p.Record().GSDChoice, support::ChoiceOf(row.Text("GSDChoice"))) << row.Where();
     EXPECT_EQ(form.SampSizLbl3.text, row.Text("SampSizLbl3") == "3130"
                                          ? "Summed number of degrees of freedom="
                                          : "Combined number of degrees of freedom=")
@@ -150,12 +151,12 @@ TEST_F(ComparisonResults, TheQuestionStandsOverTheProbabilityOfTheDispersions) {
 TEST_F(ComparisonResults, NoPoolsTheVariancesAndYesSeparatesThem) {
   Given(12, 1, 2, 20, 1.4, 3);
   Calculate(Answer::No);
-  EXPECT_EQ(p.Record().GSDChoice, "Y");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::Pooled);
   EXPECT_EQ(form.SampSizLbl3.text, "Summed number of degrees of freedom=");
   EXPECT_EQ(form.SampSizTxb3.text, Number(30));
   p.Click("SampOpt");
   Calculate(Answer::Yes);
-  EXPECT_EQ(p.Record().GSDChoice, "N");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::Separate);
   EXPECT_EQ(form.SampSizLbl3.text, "Combined number of degrees of freedom=");
   EXPECT_LT(GlobalBAS::Val(form.SampSizTxb3.text), 30);
 }
@@ -163,11 +164,11 @@ TEST_F(ComparisonResults, NoPoolsTheVariancesAndYesSeparatesThem) {
 TEST_F(ComparisonResults, CancelGoesByTheProbabilityOfTheDispersions) {
   Given(30, 0.3, 1.5, 25, 0.4, 4);
   Calculate(Answer::Cancel);
-  EXPECT_EQ(p.Record().GSDChoice, "A");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::SeparateByProbability);
   EXPECT_EQ(form.SampSizTxb3.text, Number(27)) << "27.4 cut, never rounded";
   Given(30, 0.3, 1.5, 25, 0.4, 1.6);
   Calculate(Answer::Cancel);
-  EXPECT_EQ(p.Record().GSDChoice, "P");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::PooledByProbability);
   EXPECT_EQ(form.SampSizTxb3.text, Number(53));
 }
 
@@ -197,9 +198,9 @@ TEST_F(ComparisonResults, TwoOutcomesAreComparedWithAPopulation) {
 TEST_F(ComparisonResults, TheAnswerOverwritesAChoiceThatWasMadeBefore) {
   Given(12, 1, 2, 20, 1.4, 3);
   p.Click("DifferOpt");
-  EXPECT_EQ(p.Record().GSDChoice, "N");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::Separate);
   Calculate(Answer::No);
-  EXPECT_EQ(p.Record().GSDChoice, "Y");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::Pooled);
   EXPECT_TRUE(form.EqualOpt.ticked) << "the options tell the path that was taken";
   EXPECT_FALSE(form.DifferOpt.ticked);
 }
@@ -209,11 +210,11 @@ TEST_F(ComparisonResults, TheChosenOptionIsBlueAndTheOtherPlain) {
   EXPECT_EQ(form.EqualOpt.colour, std::nullopt);
   EXPECT_EQ(form.DifferOpt.colour, std::nullopt);
   p.Click("EqualOpt");
-  EXPECT_EQ(p.Record().GSDChoice, "Y");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::Pooled);
   EXPECT_EQ(form.EqualOpt.colour, blue);
   EXPECT_EQ(form.DifferOpt.colour, std::nullopt);
   p.Click("DifferOpt");
-  EXPECT_EQ(p.Record().GSDChoice, "N");
+  EXPECT_EQ(p.Record().GSDChoice, VarianceChoice::Separate);
   EXPECT_EQ(form.EqualOpt.colour, std::nullopt);
   EXPECT_EQ(form.DifferOpt.colour, blue);
 }

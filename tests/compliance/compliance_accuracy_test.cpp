@@ -5,6 +5,7 @@
 #include <string>
 
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"

@@ -30,7 +30,7 @@ class ComplianceScreen : public testing::Test {
     s.OELV = OELV;
     s.U = U;
     s.D = D;
-    s.TestTag.clear();
+    s.TestTag = Extrapolation::None;
     s.UTL = s.PercEx = 0;
     Open();
   }

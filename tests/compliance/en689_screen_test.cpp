@@ -4,12 +4,13 @@
 #include <vector>
 
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "tests/compliance/compliance_screen.h"
 
 // The EN 689 test as the user sees it.
 namespace {
 
-using compliance::En689Box;
+using compliance::TestBox;
 using Texts = std::vector<std::string>;
 
 class EN689OnTheScreen : public ComplianceScreen {
@@ -42,7 +43,7 @@ const std::string kGeneral =
 TEST_F(EN689OnTheScreen, HasItsNumberTitleCaptionsAndComment) {
   Open();
   Press();
-  EXPECT_EQ(p.Record().TestTag, "Tu");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::En689);
   EXPECT_EQ(form.WindnrLbl.text, "27");
   EXPECT_EQ(form.UTLFrm.text,
             "Statistical test: EN689 (2018) &&  BOHS/NVvA (2011) && Code du Travail (2009)");
@@ -178,8 +179,8 @@ TEST_F(EN689OnTheScreen, TheBoxesAreRepaintedWithEachCandidate) {
   ExposureSession record = p.Record();
   Texts limits;
   Texts fractions;
-  compliance::En689Test(record, form.Ur, [&](En689Box box, double value) {
-    (box == En689Box::Fraction ? fractions : limits).push_back(Number(value));
+  compliance::En689Test(record, compliance::StandardisedDistance(BasisOf(record)), [&](TestBox box, double value) {
+    (box == TestBox::Fraction ? fractions : limits).push_back(Number(value));
   });
   const Repaints seen = PressAndWatch();
   ASSERT_GT(limits.size() * fractions.size(), 0u);

@@ -1,4 +1,5 @@
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@
 // The EN 689 test: its confidence, its two searches, its verdict.
 namespace {
 
-using compliance::En689Box;
+using compliance::TestBox;
 using compliance::En689Result;
 using support::Row;
 
@@ -54,8 +55,8 @@ TEST_F(En689, EverySessionOfTheTableGetsItsConfidenceItsLimitItsFractionAndItsVe
   int fractions = 0;
   for (const Row& row : support::ReadTable("sessions_tests.csv")) {
     ExposureSession s = support::RecordOf(row);
-    const En689Result result = compliance::En689Test(s, row.Number("Ur"));
-    EXPECT_EQ(s.TestTag, "Tu");
+    const auto result = compliance::En689Test(s, row.Number("Ur"));
+    EXPECT_EQ(s.TestTag, Extrapolation::En689);
     if (row.Text("Tu_margin").empty() || !(row.Number("Tu_margin") > 1e-7)) continue;
     ASSERT_TRUE(result.limit) << row.Where();
     EXPECT_NEAR(s.PercEx, row.Number("Tu_PercEx"), 1e-11) << row.Where();
@@ -78,7 +79,7 @@ TEST_F(En689, ASearchThatCanMoveNoMoreStandsOnItsLastCandidate) {
   for (const Row& row : support::ReadTable("sessions_tests.csv")) {
     if (row.Text("note").find("too coarse") == std::string::npos) continue;
     ExposureSession s = support::RecordOf(row);
-    const En689Result result = compliance::En689Test(s, row.Number("Ur"));
+    const auto result = compliance::En689Test(s, row.Number("Ur"));
     ExpectFraction(row, result.fraction);
     EXPECT_LT(result.fraction.evaluations, 110) << row.Where();
     ++hangs;
@@ -90,7 +91,7 @@ TEST_F(En689, ACoverageOfHalfLeavesConfidenceAndLimitAndJudgesTheOldLimit) {
   ExposureSession s = Session(10, 0.3, 2, 1, 50);
   s.PercEx = 12;
   s.UTL = 0.9;
-  En689Result result = compliance::En689Test(s, Distance(s));
+  auto result = compliance::En689Test(s, Distance(s));
   EXPECT_EQ(s.MsgText, "Desired population Coverage U% in Tab Limits must be more than 50%");
   EXPECT_FALSE(result.limit);
   EXPECT_EQ(s.PercEx, 12);
@@ -122,14 +123,14 @@ TEST_F(En689, AToleranceLimitAtTheLimitValueDoesNotComply) {
 
 TEST_F(En689, Above200DegreesOfFreedomTheSearchesEndFast) {
   ExposureSession s = Session(300, 0.3, 2, 1);
-  const En689Result result = compliance::En689Test(s, Distance(s));
+  const auto result = compliance::En689Test(s, Distance(s));
   EXPECT_LT(result.limit->evaluations, 30);
   EXPECT_LT(result.fraction.evaluations, 30);
 }
 
 TEST_F(En689, AWideSpreadOfASmallSampleStepsTo1E300AndHoldsThat) {
   ExposureSession s = Session(2, 1, 1000, 100, 99.99, 99.9);
-  const En689Result result = compliance::En689Test(s, Distance(s));
+  const auto result = compliance::En689Test(s, Distance(s));
   EXPECT_TRUE(result.limit->above1E300);
   EXPECT_EQ(s.UTL, result.limit->UTL);
   EXPECT_GT(s.UTL, 1E+300);
@@ -206,8 +207,8 @@ TEST_F(En689, TheBoxesFollowTheSearches) {
   ExposureSession s = Session(10, 0.3, 2, 1);
   std::vector<double> limits;
   std::vector<double> fractions;
-  const En689Result result = compliance::En689Test(s, Distance(s), [&](En689Box box, double value) {
-    (box == En689Box::ToleranceLimit ? limits : fractions).push_back(value);
+  const auto result = compliance::En689Test(s, Distance(s), [&](TestBox box, double value) {
+    (box == TestBox::ToleranceLimit ? limits : fractions).push_back(value);
   });
   ASSERT_EQ(limits.size(), 19u) << "4 steps and 15 bisections";
   EXPECT_NEAR(limits[0], 0.3, 1e-15);

@@ -35,7 +35,7 @@ class LeidelTest : public testing::Test {
     s.OELV = OELV;
     s.U = U;
     p.program.Open(ScreenId::PercEx);
-    form.LeidelCmb_Click();
+    form.Run(Extrapolation::Leidel);
   }
 
   void ExpectVerdict(bool compliance, const std::string& where = "") {
@@ -69,7 +69,7 @@ class LeidelTest : public testing::Test {
     const ExposureSession& s = p.Record();
     ExpectClose(distance, row.Number("Ur"), where + ": Ur");
     ExpectClose(s.PercEx, row.Number("Le_PercEx"), where + ": percent above OELV");
-    ExpectClose(form.Ur, row.Number("Le_z"), where + ": deviate of U");
+    ExpectClose(compliance::LeidelDeviate(s.U), row.Number("Le_z"), where + ": deviate of U");
     ExpectClose(s.UTL, row.Number("Le_UTL"), where + ": upper tolerance limit");
     ExpectVerdict(row.Text("Le_label") == "2307", where);
     const std::string box = row.Text("Le_box0");
@@ -97,8 +97,8 @@ TEST_F(LeidelTest, EverySessionOfTheTableGetsItsPercentageItsLimitAndItsVerdict)
     s.OELV = row.Number("OELV");
     s.U = row.Number("U");
     p.program.Open(ScreenId::PercEx);
-    const double distance = form.Ur;
-    form.LeidelCmb_Click();
+    const double distance = compliance::StandardisedDistance(BasisOf(s));
+    form.Run(Extrapolation::Leidel);
     ExpectRow(row, distance);
   }
 }
@@ -148,13 +148,12 @@ TEST_F(LeidelTest, AnExceedanceBelowAllNumbersIsShownAsABound) {
 
 TEST_F(LeidelTest, HalfThePopulationStaysBelowTheGeometricMean) {
   Judge(1.7, 2.4, 5, 50);
-  EXPECT_EQ(form.Ur, 0);
   EXPECT_EQ(p.Record().UTL, 1.7);
 }
 
 TEST_F(LeidelTest, SetsUpItsPartOfTheScreen) {
   Judge(0.3, 2, 1);
-  EXPECT_EQ(p.Record().TestTag, "Le");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Leidel);
   EXPECT_EQ(form.WindnrLbl.text, "25");
   EXPECT_EQ(form.UTLFrm.text, "Statistical test: Maximum likelihood test of Leidel (1977)/IHStat");
   EXPECT_FALSE(form.IntroFrm.visible);
@@ -204,14 +203,12 @@ TEST_F(LeidelTest, RegressionEstimatesAreJudgedLikeAnyOther) {
   EXPECT_EQ(p.Record().PercEx, percent);
 }
 
-TEST_F(LeidelTest, WithoutALimitAboveZeroTheStartScreenComesBackAndTheOldDistanceCounts) {
+TEST_F(LeidelTest, WithoutALimitAboveZeroTheStartScreenComesBackAndNothingIsJudged) {
   Judge(1, 2, 4);
   p.program.Open(ScreenId::PercEx);
-  const double before = form.Ur;
   p.Record().OELV = 0;
   p.Click("LeidelCmb");
   EXPECT_EQ(p.Shown().name, "BasisForm");
-  EXPECT_EQ(p.Record().PercEx, compliance::LeidelExceedance(before));
   EXPECT_EQ(p.Record().OELV, 1) << "the start screen's flags have set the default";
   p.program.Open(ScreenId::PercEx);
   EXPECT_EQ(form.PercExTxB0.text, "") << "what stood there was not judged against this limit";

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tests/compliance/compliance_screen.h"
+#include "tests/support/letters.h"
 
 // The compliance screen around its tests.
 namespace {
@@ -14,15 +15,15 @@ using Keys = std::vector<std::string>;
 class LayoutOfTheComplianceScreen : public ComplianceScreen {
  protected:
   // The layout of a test, or of the introduction.
-  void ExpectLayout(const std::string& test) {
+  void ExpectLayout(Extrapolation test) {
     for (const screen::Control* control :
          {&form.PercExLbl0, &form.PercExLbl1, &form.PercExTxB0, &form.PercExTxB1, &form.DimLbl2,
           &form.DimLbl3, &form.ReasonLbl, &form.CommentLbl, &form.MenuVerd, &form.MenuPrint})
-      EXPECT_EQ(control->visible, !test.empty()) << control->name;
+      EXPECT_EQ(control->visible, test != Extrapolation::None) << control->name;
     for (const screen::Control* control : {&form.PercExLbl2, &form.PercExTxB2, &form.DimLbl4})
-      EXPECT_EQ(control->visible, test == "Tu") << control->name;
-    EXPECT_EQ(form.SampSizeCkb.visible, test == "Wi");
-    EXPECT_EQ(form.IntroFrm.visible, test.empty());
+      EXPECT_EQ(control->visible, test == Extrapolation::En689) << control->name;
+    EXPECT_EQ(form.SampSizeCkb.visible, test == Extrapolation::Wilks);
+    EXPECT_EQ(form.IntroFrm.visible, test == Extrapolation::None);
   }
 };
 
@@ -42,8 +43,8 @@ TEST_F(ComplianceScreen, LoadsAtItsFirstShowing) {
 TEST_F(LayoutOfTheComplianceScreen, TheFirstShowingGivesTheIntroduction) {
   EXPECT_TRUE(p.Tab("grenzen"));
   EXPECT_TRUE(p.Tab("extrapolation"));
-  EXPECT_EQ(p.Record().TestTag, "");
-  ExpectLayout("");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
+  ExpectLayout(Extrapolation::None);
   EXPECT_FALSE(form.ComplianceLbl.visible);
   EXPECT_FALSE(form.SampsizeFrm.visible);
   EXPECT_FALSE(form.SampSizeCkb.visible);
@@ -52,7 +53,7 @@ TEST_F(LayoutOfTheComplianceScreen, TheFirstShowingGivesTheIntroduction) {
   EXPECT_EQ(form.UTLFrm.text, "Statistical test");
   EXPECT_EQ(form.WindnrLbl.text, "23");
   EXPECT_EQ(form.DimLbl4.text, "%");
-  EXPECT_EQ(p.Record().CurrentTab, "Statistical tests (Comparison with OELV)");
+  EXPECT_EQ(p.Record().CurrentTab, ScreenId::PercEx);
 }
 
 TEST_F(ComplianceScreen, ItsHeaderShowsTheRecord) {
@@ -115,8 +116,8 @@ TEST_F(LayoutOfTheComplianceScreen, ReturningToATestShowsItsLayoutAndRecomputesN
   for (const char* const button : {"LeidelCmb", "WilksCmb", "TuggleCmb"}) {
     Open();
     p.Click(button);
-    const std::string test = p.Record().TestTag;
-    form.PercExTxB0.text = "  12.3";
+    const Extrapolation test = p.Record().TestTag;
+    const std::string percent = form.PercExTxB0.text;
     p.Record().PercEx = 12.3;
     const std::string title = form.UTLFrm.text;
     EXPECT_TRUE(p.Tab("descript"));
@@ -124,8 +125,8 @@ TEST_F(LayoutOfTheComplianceScreen, ReturningToATestShowsItsLayoutAndRecomputesN
     ExpectLayout(test);
     EXPECT_EQ(p.Record().TestTag, test);
     EXPECT_EQ(form.UTLFrm.text, title);
-    EXPECT_EQ(form.PercExTxB0.text, "  12.3") << test;
-    EXPECT_EQ(p.Record().PercEx, 12.3) << test;
+    EXPECT_EQ(form.PercExTxB0.text, percent) << button;
+    EXPECT_EQ(p.Record().PercEx, 12.3) << button << " is not computed again";
     EXPECT_EQ(form.WindnrLbl.text, "23");
     EXPECT_EQ(form.DimLbl4.text, "%");
   }
@@ -138,8 +139,8 @@ TEST_F(LayoutOfTheComplianceScreen, ReturningToTheLeidelTestStillShowsItsResult)
   const std::string limit = form.PercExTxB1.text;
   EXPECT_TRUE(p.Tab("descript"));
   EXPECT_TRUE(p.Tab("extrapolation"));
-  EXPECT_EQ(p.Record().TestTag, "Le");
-  ExpectLayout("Le");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Leidel);
+  ExpectLayout(Extrapolation::Leidel);
   EXPECT_EQ(form.PercExTxB0.text, percent);
   EXPECT_EQ(form.PercExTxB1.text, limit);
   EXPECT_TRUE(form.ComplianceLbl.visible);
@@ -235,7 +236,7 @@ TEST_F(ComplianceScreen, WithoutALimitAboveZeroTheStartScreenComesBack) {
   p.Record().OELV = 0;
   Open();
   EXPECT_EQ(p.Shown().name, "BasisForm");
-  EXPECT_EQ(p.Record().CurrentTab, "Start");
+  EXPECT_EQ(p.Record().CurrentTab, ScreenId::Basis);
   p.Record().OELV.reset();
   Open();
   EXPECT_EQ(p.Shown().name, "BasisForm");
@@ -243,10 +244,10 @@ TEST_F(ComplianceScreen, WithoutALimitAboveZeroTheStartScreenComesBack) {
 
 TEST_F(ComplianceScreen, OffersAllThreeTestsByButtonAndByMenu) {
   Open();
-  for (const screen::Control* control : {&form.LeidelCmb, &form.WilksCmb, &form.TuggleCmb,
-                                         &form.MenuLeid, &form.MenuWilks, &form.MenuTugg}) {
-    EXPECT_TRUE(control->enabled) << control->name;
-    EXPECT_TRUE(control->visible) << control->name;
+  for (const char* name :
+       {"LeidelCmb", "WilksCmb", "TuggleCmb", "MenuLeid", "MenuWilks", "MenuTugg"}) {
+    EXPECT_TRUE(p.At(name).enabled) << name;
+    EXPECT_TRUE(p.At(name).visible) << name;
   }
 }
 
@@ -283,8 +284,8 @@ TEST_F(LayoutOfTheComplianceScreen, VisitingTheLimitsForgetsTheChosenTest) {
   p.Click("LeidelCmb");
   EXPECT_TRUE(p.Tab("grenzen"));
   EXPECT_TRUE(p.Tab("extrapolation"));
-  EXPECT_EQ(p.Record().TestTag, "");
-  ExpectLayout("");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
+  ExpectLayout(Extrapolation::None);
   EXPECT_FALSE(form.ComplianceLbl.visible);
 }
 

@@ -8,6 +8,7 @@
 
 #include "compliance/en689.h"
 #include "compliance/sample_size.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
 #include "stats/noncentral_t.h"
 #include "tests/stats/table_check.h"
@@ -61,7 +62,7 @@ std::string Described(const ExposureSession& s) {
 }
 
 void ExpectEn689(ExposureSession& s, double Ur, const std::string& where) {
-  const compliance::En689Result result = compliance::En689Test(s, Ur);
+  const compliance::En689OnRecord result = compliance::En689Test(s, Ur);
   EXPECT_EQ(result.limit.has_value(), s.U > 50) << where;
   if (result.limit) {
     EXPECT_LE(result.limit->evaluations, 3500) << where;
@@ -121,7 +122,7 @@ TEST_F(RandomSessions, StridesOverFarStepsEndOnTheStepThatSingleStepsEndOn) {
     // The last number of the stepping is the one that the first bisection halves from.
     std::vector<double> shown;
     const compliance::ToleranceSearch search = compliance::En689ToleranceLimit(
-        s, [&](compliance::En689Box, double x) { shown.push_back(x); });
+        s, [&](compliance::TestBox, double x) { shown.push_back(x); });
     const bool stepped =
         std::find(shown.begin(), shown.end(), plain) != shown.end() || search.UTL == plain;
     EXPECT_TRUE(stepped) << Described(s) << "steps end on " << plain;

@@ -119,7 +119,7 @@ TEST_F(SampleSizeOnTheScreen, TheSentenceOnTheEstimatesGivesWayToTheFrame) {
 TEST_F(SampleSizeOnTheScreen, WithoutAWilksTestTheFrameStaysAsItIs) {
   Optimise(10, 0.3, 2, 1);
   Tick();
-  p.Record().TestTag = "Le";
+  p.Record().TestTag = Extrapolation::Leidel;
   p.Record().GM = 3;
   Tick();
   EXPECT_TRUE(form.SampsizeFrm.visible);

@@ -1,4 +1,5 @@
 #include "compliance/sample_size.h"
+#include "compliance/tests_on_record.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,7 @@
 #include "catalog/catalog.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 #include "tests/support/record.h"
 
 // The optimisation of the sample size: its cases, its boxes, its words.
@@ -27,8 +29,8 @@ class SampleSize : public table::Delivered {};
 
 ExposureSession Session(double M, double GM, double GSD, double OELV, double U = 95) {
   ExposureSession s = support::SampleRecord(M, GM, GSD, OELV);
-  s.TestTag = "Wi";
-  s.CR = "\r\n";
+  s.TestTag = Extrapolation::Wilks;
+  s.CR = "\r";
   s.NInRange = static_cast<std::int16_t>(M);
   s.U = U;
   return s;
@@ -98,7 +100,7 @@ TEST_F(SampleSize, EveryRowOfTheTableGetsItsCaseItsBoxesAndItsWords) {
   for (const Row& row : support::ReadTable("sample_size_optimisation.csv")) {
     ASSERT_EQ(row.Text("state"), "ok") << row.Where();
     ExposureSession s = SessionOf(row);
-    s.TestTag = row.Text("TestTag");
+    s.TestTag = support::TagOf(row.Text("TestTag"));
     s.NInRange = static_cast<std::int16_t>(row.Number("NInRange"));
     s.RegressionOn = row.Number("RegressionOn") == 1;
     const SampleSizeResult result = compliance::OptimiseSampleSize(s);
@@ -199,7 +201,7 @@ TEST_F(SampleSize, TheBoxesShowTheNextDegreesBesideTheProbabilityOfTheLast) {
 TEST_F(SampleSize, OnlyTheWilksTestIsOptimised) {
   for (const char* tag : {"", "Le", "Tu"}) {
     ExposureSession s = Session(10, 0.3, 2, 1);
-    s.TestTag = tag;
+    s.TestTag = support::TagOf(tag);
     s.PercEx = 12;
     EXPECT_EQ(compliance::OptimiseSampleSize(s).outcome, SampleSizeCase::NotWilks);
     EXPECT_EQ(s.PercEx, 12);

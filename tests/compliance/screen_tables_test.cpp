@@ -6,6 +6,7 @@
 #include "catalog/catalog.h"
 #include "tests/compliance/compliance_screen.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 #include "tests/support/record.h"
 
 // The tables of whole sessions on the screen: every text to the character.
@@ -148,7 +149,7 @@ TEST_F(TablesOnTheComplianceScreen, EverySearchForTheSmallestSampleShowsItsFrame
     p.Record().NInRange = static_cast<std::int16_t>(row.Number("NInRange"));
     p.Record().RegressionOn = row.Number("RegressionOn") == 1;
     p.Click("WilksCmb");
-    ASSERT_EQ(p.Record().TestTag, row.Text("TestTag")) << row.Where();
+    ASSERT_EQ(p.Record().TestTag, support::TagOf(row.Text("TestTag"))) << row.Where();
     Tick();
     ExpectFrame(row, "ComMinLbl", "DegrMinLbl", "DegrMinTxb", "PercExLbl3", "PercExTxB3",
                 "SampMinLbl", "SampMinTxB");

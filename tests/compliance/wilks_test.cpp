@@ -1,4 +1,5 @@
 #include "compliance/wilks.h"
+#include "compliance/tests_on_record.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +33,7 @@ TEST_F(Wilks, EverySessionOfTheTableGetsItsExceedanceItsLimitAndItsVerdict) {
     ASSERT_EQ(row.Text("Wi_state"), "ok") << row.Where();
     ExposureSession s = support::RecordOf(row);
     const WilksResult result = compliance::WilksTest(s, row.Number("Ur"));
-    EXPECT_EQ(s.TestTag, "Wi");
+    EXPECT_EQ(s.TestTag, Extrapolation::Wilks);
     // Far out the finite series cancels: the last digit of 100 is all that is left.
     if (row.Number("Wi_robust") == 1) {
       EXPECT_NEAR(s.PercEx, row.Number("Wi_PercEx"), 1e-13 * row.Number("Wi_PercEx") + 2e-14)

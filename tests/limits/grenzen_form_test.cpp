@@ -75,7 +75,7 @@ TEST_F(LimitsScreen, ShowsTheRecordAtEachLook) {
   EXPECT_EQ(p.Text("DurationCmB"), "5 minutes");
   EXPECT_EQ(p.Text("AlphaTxb"), "90");
   EXPECT_EQ(p.Text("DeltaTxb"), "75");
-  EXPECT_EQ(s.CurrentTab, "Limits");
+  EXPECT_EQ(s.CurrentTab, ScreenId::Grenzen);
   EXPECT_EQ(p.Shown().strip->selected, "grenzen");
 }
 
@@ -215,18 +215,18 @@ TEST_F(LimitsScreenOfASeries, OfTwoHasNoPlot) {
 }
 
 TEST_F(LimitsScreen, AnyLookForgetsTheChosenTest) {
-  p.Record().TestTag = "Le";
+  p.Record().TestTag = Extrapolation::Leidel;
   Open();
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
 }
 
 TEST_F(LimitsScreen, TheWayToTheTestsForgetsTheChosenTest) {
   p.Record().OELV = 1;
   Open();
-  p.Record().TestTag = "Le";
+  p.Record().TestTag = Extrapolation::Leidel;
   EXPECT_TRUE(p.Tab("extrapolation"));
   EXPECT_EQ(p.Shown().name, "PercExForm");
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
   EXPECT_TRUE(p.At("IntroFrm").visible);
 }
 
@@ -235,16 +235,16 @@ TEST_F(LimitsScreen, TheMenuOfATestOpensTheTestsAndStartsIt) {
   Open();
   p.Click("MenuLeid");
   EXPECT_EQ(p.Shown().name, "PercExForm");
-  EXPECT_EQ(p.Record().TestTag, "Le");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Leidel);
   EXPECT_EQ(p.Text("WindnrLbl"), "25");
 }
 
 TEST_F(LimitsScreen, AClickOnItsOwnTabDoesNothing) {
   p.Record().OELV = 1;
   Open();
-  p.Record().TestTag = "Le";
+  p.Record().TestTag = Extrapolation::Leidel;
   p.Tab("grenzen");
-  EXPECT_EQ(p.Record().TestTag, "Le") << "a look would have emptied it";
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Leidel) << "a look would have emptied it";
 }
 
 TEST_F(LimitsScreen, ItsTabsLeadToTheirScreens) {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "tests/support/letters.h"
 #include "tests/support/program_session.h"
 
 // The menus that every screen has.
@@ -30,7 +31,7 @@ TEST(Menus, TheComplianceTestsRunFromEveryScreen) {
       ASSERT_EQ(user.Shown().name, form);
       user.Click(menu);
       EXPECT_EQ(user.Shown().name, "PercExForm");
-      EXPECT_EQ(user.Record().TestTag, tag);
+      EXPECT_EQ(user.Record().TestTag, support::TagOf(tag));
       EXPECT_NE(user.Text("PercExTxB(1)"), "");
       EXPECT_TRUE(user.box.shown.empty());
     }
@@ -45,8 +46,8 @@ TEST(Menus, BothMethodsOfTheMeanRunFromEveryScreen) {
       OpenOn(user, key);
       user.Click(menu);
       EXPECT_EQ(user.Shown().name, "UCLForm");
-      EXPECT_EQ(user.Record().TestTag, tag);
-      EXPECT_EQ(user.Record().CurrentTab, "Mean UCL");
+      EXPECT_EQ(user.Record().TestTag, support::TagOf(tag));
+      EXPECT_EQ(user.Record().CurrentTab, ScreenId::UCL);
       EXPECT_NE(user.Text("UCLTxB"), "");
       EXPECT_TRUE(user.box.shown.empty());
     }
@@ -60,7 +61,7 @@ TEST(Menus, NoTestRunsWhileTheSeriesIsIncomplete) {
     user.Type("SampSizTxB", "6");
     user.Click(menu);
     EXPECT_EQ(user.Shown().name, "BasisForm") << menu;
-    EXPECT_EQ(user.Record().TestTag, "") << menu;
+    EXPECT_EQ(user.Record().TestTag, Extrapolation::None) << menu;
   }
 }
 
@@ -105,7 +106,7 @@ TEST(Menus, CloseAndExitWorkFromEveryScreen) {
     user.Click("Menuclose");
     EXPECT_EQ(user.Shown().name, "BasisForm");
     EXPECT_EQ(user.Record().M, 0);
-    EXPECT_EQ(user.Record().Mode, "");
+    EXPECT_EQ(user.Record().Mode, DataMode::None);
   }
 }
 

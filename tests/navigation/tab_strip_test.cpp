@@ -93,7 +93,7 @@ TEST(TabClick, LeadsToItsScreenWhichTakesTheCurrentTab) {
   for (const auto& [key, form, caption] : tabs) {
     EXPECT_TRUE(user.Tab(key)) << key;
     EXPECT_EQ(user.Shown().name, form);
-    EXPECT_EQ(user.Record().CurrentTab, caption);
+    EXPECT_EQ(LoadResString(workflow::TabOf(*user.Record().CurrentTab).caption), caption);
     EXPECT_EQ(user.Shown().strip->selected, key);
   }
 }
@@ -102,10 +102,10 @@ TEST(TabClick, OnTheCurrentTabDoesNothing) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4, 8});
   user.At("WindnrLbl").text = "3b";
-  user.Record().TestTag = "Le";
+  user.Record().TestTag = Extrapolation::Leidel;
   EXPECT_TRUE(user.Tab("raw"));
   EXPECT_EQ(user.Text("WindnrLbl"), "3b") << "the screen was not activated again";
-  EXPECT_EQ(user.Record().TestTag, "Le");
+  EXPECT_EQ(user.Record().TestTag, Extrapolation::Leidel);
 }
 
 TEST(TabClick, OnAClosedGateStaysOnTheScreen) {
@@ -118,7 +118,7 @@ TEST(TabClick, OnAClosedGateStaysOnTheScreen) {
     EXPECT_TRUE(user.Tab(key)) << key;
     EXPECT_EQ(user.Shown().name, "BasisForm") << key;
     EXPECT_EQ(user.Shown().strip->selected, "basis") << key;
-    EXPECT_EQ(user.Record().CurrentTab, "Start") << key;
+    EXPECT_EQ(user.Record().CurrentTab, ScreenId::Basis) << key;
   }
   EXPECT_TRUE(user.Tab("raw"));
   EXPECT_EQ(user.Shown().name, "DataCtrlForm");
@@ -140,10 +140,10 @@ TEST(TabClick, ToTheTestsFromTheTableForgetsAWishForAnotherTest) {
   user.OpenSeries({1, 2, 4, 8});
   user.Tab("basis");
   user.Tab("raw");
-  user.Record().TestTag = "Ap";
+  user.Record().TestTag = Extrapolation::Jahr;
   user.Tab("extrapolation");
   EXPECT_EQ(user.Shown().name, "PercExForm");
-  EXPECT_EQ(user.Record().TestTag, "");
+  EXPECT_EQ(user.Record().TestTag, Extrapolation::None);
 }
 
 TEST(Activation, ShowsTheStartScreenFromTheRecord) {
@@ -152,6 +152,7 @@ TEST(Activation, ShowsTheStartScreenFromTheRecord) {
   user.Tab("grenzen");
   user.Record().GM = 4.5;
   user.Record().M = 7;
+  user.Record().df = 6;
   user.Tab("basis");
   EXPECT_EQ(user.Text("GMTxB"), "4.5");
   EXPECT_EQ(user.Text("SampSizTxB"), "7");

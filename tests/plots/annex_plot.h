@@ -8,10 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "analysis/regression_on_record.h"
 #include "analysis/rankits.h"
 #include "analysis/transformations.h"
 #include "plots/annex_e.h"
 #include "stats/coefficients.h"
+#include "session/moments.h"
 
 // An Annex E plot of a series, and what stands in it.
 namespace annex_plot {
@@ -25,7 +27,7 @@ struct Annex {
     StatFWinBAS::LoadCoefficients({VALKORIN_SOURCE_DIR "/data"});
     const std::size_t M = outcomes.size();
     s.CR = "\r";
-    s.Mode = "R";
+    s.Mode = DataMode::Raw;
     s.Name = "Wood dust";
     s.Unit = "mg/m3";
     s.SigDigits = 3;
@@ -44,7 +46,7 @@ struct Annex {
     EXPECT_TRUE(analysis::FillCTransf(s, scale));
   }
   PlotWBas::PlotData Data() const {
-    return {s, state.RankitTable, state.Transformation, {2024, 3, 7, 9, 5, 30}};
+    return {s, s.LnC, state.RankitTable, state.Transformation, {2024, 3, 7, 9, 5, 30}};
   }
   PlotWBas::AnnexPaper Paper() {
     data_.emplace(Data());

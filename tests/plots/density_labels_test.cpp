@@ -9,6 +9,8 @@
 #include "catalog/catalog.h"
 #include "plots/density_view.h"
 #include "plots/labels.h"
+#include "tests/plots/picture_of.h"
+#include "tests/support/letters.h"
 
 namespace {
 
@@ -33,8 +35,8 @@ constexpr double kRoomy = 11000;
 ExposureSession Sample(double GSD, int tab, const char* TestTag) {
   ExposureSession s;
   s.CR = "\r";
-  s.CurrentTab = LoadResString(tab);
-  s.TestTag = TestTag;
+  s.CurrentTab = picture::ScreenWith(tab);
+  s.TestTag = support::TagOf(TestTag);
   s.Name = "Welding fume, hall 3";
   s.Unit = "mg/m3";
   s.M = 12;
@@ -112,7 +114,7 @@ TEST_P(DensityLabels, KeepClearOfEachOtherTheCurveAndTheEdge) {
         ExposureSession s = Sample(GSD, GetParam().tab, GetParam().TestTag);
         s.OELV = OELV;
         DrawingRecord drawing(size.width, size.height);
-        PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
+        PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(picture::NumbersOf(s), {}));
         EXPECT_EQ(Trouble(drawing), "")
             << "GSD " << GSD << " OELV " << OELV << " on " << size.width << " by " << size.height;
       }
@@ -142,7 +144,7 @@ TEST_P(DensityLabels, TakeALongNameAndALongUnit) {
       s.Name = name;
       s.Unit = "fibres/ml, eight-hour mean";
       DrawingRecord drawing(size.width, size.height);
-      PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
+      PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(picture::NumbersOf(s), {}));
       EXPECT_EQ(Trouble(drawing), "") << size.width;
     }
 }
@@ -160,7 +162,7 @@ TEST_P(DensityLabels, NumbersOfManyDigitsKeepTheirBeginningAndTheirEnd) {
       s.OELV = 4 * GM;
       s.GM = GM;
       DrawingRecord drawing(size.width, size.height);
-      PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(PlotWBas::NumbersOf(s), {}));
+      PlotWBas::DrawDensity(drawing, PlotWBas::DensityOf(picture::NumbersOf(s), {}));
       EXPECT_EQ(Trouble(drawing), "") << size.width;
       const std::string below = Below(drawing);
       const bool large = GM > 1;

@@ -5,16 +5,18 @@
 #include <cmath>
 
 #include "catalog/catalog.h"
+#include "stats/estimators.h"
+#include "tests/plots/picture_of.h"
+#include "tests/support/letters.h"
 
 namespace {
 
+using picture::NumbersOf;
 using PlotWBas::DensityData;
 using PlotWBas::DensityExtent;
 using PlotWBas::DensityMark;
 using PlotWBas::DensityOf;
-using PlotWBas::DensityWindow;
 using PlotWBas::ExtentOf;
-using PlotWBas::NumbersOf;
 
 constexpr int kTests = 90;
 constexpr int kMean = 92;
@@ -23,8 +25,9 @@ constexpr int kMean = 92;
 ExposureSession CalledFrom(int tab, const char* TestTag = "") {
   ExposureSession s;
   s.CR = "\r";
-  s.CurrentTab = LoadResString(tab);
-  s.TestTag = TestTag;
+  s.CurrentTab = picture::ScreenWith(tab);
+  const bool none = *TestTag == 0;
+  s.TestTag = support::TagOf(none && tab == kTests ? "Le" : none && tab == kMean ? "Ap" : TestTag);
   s.Name = " Welders ";
   s.Unit = "ppm";
   s.M = 12;
@@ -32,7 +35,6 @@ ExposureSession CalledFrom(int tab, const char* TestTag = "") {
   s.SigDigits = 3;
   s.GM = 2;
   s.GSD = 3;
-  s.AMu = 3.5;
   s.OELV = 10;
   s.U = 95;
   s.D = 70;
@@ -155,11 +157,17 @@ TEST(DensityMarks, FromTheTestsAreUTLAndLimitToo) {
   EXPECT_EQ(MarkOf(data, "VkrValLbl").text, "H=    10 ppm\rA(C>H)=4.26 %");
 }
 
+TEST(DensityMarks, OfEN689SayWhatItsPercentageIs) {
+  const DensityData data = DensityOf(NumbersOf(CalledFrom(kTests, "Tu")), {});
+  EXPECT_EQ(MarkOf(data, "VkrValLbl").text,
+            "H=    10 ppm\rA(C>H)=4.26 %\rconfidence that less than 5% exceeds H");
+}
+
 TEST(DensityMarks, FromTheMeanAreItsEstimateItsUCLAndTheLimit) {
   const DensityData data = DensityOf(NumbersOf(CalledFrom(kMean, "Ex")), {});
   EXPECT_THAT(Marks(data),
               testing::ElementsAre("GMLbl", "GSDPercLbl", "AMuLbl", "UCLLbl", "VkrValLbl"));
-  EXPECT_EQ(MarkOf(data, "AMuLbl").x, 1.75);
+  EXPECT_EQ(MarkOf(data, "AMuLbl").x, StatFWinBAS::FinneyMeanMVU(11.0, 2.0, 3.0) / 2);
   EXPECT_NEAR(MarkOf(data, "UCLLbl").x, 3, 1e-14);
   EXPECT_EQ(MarkOf(data, "UCLLbl").text, "UCL 70.0%\r     6 ppm");
   EXPECT_EQ(MarkOf(data, "VkrValLbl").text, "H=    10 ppm\rA(AM>H)=4.26 %");
@@ -200,14 +208,14 @@ TEST(DensityHeadlines, TellProgramDateAndTime) {
 }
 
 TEST(DensityWindowNumber, FollowsTheScreenAndItsTest) {
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(82)).of), "20d");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(84)).of), "20d");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(86)).of), "20d");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kTests, "Le")).of), "25");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kTests, "Wi")).of), "26");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kTests, "Tu")).of), "27");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kMean, "Ex")).of), "24a");
-  EXPECT_STREQ(DensityWindow(NumbersOf(CalledFrom(kMean, "Ap")).of), "24b");
+  EXPECT_EQ(NumbersOf(CalledFrom(82)).window, "20d");
+  EXPECT_EQ(NumbersOf(CalledFrom(84)).window, "20d");
+  EXPECT_EQ(NumbersOf(CalledFrom(86)).window, "20d");
+  EXPECT_EQ(NumbersOf(CalledFrom(kTests, "Le")).window, "25");
+  EXPECT_EQ(NumbersOf(CalledFrom(kTests, "Wi")).window, "26");
+  EXPECT_EQ(NumbersOf(CalledFrom(kTests, "Tu")).window, "27");
+  EXPECT_EQ(NumbersOf(CalledFrom(kMean, "Ex")).window, "24a");
+  EXPECT_EQ(NumbersOf(CalledFrom(kMean, "Ap")).window, "24b");
 }
 
 }  // namespace

@@ -152,7 +152,7 @@ TEST_P(ProbabilityPaper, OfTwoOutcomesIsASubscriptFault) {
   const std::vector<double> R = {0, 0.5};
   drawing::DrawingRecord drawing(1000, 1000);
   PlotWBas::Labels labels;
-  const PlotWBas::PlotData data{s, R, "Log(x)", {}};
+  const PlotWBas::PlotData data{s, s.LnC, R, "Log(x)", {}};
   EXPECT_THROW(DrawProbabilityPaper(drawing, labels, data), RunTimeError);
   s.M = 4;  // more than there are outcomes
   EXPECT_THROW(DrawInverseCumulative(drawing, labels, data), RunTimeError);

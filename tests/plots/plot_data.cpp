@@ -1,13 +1,14 @@
 #include "tests/plots/plot_data.h"
+#include "session/moments.h"
 
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
-#include "analysis/limit_checks.h"
 #include "plots/limit_lines.h"
 #include "plots/paper_labels.h"
 #include "plots/regression_line.h"
+#include "session/limit_checks.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/stats/table_check.h"
 
@@ -33,10 +34,10 @@ void Restrict(ExposureSession& s) {
   const auto M = static_cast<std::size_t>(s.M);
   const auto between = [&](std::size_t i) { return (s.C[i] + s.C[i + 1]) / 2; };
   s.DetecOn = true;
-  if (M == 4) analysis::ControleOndergrens(s, between(1));
+  if (M == 4) ControleOndergrens(s, between(1));
   if (M <= 4) return;
-  analysis::ControleOndergrens(s, between(std::max<std::size_t>(M / 10, 1)));
-  analysis::ControleBovengrens(s, between(M - std::max<std::size_t>(M / 10, 1)));
+  ControleOndergrens(s, between(std::max<std::size_t>(M / 10, 1)));
+  ControleBovengrens(s, between(M - std::max<std::size_t>(M / 10, 1)));
 }
 
 Plot::Plot(ExposureSession record, std::string transformation, double width, double height)
@@ -48,7 +49,7 @@ Plot::Plot(ExposureSession record, std::string transformation, double width, dou
 }
 
 PlotWBas::PlotData Plot::Data() const {
-  return {s, state.RankitTable, state.Transformation, {2024, 3, 7, 9, 5, 30}};
+  return {s, state.CTransf, state.RankitTable, state.Transformation, {2024, 3, 7, 9, 5, 30}};
 }
 
 PlotWBas::Paper Plot::Paper(PlotWBas::Axes axes) const { return {axes, drawing, Data()}; }

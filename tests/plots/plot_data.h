@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "plots/paper.h"
 #include "session/exposure_session.h"
 

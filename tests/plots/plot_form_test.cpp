@@ -8,6 +8,7 @@
 
 #include "analysis/transformations.h"
 #include "session/global_bas.h"
+#include "session/moments.h"
 #include "tests/analysis/fit_data.h"
 #include "tests/plots/plot_screen.h"
 #include "tests/stats/table_check.h"
@@ -29,7 +30,7 @@ class PlotScreen : public testing::Test {
 TEST_F(PlotScreen, OpensOnTheLogarithmicScaleWithTheLineThroughAllOutcomes) {
   p.See(kTen);
   EXPECT_EQ(p.Shown().name, "PlotForm");
-  EXPECT_EQ(s.CurrentTab, "Check distribution");
+  EXPECT_EQ(s.CurrentTab, ScreenId::Plot);
   EXPECT_EQ(p.Plot().state.Transformation, "Log(x)");
   EXPECT_TRUE(p.At("MenuLog").ticked);
   EXPECT_EQ(p.Text("WindnrLbl"), "17a");
@@ -48,8 +49,10 @@ TEST_F(PlotScreen, LaysTheSeriesOutAfreshEachTimeItOpens) {
   p.OpenSeries({1, 4, 9, 16});
   ASSERT_TRUE(p.Tab("plot"));
   EXPECT_EQ(p.Plot().state.Transformation, "Sqr(x)");
-  EXPECT_EQ(std::vector<double>(s.LnC.begin() + 1, s.LnC.begin() + 5),
+  const std::vector<double>& laidOut = p.Plot().state.CTransf;
+  EXPECT_EQ(std::vector<double>(laidOut.begin() + 1, laidOut.begin() + 5),
             (std::vector<double>{1, 2, 3, 4}));
+  EXPECT_EQ(s.LnC[2], std::log(4.0)) << "the record's logarithms are no matter of the scale";
 }
 
 TEST_F(PlotScreen, FallsBackToTheLogarithmWhereTheScaleDoesNotFitTheSeries) {
@@ -60,13 +63,13 @@ TEST_F(PlotScreen, FallsBackToTheLogarithmWhereTheScaleDoesNotFitTheSeries) {
   p.OpenSeries(kTen);
   ASSERT_TRUE(p.Tab("plot"));
   EXPECT_EQ(p.Plot().state.Transformation, "Log(x)");
-  EXPECT_NEAR(s.LnC[1], std::log(0.21), 1e-15);
+  EXPECT_NEAR(p.Plot().state.CTransf[1], std::log(0.21), 1e-15);
   EXPECT_TRUE(p.box.shown.empty());
 }
 
 TEST_F(PlotScreen, RefusesTheDoubleLogarithmOfALowestOutcomeOfExactlyOne) {
   p.See({1, 2, 3, 4});
-  const std::vector<double> before = s.LnC;
+  const std::vector<double> before = p.Plot().state.CTransf;
   p.Click("MenuDubLog");
   EXPECT_EQ(p.LastBox().title, "Invalid transformation");
   EXPECT_EQ(p.LastBox().text,
@@ -74,7 +77,7 @@ TEST_F(PlotScreen, RefusesTheDoubleLogarithmOfALowestOutcomeOfExactlyOne) {
             "Double logarithmic transformation is invalid");
   EXPECT_EQ(p.Plot().state.Transformation, "Log(x)");
   EXPECT_TRUE(p.At("MenuLog").ticked);
-  EXPECT_EQ(s.LnC, before);
+  EXPECT_EQ(p.Plot().state.CTransf, before);
   EXPECT_FALSE(p.Shown().busyPointer);
 }
 
@@ -131,7 +134,7 @@ TEST_F(PlotScreen, ShowsTheTransformedOutcomesOfTheReferenceTable) {
     const auto i = static_cast<std::size_t>(row.Number("i"));
     if (i == 0) continue;  // no point
     table::Expect(row, {"series", "menu", "i"}, "CTransf (element 0 was -5 before)", 1e-13,
-                  [&] { return user.Record().LnC.at(i); });
+                  [&] { return user.Plot().state.CTransf.at(i); });
     ++rows;
   }
   EXPECT_GE(rows, 180);
@@ -195,8 +198,11 @@ TEST_F(PlotScreen, ShowsFitAndEstimatesOfTheReferenceTable) {
               s.NInRange < 3 ? "Shapiro's test\rGoodness-of-fit\rprobability: \rnot possible\r"
                              : fit_data::Unescaped(row.Text("text")));
     EXPECT_EQ(NamesOfEstimates(p.Text("LblDescrip")), row.Text("estimates"));
-    EXPECT_NE(p.Text("LblDescrip").find(ShownEstimates(row, s)), std::string::npos)
-        << p.Text("LblDescrip") << " lacks " << ShownEstimates(row, s);
+    // The record's own width is back by now: the line has changed what the statistics rest on.
+    ExposureSession drawn = s;
+    drawn.SigDigits = digits.at(row.Text("series"));
+    EXPECT_NE(p.Text("LblDescrip").find(ShownEstimates(row, drawn)), std::string::npos)
+        << p.Text("LblDescrip") << " lacks " << ShownEstimates(row, drawn);
     table::Expect(row, {"series", "menu"}, "GM", 1e-12, [&] { return s.GM; });
     table::Expect(row, {"series", "menu"}, "GSD", 1e-12, [&] { return s.GSD; });
     ++rows;

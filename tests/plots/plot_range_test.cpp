@@ -94,8 +94,8 @@ TEST_F(PlotRange, HidesTheLineOfTheDefaultUpperLimitAlthoughTheRangeIsInForce) {
   EXPECT_FALSE(p.At("LblLnURR").visible);
 }
 
-// The line stays, the limit has changed: the picture follows at the next event.
-TEST_F(PlotRange, ComplainsOfALimitThatLeavesTooLittleAndDoesNotRedraw) {
+// The box tells of the limit that was refused; behind it the picture shows the one in its place.
+TEST_F(PlotRange, ComplainsOfALimitThatLeavesTooLittleAndRedrawsWithTheOneInItsPlace) {
   p.Click("MenuLowLim");
   const int drawn = p.Plot().PicPlot.drawing.Revision();
   p.Bar("VScLowLimit", 5);
@@ -104,9 +104,14 @@ TEST_F(PlotRange, ComplainsOfALimitThatLeavesTooLittleAndDoesNotRedraw) {
   EXPECT_EQ(p.LastBox().icon, screen::Icon::Exclamation);
   EXPECT_NE(p.LastBox().text.find("less than 3"), std::string::npos);
   EXPECT_EQ(s.LOQ, 1.1);  // C(LastInRange - 3)
-  EXPECT_EQ(p.Plot().PicPlot.drawing.Revision(), drawn);
-  p.Click("MenuRedraw");
   EXPECT_NE(p.Plot().PicPlot.drawing.Revision(), drawn);
+  EXPECT_TRUE(p.At("LblLnLOQ").visible);
+  const double place = std::log(3.1 / 1.1) / std::log(3.1 / 0.21);
+  EXPECT_EQ(p.At("VScLowLimit").value, std::lround(100 * place));
+  EXPECT_EQ(p.Text("LblLnLOQ"), "LOQ     1.1");
+  const auto picture = p.Plot().PicPlot.drawing.Items();
+  p.Click("MenuRedraw");
+  EXPECT_EQ(p.Plot().PicPlot.drawing.Items(), picture) << "nothing is left to follow";
 }
 
 TEST_F(PlotRange, WithARootScaleShowsNoEstimatesAndLeavesTheSampleEstimators) {

@@ -59,13 +59,13 @@ TEST_F(PlotWays, AreTheTabsOfTheTable) {
 
 TEST_F(PlotWays, EmptyTheNameOfTheTest) {
   p.See(kTen);
-  s.TestTag = "Le";
+  s.TestTag = Extrapolation::Leidel;
   p.Tab("extrapolation");
   EXPECT_EQ(p.Shown().name, "PercExForm");
-  EXPECT_EQ(s.TestTag, "");
-  s.TestTag = "Le";
+  EXPECT_EQ(s.TestTag, Extrapolation::None);
+  s.TestTag = Extrapolation::Leidel;
   p.Tab("plot");
-  EXPECT_EQ(s.TestTag, "");
+  EXPECT_EQ(s.TestTag, Extrapolation::None);
 }
 
 // The click has moved the strip; the activation moves it back.
@@ -84,7 +84,7 @@ TEST_F(PlotWays, OfTheMenusLeadToTheirTests) {
   p.See(kTen);
   p.Click("MenuLeid");
   EXPECT_EQ(p.Shown().name, "PercExForm");
-  EXPECT_EQ(s.TestTag, "Le");
+  EXPECT_EQ(s.TestTag, Extrapolation::Leidel);
 }
 
 TEST_F(PlotWays, LeaveTheEstimatesAsTheLastDrawingHadThem) {
@@ -132,12 +132,12 @@ TEST_F(PlotWays, ToOtherKindsOpenInTheDeveloperModeOnly) {
   EXPECT_TRUE(s.DeveloperMode);
   EXPECT_TRUE(p.At("MemuOtherPlots").visible);
   p.Click("MenuInvPlot");
-  EXPECT_EQ(s.PlotKind, "InvPlot");
+  EXPECT_EQ(s.PlotKind, PlotStyle::Inverse);
   EXPECT_TRUE(p.At("MenuInvPlot").ticked);
   EXPECT_EQ(p.Text("LblYasTop"), "Normal\rorder\rscale");
   p.Click("MenuDevMode");
   EXPECT_FALSE(p.At("MemuOtherPlots").visible);
-  EXPECT_EQ(s.PlotKind, "VALKORIN");
+  EXPECT_EQ(s.PlotKind, PlotStyle::Paper);
   EXPECT_EQ(p.Text("LblXasEinde"), "Normal\rorder\rscale");
 }
 
@@ -147,7 +147,7 @@ TEST_F(PlotWays, ToThePaperOfAnnexEShowItsLabelsAndNoBars) {
   p.Click("MenuDevMode");
   p.Click("MenuLowLim");
   p.Click("MenuAnnexEPlot");
-  EXPECT_EQ(s.PlotKind, "EN689AnnexE");
+  EXPECT_EQ(s.PlotKind, PlotStyle::AnnexE);
   EXPECT_TRUE(p.At("MenuAnnexEPlot").ticked);
   EXPECT_TRUE(p.At("LblYas_50_procent").visible);
   EXPECT_EQ(p.Text("LblYas_50_procent"), "50%");

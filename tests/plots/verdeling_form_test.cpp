@@ -75,7 +75,7 @@ TEST_P(PictureCaller, StandsAsItWasLeftBehindThePicture) {
   ASSERT_TRUE(menu->visible);
   ASSERT_TRUE(menu->enabled);
   const auto before = Look(caller);
-  const std::string tab = user.Record().CurrentTab;
+  const auto tab = user.Record().CurrentTab;
   user.SeePicture();
   EXPECT_EQ(user.Record().CurrentTab, tab);
   EXPECT_FALSE(user.Picture().VerdelingPict.drawing.Items().empty());
@@ -128,12 +128,14 @@ TEST(FrequencyPicture, AnAMuOfZeroIsComputedBeforeDrawingAndStays) {
   EXPECT_EQ(s.AMu, expected);
 }
 
-TEST(FrequencyPicture, AnAMuThatIsThereIsKept) {
+// Whatever stood there may be of other data.
+TEST(FrequencyPicture, TheMeanIsThatOfTheDataInThePicture) {
   User user;
   user.GoTo("basis");
   user.Record().AMu = 77;
   user.SeePicture();
-  EXPECT_EQ(user.Record().AMu, 77);
+  const ExposureSession& s = user.Record();
+  EXPECT_EQ(s.AMu, StatFWinBAS::FinneyMeanMVU(s.df, s.GM, s.GSD));
 }
 
 TEST(FrequencyPicture, LeavesTheLogarithmOfTheSpreadInTheRecord) {
@@ -164,8 +166,9 @@ TEST(FrequencyPicture, FollowsANewSize) {
   picture.drawing.SetScale(18000, 10000);
   screen::Guarded(user.ports, picture.Resized);
   drawing::DrawingRecord expected(18000, 10000);
-  PlotWBas::DrawDensity(expected,
-                        PlotWBas::DensityOf(PlotWBas::NumbersOf(user.Record()), user.clock.Now()));
+  PlotWBas::DrawDensity(
+      expected,
+      PlotWBas::DensityOf(*PlotWBas::NumbersOf(user.program.SessionRecord()), user.clock.Now()));
   EXPECT_EQ(picture.drawing.Items(), expected.Items());
 }
 
@@ -183,18 +186,35 @@ TEST(FrequencyPicture, IsNotDrawnWhileItIsHidden) {
   EXPECT_TRUE(user.box.shown.empty());
 }
 
-TEST(FrequencyPicture, AFaultShowsAMessageAndNoEarlierPicture) {
+TEST(FrequencyPicture, NumbersThatCannotBeDrawnCloseItsMenuAndLeaveNoEarlierPicture) {
   User user;
   user.GoTo("descript");
   user.SeePicture();
-  user.Click("Menuclose");
   user.Record().GSD = 1;
-  user.Click("MenuVerd");
-  EXPECT_EQ(user.box.shown.size(), 1U);
-  EXPECT_TRUE(user.Picture().VerdelingPict.drawing.Items().empty());
+  screen::Picture& picture = user.Picture().VerdelingPict;
+  screen::Guarded(user.ports, picture.Resized);
+  EXPECT_TRUE(picture.drawing.Items().empty());
   EXPECT_FALSE(user.ShowsLabel("GMLbl"));
+  EXPECT_TRUE(user.box.shown.empty());
   user.Click("Menuclose");
-  EXPECT_EQ(user.Shown().name, "DescriptForm");
+  user.Tab("basis");
+  EXPECT_EQ(user.Shown().name, "BasisForm");
+  EXPECT_FALSE(user.At("MenuVerd").enabled);
+  EXPECT_NE(user.At("MenuVerd").tip, "");
+  EXPECT_TRUE(user.box.shown.empty());
+}
+
+TEST(FrequencyPicture, ALimitOfTheMeanBeyondNumbersClosesItsMenu) {
+  User user;
+  user.EnterStatistics("Welders", "2", "1", "1000");
+  user.Record().OELV = 5;
+  user.Record().D = 99.99;
+  user.program.Open(navigation::ScreenId::UCL);
+  user.Click("JahrCmb");
+  ASSERT_EQ(user.LastBox().title, "UCL");
+  ASSERT_TRUE(user.At("MenuVerd").visible);
+  EXPECT_FALSE(user.At("MenuVerd").enabled);
+  EXPECT_NE(user.At("MenuVerd").tip, "");
 }
 
 TEST(SavingAPicture, WritesItAsABitmapWhereTheDialogSays) {
@@ -245,7 +265,7 @@ TEST(FrequencyPicture, ExitAnsweredWithNoLeadsToTheStartScreen) {
   user.Click("MenuExit");
   EXPECT_EQ(user.Shown().name, "BasisForm");
   EXPECT_FALSE(user.program.EndRequested());
-  EXPECT_EQ(user.Record().TestTag, "") << "as when the mean itself is left";
+  EXPECT_EQ(user.Record().TestTag, Extrapolation::None) << "as when the mean itself is left";
 }
 
 TEST(FrequencyPicture, ItsDrawingsAreAsTheyWere) {

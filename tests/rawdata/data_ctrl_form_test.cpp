@@ -2,7 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 #include "catalog/catalog.h"
+#include "session/derivation.h"
 #include "tests/support/csv.h"
 #include "tests/support/program_session.h"
 
@@ -33,7 +36,7 @@ void OpenTable(ProgramSession& user, const std::string& rows) {
 TEST(DataControl, ShowsTheSeriesItsRangeAndItsSize) {
   ProgramSession user;
   user.OpenSeries({8, 1.5, 4, 2});
-  EXPECT_EQ(user.Record().CurrentTab, "Raw data");
+  EXPECT_EQ(user.Record().CurrentTab, ScreenId::DataCtrl);
   EXPECT_EQ(user.Shown().strip->selected, "raw");
   EXPECT_EQ(user.Text("WindnrLbl"), "15");
   EXPECT_TRUE(user.At("RangeFrame").visible);
@@ -74,9 +77,9 @@ TEST(DataControl, ForgetsTheWishForATest) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4});
   user.Tab("basis");
-  user.Record().TestTag = "Le";
+  user.Record().TestTag = Extrapolation::Leidel;
   user.Tab("raw");
-  EXPECT_EQ(user.Record().TestTag, "");
+  EXPECT_EQ(user.Record().TestTag, Extrapolation::None);
 }
 
 // The labels of the results tell whose they are: here they are the whole sample's again.
@@ -108,17 +111,19 @@ TEST(Incomplete, AnEmptiedCellMakesTheSeriesIncompleteAndAValueCompletesIt) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4});
   user.Click("DetecChB");
-  const double GM = user.Record().GM;
   Edit(user, 1, "");
   EXPECT_TRUE(user.Record().RawIncomplete);
   EXPECT_FALSE(user.Record().DescOk);
-  EXPECT_EQ(user.Record().GM, GM) << "the derived fields are left alone";
+  for (const double statistic : {user.Record().GM, user.Record().GSD, user.Record().df})
+    EXPECT_EQ(statistic, 0) << "nothing outlives the series that it came from";
   EXPECT_TRUE(user.box.shown.empty());
   for (const char* name : {"FrmDetec", "RangeFrame", "DetecChB"})
     EXPECT_FALSE(user.At(name).visible) << name;
   Edit(user, 1, "3");
   EXPECT_FALSE(user.Record().RawIncomplete);
   EXPECT_TRUE(user.Record().DescOk);
+  EXPECT_NEAR(user.Record().GM, std::cbrt(12), 1E-14);
+  EXPECT_EQ(user.Record().df, 2);
   for (const char* name : {"FrmDetec", "RangeFrame", "DetecChB"})
     EXPECT_TRUE(user.At(name).visible) << name;
 }
@@ -168,25 +173,36 @@ std::vector<double> Numbers(const std::string& text) {
   return values;
 }
 
-// The last outcome scanned sets the width of numbers; a zero stops the scan; showing the column
-// raises it again.
-TEST(Status, TheWidthOfNumbersFollowsTheOutcomes) {
+// The table's other columns are of a scan that stopped early; nobody can see its widths any more.
+TEST(Status, TheWidthOfNumbersIsThatOfTheLongestOutcome) {
   for (const support::Row& row : support::ReadTable("sigdigits.csv")) {
     SCOPED_TRACE(row.Where() + " " + row.Text("series"));
-    ProgramSession user;
+    Given given;
+    given.Mode = DataMode::Raw;
+    given.C = Numbers(row.Text("series"));
+    given.M = static_cast<double>(given.C.size());
+    given.C.insert(given.C.begin(), 0);
+    EXPECT_EQ(ConsequencesOf(given).derived.SigDigits, row.Number("after_grid"));
+  }
+}
+
+TEST(Status, TheWidthOfNumbersFollowsTheOutcomesAtOnce) {
+  int typed = 0;
+  for (const support::Row& row : support::ReadTable("sigdigits.csv")) {
+    SCOPED_TRACE(row.Where() + " " + row.Text("series"));
     const std::vector<double> outcomes = Numbers(row.Text("series"));
+    if (std::ranges::max(outcomes) > 1E+10) continue;  // no cell takes it
+    ProgramSession user;
     OpenTable(user, GlobalBAS::GeneralText(static_cast<double>(outcomes.size())));
-    std::copy(outcomes.begin(), outcomes.end(), user.Record().C.begin() + 1);
-    user.Record().SigDigits = 9;
-    DataControl(user).DataCtrlStatus();
-    EXPECT_EQ(user.Record().SigDigits, row.Number("SigDigits_from_9"));
-    std::copy(outcomes.begin(), outcomes.end(), user.Record().C.begin() + 1);
-    user.Record().SigDigits = 0;
-    DataControl(user).DataCtrlStatus();
-    EXPECT_EQ(user.Record().SigDigits, row.Number("SigDigits_from_0"));
-    DataControl(user).Rebind();
+    std::size_t longest = 1;
+    for (std::size_t i = 0; i < outcomes.size(); ++i, ++typed) {
+      Edit(user, static_cast<int>(i), GlobalBAS::FileText(outcomes[i]));
+      longest = std::max(longest, GlobalBAS::GeneralText(outcomes[i]).size());
+      EXPECT_EQ(user.Record().SigDigits, longest) << outcomes[i];
+    }
     EXPECT_EQ(user.Record().SigDigits, row.Number("after_grid"));
   }
+  EXPECT_GT(typed, 15);
 }
 
 // The series of the table of opened series, in the order in which they were entered.
@@ -195,6 +211,16 @@ std::map<std::string, std::string> FilesOfSeries() {
   for (const support::Row& row : support::ReadTable("series.csv"))
     files[row.Text("series")] += row.Text("value_as_entered") + "\r\n";
   return files;
+}
+
+// The width of the longest outcome of a file.
+int LongestLine(const std::string& file) {
+  std::size_t longest = 0;
+  for (std::size_t at = 0; at < file.size(); at = file.find('\n', at) + 1) {
+    const std::string line = file.substr(at, file.find('\r', at) - at);
+    longest = std::max(longest, GlobalBAS::GeneralText(GlobalBAS::ReadNumber(line)).size());
+  }
+  return static_cast<int>(longest);
 }
 
 TEST(Status, TheRecordOfEachReferenceSeriesIsAsItsTableSays) {
@@ -218,8 +244,8 @@ TEST(Status, TheRecordOfEachReferenceSeriesIsAsItsTableSays) {
     EXPECT_EQ(record.SortOrder, row.Text("SortOrder"));
     EXPECT_EQ(record.LOQ, row.Number("LOQ"));
     EXPECT_EQ(record.URR, row.Number("URR"));
-    DataControl(user).DataCtrlStatus();
-    EXPECT_EQ(record.SigDigits, row.Number("SigDigits"));
+    EXPECT_EQ(record.SigDigits, LongestLine(files.at(row.Text("series"))));
+    EXPECT_GE(record.SigDigits, row.Number("SigDigits")) << "the table has the last one's width";
   }
 }
 

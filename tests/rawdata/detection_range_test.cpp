@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <map>
 
 #include "rawdata/data_ctrl_form.h"
@@ -209,7 +210,18 @@ bool Play(ProgramSession& user, const support::Row& row, const std::string& file
   return true;
 }
 
-void ExpectRecord(const support::Row& row, const ExposureSession& record) {
+// The table evaluates a range when the descriptive screen is looked at, and keeps the whole
+// sample's GSD until then; in the record it follows at once. One sum of squares has both: that of
+// the row in which the series was opened. Without a degree of freedom there is no GSD.
+double GSDInStep(const support::Row& row, const support::Row& opened) {
+  const double df = row.Number("df");
+  if (df < 1) return 0;
+  const double lnGSD = std::log(opened.Number("GSD"));
+  return std::exp(std::sqrt(lnGSD * lnGSD * opened.Number("df") / df));
+}
+
+void ExpectRecord(const support::Row& row, const support::Row& opened,
+                  const ExposureSession& record) {
   const std::pair<const char*, double> exact[] = {{"DetecOn", record.DetecOn},
                                                   {"LOQ", record.LOQ},
                                                   {"URR", record.URR},
@@ -220,6 +232,14 @@ void ExpectRecord(const support::Row& row, const ExposureSession& record) {
                                                   {"InputState", record.InputState},
                                                   {"df", record.df}};
   for (const auto& [column, value] : exact) EXPECT_EQ(value, row.Number(column)) << column;
+  EXPECT_LT(support::RelativeError(record.GM, row.Number("GM")), 1E-12) << record.GM;
+  EXPECT_EQ(record.noEstimates, row.Number("df") < 1);
+  EXPECT_LT(support::RelativeError(record.GSD, GSDInStep(row, opened)), 1E-12) << record.GSD;
+}
+
+// What the table has once it has evaluated is what the record holds before the look already.
+void ExpectEvaluated(const support::Row& row, const ExposureSession& record) {
+  EXPECT_EQ(record.df, row.Number("df"));
   EXPECT_LT(support::RelativeError(record.GM, row.Number("GM")), 1E-12) << record.GM;
   EXPECT_LT(support::RelativeError(record.GSD, row.Number("GSD")), 1E-12) << record.GSD;
 }
@@ -237,22 +257,31 @@ TEST(DetectionRange, SequencesOfLimitsLeaveTheRecordAsTheirTableSays) {
     files[row.Text("series")] += row.Text("value_as_entered") + "\r\n";
   std::unique_ptr<ProgramSession> user;
   int limits = 0;
-  for (const support::Row& row : support::ReadTable("scenarios.csv")) {
+  int evaluated = 0;
+  const support::Row* opened = nullptr;
+  const std::vector<support::Row> rows = support::ReadTable("scenarios.csv");
+  for (const support::Row& row : rows) {
     SCOPED_TRACE(row.Where() + " " + row.Text("scenario") + ": " + row.Text("op"));
+    if (row.Text("op") == "open_series") opened = &row;
     if (row.Text("op") == "open_series")
       user = files.count(row.Text("series")) ? std::make_unique<ProgramSession>() : nullptr;
     if (user) user->box.shown.clear();
+    if (user && row.Text("op") == "DescriptActivate") {
+      ExpectEvaluated(row, user->Record());
+      ++evaluated;
+    }
     if (!user || ReachesBeyondTheSeries(row, user->Record()) ||
         !Play(*user, row, files.at(row.Text("series")))) {
       user.reset();
       continue;
     }
-    ExpectRecord(row, user->Record());
+    ExpectRecord(row, *opened, user->Record());
     const std::string told = user->box.shown.empty() ? "" : "MESSAGE " + user->LastBox().text;
     EXPECT_EQ(told, row.Text("result"));
     if (row.Text("op").ends_with(" field")) ++limits;
   }
   EXPECT_GE(limits, 9) << "steps played";
+  EXPECT_GE(evaluated, 2);
 }
 
 }  // namespace

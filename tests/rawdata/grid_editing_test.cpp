@@ -70,7 +70,7 @@ TEST(Grid, OnlyTheConcentrationCanBeWritten) {
   EXPECT_FALSE(GridOf(user).Write(3, 2, "9"));
   EXPECT_EQ(user.Record().C, (std::vector<double>{2, 1, 2, 4}));
   EXPECT_TRUE(GridOf(user).Write(1, 2, "1.234,5"));
-  EXPECT_EQ(user.Record().C[2], 1234.5);
+  EXPECT_EQ(user.Record().C, (std::vector<double>{4, 1, 4, 1234.5})) << "in its place at once";
 }
 
 TEST(Grid, AValueThatNoFileCouldHoldIsRefusedAndTheOldOneStays) {
@@ -88,13 +88,14 @@ TEST(Grid, AValueThatNoFileCouldHoldIsRefusedAndTheOldOneStays) {
 }
 
 TEST(Grid, TheBordersOfTheValuesAreTaken) {
-  ProgramSession user;
-  user.OpenSeries({1, 2, 4});
-  for (const auto& [entry, value] : {std::pair{"1E+10", 1E+10}, {"1E-10", 1E-10}}) {
+  for (const auto& [entry, series] :
+       {std::pair{"1E+10", std::vector<double>{4, 1, 4, 1E+10}}, {"1E-10", {1, 1E-10, 1, 4}}}) {
+    ProgramSession user;
+    user.OpenSeries({1, 2, 4});
     EXPECT_TRUE(GridOf(user).Write(1, 2, entry));
-    EXPECT_EQ(user.Record().C[2], value);
+    EXPECT_EQ(user.Record().C, series);
+    EXPECT_TRUE(user.box.shown.empty());
   }
-  EXPECT_TRUE(user.box.shown.empty());
 }
 
 TEST(AddedRow, JoinsTheSeriesInItsOrder) {

@@ -23,7 +23,7 @@ void ExpectClosedWith(ProgramSession& user, int text) {
   EXPECT_EQ(user.Shown().name, "BasisForm");
   EXPECT_EQ(user.Record().Name, "");
   EXPECT_EQ(user.Record().M, 0);
-  EXPECT_EQ(user.Record().Mode, "");
+  EXPECT_EQ(user.Record().Mode, DataMode::None);
   EXPECT_FALSE(user.At("TabBasis").visible);
 }
 

@@ -7,6 +7,7 @@
 #include "rawdata/raw_file.h"
 #include "session/exposure_session.h"
 #include "session/global_bas.h"
+#include "session/moments.h"
 #include "tests/support/csv.h"
 #include "tests/support/temp_folder.h"
 

@@ -34,10 +34,10 @@ const std::map<ScreenId, Row> kNeeds = {
       {DataCtrl, "own"},
       {Descript, "Rm"},
       {Grenzen, "Rm"},
-      {PercEx, "m"},
-      {UCL, "m"},
-      {Plot, "m"},
-      {TwoSamp, "m"}}},
+      {PercEx, "Rm"},
+      {UCL, "Rm"},
+      {Plot, "Rm"},
+      {TwoSamp, "Rm"}}},
     {Descript,
      {{Basis, "D"},
       {DataCtrl, "D"},
@@ -98,7 +98,7 @@ const std::map<ScreenId, Row> kNeeds = {
 ExposureSession With(const std::string& facts) {
   const auto holds = [&](char fact) { return facts.find(fact) != std::string::npos; };
   ExposureSession s;
-  s.Mode.assign(1, holds('R') ? 'R' : 'D');
+  s.Mode = holds('R') ? DataMode::Raw : DataMode::Statistics;
   s.M = holds('3') ? 3 : 2;
   s.DescOk = holds('D');
   s.LimitsOk = holds('L');
@@ -173,19 +173,21 @@ TEST(Gates, TheWishForATestEndsOnTheseWaysAndOnNoOthers) {
     for (const ScreenId from : kScreens) {
       if (from == target) continue;
       ExposureSession s = With(kFacts);
-      s.TestTag.assign("Le");
+      s.TestTag = Extrapolation::Leidel;
       PassGate(s, from, target);
       const std::vector<ScreenId>& list = ends.at(target);
       const bool emptied = std::find(list.begin(), list.end(), from) != list.end();
-      EXPECT_EQ(s.TestTag, emptied ? "" : "Le") << Way(from, target);
+      EXPECT_EQ(s.TestTag, emptied ? Extrapolation::None : Extrapolation::Leidel)
+          << Way(from, target);
     }
 }
 
 TEST(Gates, GoingToThePlotChoosesTheCumulativePlot) {
   for (const ScreenId target : kScreens) {
     ExposureSession s = With(kFacts);
-    s.PlotKind = "InvPlot";
+    s.PlotKind = PlotStyle::Inverse;
     PassGate(s, Grenzen, target);
-    EXPECT_EQ(s.PlotKind, target == Plot ? "VALKORIN" : "InvPlot") << TabOf(target).key;
+    EXPECT_EQ(s.PlotKind, target == Plot ? PlotStyle::Paper : PlotStyle::Inverse)
+        << TabOf(target).key;
   }
 }

@@ -7,6 +7,7 @@
 
 #include "base/fault.h"
 #include "session/exposure_session.h"
+#include "session/moments.h"
 #include "tests/support/csv.h"
 
 namespace {

@@ -7,6 +7,7 @@
 #include "catalog/catalog.h"
 #include "session/workflow.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 
 using namespace workflow;
 using enum ScreenId;
@@ -23,7 +24,7 @@ ScreenId ScreenOf(const std::string& name) {
 
 ExposureSession FromRow(const support::Row& row) {
   ExposureSession s;
-  s.Mode = row.Text("Mode");
+  s.Mode = support::ModeOf(row.Text("Mode"));
   s.IdentOk = row.Number("IdentOk") == 1;
   s.DescOk = row.Number("DescOk") == 1;
   s.LimitsOk = row.Number("LimitsOk") == 1;
@@ -43,7 +44,7 @@ std::string Keys(const ExposureSession& s, ScreenId shown) {
 
 ExposureSession State(const std::string& mode, double M, bool descOk, bool limitsOk) {
   ExposureSession s;
-  s.Mode = mode;
+  s.Mode = support::ModeOf(mode);
   s.M = M;
   s.IdentOk = true;
   s.DescOk = descOk;
@@ -62,7 +63,7 @@ TEST(Tabs, EveryStateOfTheTableShowsItsStripAndItsPlotMenu) {
     if (row.Text("tabs") == "as before") {
       // The status routine stops before it comes to the strip.
       EXPECT_EQ(shown, Basis) << where;
-      EXPECT_EQ(s.Mode, "") << where;
+      EXPECT_EQ(s.Mode, DataMode::None) << where;
       EXPECT_EQ(Keys(s, shown), "") << where;
       continue;
     }

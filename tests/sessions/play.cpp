@@ -5,14 +5,16 @@
 #include <sstream>
 
 #include "base/fault.h"
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/leidel.h"
 #include "compliance/sample_size.h"
 #include "compliance/wilks.h"
 #include "stats/student.h"
 #include "tests/sessions/random_session.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
+#include "tests/support/letters.h"
 
 namespace sessions {
 namespace {
@@ -105,7 +107,7 @@ Complaints PlaySampleSize(ExposureSession s, Most& most) {
   Check check;
   const double M = s.M;
   const double df = s.df;
-  s.TestTag = "Wi";
+  s.TestTag = Extrapolation::Wilks;
   const auto result = compliance::OptimiseSampleSize(s);
   check.That("M and df are not put back", s.M == M && s.df == df);
   check.That("not one of the cases", result.outcome != SampleSizeCase::NotWilks);
@@ -123,7 +125,7 @@ Complaints PlayComparison(ExposureSession s) {
   Check check;
   for (const char* mode : {"S", "P"}) {
     for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) {
-      s.CompareMode = mode;
+      s.CompareMode = support::KindOf(mode);
       const auto result = compare::Inference(s, [answer](double) { return answer; });
       check.That("not compared", result.done);
       check.Percent("A of the dispersions", result.dispersion.A);
@@ -140,7 +142,7 @@ Complaints PlayComparison(ExposureSession s) {
 
 Complaints PlayJahr(ExposureSession s) {
   Check check;
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   check.Positive("AMu", s.AMu);
   check.Finite("GMu", s.GMu);
   ucl::JahrLimits(s);
@@ -151,7 +153,7 @@ Complaints PlayJahr(ExposureSession s) {
 
 Complaints PlayLand(ExposureSession s, Most& most) {
   Check check;
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   s.UCL = -7;
   s.PercEx = -8;
   UCLBAS::LandWatch watch;
@@ -161,7 +163,7 @@ Complaints PlayLand(ExposureSession s, Most& most) {
   } catch (const RunTimeError& fault) {
     // A lost bracket or a fault may end the search, with the record as before. None has been seen.
     check.That("the record changed by a search that a fault ended",
-               s.UCL == -7 && s.PercEx == -8 && s.TestTag.empty());
+               s.UCL == -7 && s.PercEx == -8 && s.TestTag == Extrapolation::None);
     check.That(fault.what(), false);
     return check.Told();
   }

@@ -1,3 +1,4 @@
+#include "session/moments.h"
 #include "tests/sessions/random_session.h"
 
 #include <cmath>
@@ -87,7 +88,7 @@ void DrawRange(Draw& draw, ExposureSession& s) {
 ExposureSession RandomSession(std::uint64_t number) {
   Draw draw(number);
   ExposureSession s;
-  s.Mode = "D";
+  s.Mode = DataMode::Statistics;
   s.CR = "\r";
   s.SigDigits = 4;
   s.M = SampleSize(draw);

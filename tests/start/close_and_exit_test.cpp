@@ -49,10 +49,10 @@ TEST(CloseAllData, EndsASeriesWithNoKindOfDataChosen) {
   user.Record().InputState = 4;
   user.Record().MsgText = user.Record().MsgTitle = "an old message";
   user.Click("Menuclose");
-  EXPECT_EQ(user.Record().Mode, "");
+  EXPECT_EQ(user.Record().Mode, DataMode::None);
   EXPECT_EQ(user.Record().C.size(), 1u);
   EXPECT_EQ(user.Record().LnC.size(), 1u);
-  EXPECT_EQ(user.Record().GridData.size(), 1u);
+  EXPECT_TRUE(user.Record().GridData.empty()) << "a row of it for each of the grid";
   EXPECT_EQ(static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr")).rowCount, 0);
   EXPECT_EQ(user.Text("DataCtrlForm.ReadingLbl"), "");
   EXPECT_EQ(user.Text("WindnrLbl"), "2");
@@ -65,7 +65,7 @@ TEST(CloseAllData, EndsKnownStatisticsWithRawDataChosen) {
   ProgramSession user;
   user.EnterStatistics("Welders", "12", "1.5", "2.5");
   user.Click("Menuclose");
-  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_EQ(user.Record().Mode, DataMode::Raw);
   EXPECT_EQ(user.Text("WindnrLbl"), "8");
   ExpectNothingIsLeft(user.Record());
   ExpectOpeningScreen(user);
@@ -92,7 +92,7 @@ TEST(CloseAllData, FromAnotherScreenLeadsToTheStartScreen) {
   user.OpenSeries({1, 2, 4, 8});
   ASSERT_EQ(user.Shown().name, "DataCtrlForm");
   user.Click("Menuclose");
-  EXPECT_EQ(user.Record().CurrentTab, "Start");
+  EXPECT_EQ(user.Record().CurrentTab, ScreenId::Basis);
   ExpectNothingIsLeft(user.Record());
   ExpectOpeningScreen(user);
 }

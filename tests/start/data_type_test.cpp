@@ -51,7 +51,7 @@ TEST(DataType, KnownStatisticsAskForNameAndSampleSize) {
 TEST(DataType, TheFocusAloneChoosesKnownStatistics) {
   ProgramSession user;
   screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
-  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
   EXPECT_EQ(Focus(user), "NameTxB");
 }
 
@@ -59,7 +59,7 @@ TEST(DataType, RawDataEndsEnteredStatisticsWithoutAQuestion) {
   ProgramSession user;
   user.EnterStatistics("Welders", "12", "1.5", "2.5");
   user.Click("RawOpt");
-  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_EQ(user.Record().Mode, DataMode::Raw);
   EXPECT_EQ(user.Record().GM, 0);
   EXPECT_EQ(user.Text("WindnrLbl"), "8");
   EXPECT_THAT(user.Text("BoodschLbl"), testing::StartsWith("Analyze a series"));
@@ -71,7 +71,7 @@ TEST(DataType, KnownStatisticsEndASavedSeriesWithoutAQuestion) {
   ProgramSession user;
   OpenAndReturn(user);
   user.Click("DesOpt");
-  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
   EXPECT_EQ(user.Text("NameTxB"), "");
   EXPECT_EQ(user.Record().C.size(), 1u);
   ExpectNoSeries(user);
@@ -81,7 +81,7 @@ TEST(DataType, RawDataEndsASavedSeriesWithoutAQuestion) {
   ProgramSession user;
   OpenAndReturn(user);
   user.Click("RawOpt");
-  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_EQ(user.Record().Mode, DataMode::Raw);
   EXPECT_FALSE(user.At("IdentFrame").visible);
   ExpectNoSeries(user);
 }
@@ -94,7 +94,7 @@ TEST(DataType, EitherChoiceAsksBeforeUnsavedOutcomesGo) {
     user.Click(option);
     ASSERT_EQ(user.box.shown.size(), 1u) << option;
     EXPECT_EQ(user.Record().M, 0) << option;
-    EXPECT_EQ(user.Record().Mode, std::string(option) == "RawOpt" ? "R" : "D");
+    EXPECT_EQ(user.Record().Mode, std::string(option) == "RawOpt" ? DataMode::Raw : DataMode::Statistics);
   }
 }
 
@@ -104,7 +104,7 @@ TEST(DataType, NoKeepsTheUnsavedSeriesAndItsOption) {
     OpenAndEdit(user);
     user.Click(option);
     EXPECT_EQ(user.box.shown.size(), 1u) << option;
-    EXPECT_EQ(user.Record().Mode, "R") << option;
+    EXPECT_EQ(user.Record().Mode, DataMode::Raw) << option;
     EXPECT_EQ(user.Record().M, 4) << option;
     EXPECT_EQ(user.Record().C[1], 1.5) << option;
     EXPECT_TRUE(user.At("RawOpt").ticked) << option;
@@ -122,11 +122,11 @@ TEST(DataType, AMouseClickOnKnownStatisticsAsksOnceEachTime) {
   EXPECT_EQ(Focus(user), "RawOpt");
   MouseClick(user, "DesOpt");
   EXPECT_EQ(user.box.shown.size(), 2u);
-  EXPECT_EQ(user.Record().Mode, "R");
+  EXPECT_EQ(user.Record().Mode, DataMode::Raw);
   user.box.answers = {Answer::Yes};
   MouseClick(user, "DesOpt");
   EXPECT_EQ(user.box.shown.size(), 3u);
-  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
 }
 
 TEST(DataType, ComingBackToKnownStatisticsByKeyboardAsksAgain) {
@@ -136,7 +136,7 @@ TEST(DataType, ComingBackToKnownStatisticsByKeyboardAsksAgain) {
   user.box.answers = {Answer::Yes};
   screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
   EXPECT_EQ(user.box.shown.size(), 2u);
-  EXPECT_EQ(user.Record().Mode, "D");
+  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
 }
 
 TEST(DataType, ChoosingKnownStatisticsAgainKeepsWhatWasEntered) {

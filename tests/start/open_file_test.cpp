@@ -185,7 +185,7 @@ TEST(OpenFile, ALoadedSeriesIsSortedAndShownOnTheDataControlScreen) {
   user.OpenFile(path);
   const ExposureSession& record = user.Record();
   EXPECT_EQ(user.Shown().name, "DataCtrlForm");
-  EXPECT_EQ(record.Mode, "R");
+  EXPECT_EQ(record.Mode, DataMode::Raw);
   EXPECT_EQ(record.Name, path);
   EXPECT_EQ(record.M, 3);
   EXPECT_EQ(record.C, (std::vector<double>{8, 1.5, 8, 12.5}));

@@ -29,7 +29,7 @@ TEST(Start, AsksForTheKindOfDataOnTheStartScreen) {
   EXPECT_TRUE(user.At("BoodschLbl").visible);
   EXPECT_EQ(user.Text("BoodschLbl"), kQuestion);
   EXPECT_EQ(user.Text("WindnrLbl"), "2");
-  EXPECT_EQ(user.Record().CurrentTab, "Start");
+  EXPECT_EQ(user.Record().CurrentTab, ScreenId::Basis);
   EXPECT_TRUE(user.box.shown.empty());
 }
 
@@ -44,7 +44,8 @@ TEST(Start, HidesWhatNoDataHaveBeenChosenFor) {
 TEST(Start, BeginsWithAnEmptyRecordAndEmptyFields) {
   ProgramSession user;
   const ExposureSession& record = user.Record();
-  EXPECT_EQ(record.Mode + record.Name + record.Unit + record.Duration + record.RefPeriod, "");
+  EXPECT_EQ(record.Mode, DataMode::None);
+  EXPECT_EQ(record.Name + record.Unit + record.Duration + record.RefPeriod, "");
   EXPECT_FALSE(record.IdentOk || record.DescOk || record.LimitsOk || record.ModifyMode);
   EXPECT_FALSE(record.OELV.has_value());
   EXPECT_EQ(record.M, 0);
@@ -86,7 +87,7 @@ TEST(Start, AMissingCoefficientFileDoesNotStopIt) {
   EXPECT_THAT(text, testing::StartsWith(kQuestion));
   EXPECT_THAT(text, testing::HasSubstr((empty / "VALKORIN.COF").string() + " is missing"));
   EXPECT_THAT(text, testing::HasSubstr((empty / "asr94COF.txt").string() + " is missing"));
-  EXPECT_EQ(program.Session().CurrentTab, "Start");
+  EXPECT_EQ(program.Session().CurrentTab, ScreenId::Basis);
 }
 
 TEST(Start, TheMenusWithoutARoutineDoNothing) {
@@ -97,7 +98,7 @@ TEST(Start, TheMenusWithoutARoutineDoNothing) {
     EXPECT_EQ(Look(user.Shown()), before) << menu;
     EXPECT_EQ(user.Shown().name, "BasisForm") << menu;
   }
-  EXPECT_EQ(user.Record().Mode, "");
+  EXPECT_EQ(user.Record().Mode, DataMode::None);
   EXPECT_TRUE(user.box.shown.empty());
   EXPECT_TRUE(user.dialog.asked.empty());
 }

@@ -19,7 +19,7 @@ double Estimate(const support::Row& row) {
   ExposureSession s;
   s.df = df;
   if (name == "GMUnbiased") return StatFWinBAS::GMUnbiased(s, GM, GSD);
-  s.Mode = "D";
+  s.Mode = DataMode::Statistics;
   s.M = df + 1;
   s.GM = GM;
   s.GSD = GSD;
@@ -64,7 +64,7 @@ std::map<std::string, ExposureSession> SessionsOfOutcomes() {
   std::map<std::string, ExposureSession> sessions;
   for (const support::Row& row : support::ReadTable("series_sorted.csv")) {
     ExposureSession& s = sessions[row.Text("series")];
-    s.Mode = "R";
+    s.Mode = DataMode::Raw;
     s.C.push_back(row.Number("C"));
     s.M = static_cast<double>(s.C.size()) - 1;
   }

@@ -8,6 +8,7 @@
 #include "base/fault.h"
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
+#include "tests/support/letters.h"
 
 namespace {
 
@@ -120,7 +121,7 @@ std::map<std::string, std::vector<double>> SortedSeries() {
 ExposureSession SessionOf(const support::Row& row,
                           const std::map<std::string, std::vector<double>>& series) {
   ExposureSession s;
-  s.Mode = row.Text("Mode");
+  s.Mode = support::ModeOf(row.Text("Mode"));
   s.DetecOn = row.Number("DetecOn") != 0;
   s.GM = row.Number("GM");
   s.GSD = row.Number("GSD");
@@ -151,7 +152,7 @@ TEST(TheLinearMoments, GiveTheValuesOfTheReferenceTable) {
 
 ExposureSession RawSession(std::vector<double> outcomes) {
   ExposureSession s;
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   s.M = static_cast<double>(outcomes.size());
   s.C = std::move(outcomes);
   s.C.insert(s.C.begin(), 0.0);
@@ -191,7 +192,7 @@ TEST(TheLinearMoments, WithADetectionRangeFollowFromGMAndGSD) {
 
 TEST(TheLinearMoments, OfOneOutcomeAreADivisionByZero) {
   ExposureSession s;
-  s.Mode = "D";
+  s.Mode = DataMode::Statistics;
   s.M = 1;
   s.GM = 2;
   s.GSD = 2;

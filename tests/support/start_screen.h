@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "tests/support/program_session.h"
+#include "tests/support/letters.h"
 
 // What the tests of the start screen do and look at again and again.
 namespace support {
@@ -39,7 +40,7 @@ inline void NewSeries(ProgramSession& user, const std::string& name, const std::
 // The kind of data in the record and on the screen, with the window's number and the message.
 inline void ExpectKindOfData(ProgramSession& user, const std::string& mode,
                              const std::string& window, const std::string& message) {
-  EXPECT_EQ(user.Record().Mode, mode);
+  EXPECT_EQ(user.Record().Mode, support::ModeOf(mode));
   EXPECT_EQ(user.At("RawOpt").ticked, mode == "R");
   EXPECT_EQ(user.At("DesOpt").ticked, mode == "D");
   EXPECT_EQ(user.Text("WindnrLbl"), window);

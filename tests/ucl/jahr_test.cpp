@@ -8,7 +8,7 @@
 #include "tests/stats/table_check.h"
 #include "tests/support/csv.h"
 #include "tests/support/record.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ class Jahr : public table::Delivered {};
 TEST_F(Jahr, FollowsTheMethodsOwnSteps) {
   for (const support::Row& row : support::ReadTable("jahr.csv")) {
     ExposureSession s = support::RecordOf(row);
-    ucl::MeanStatistics(s);
+    ucl::TakeMeanStatistics(s);
     EXPECT_NEAR(s.AMu, row.Number("AMu"), 1e-13 * row.Number("AMu")) << row.Where();
     ucl::JahrLimits(s);
     EXPECT_NEAR(s.UCL, row.Number("UCL"), 1e-13 * (1 + std::abs(row.Number("UCL")))) << row.Where();

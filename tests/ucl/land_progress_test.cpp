@@ -138,11 +138,19 @@ TEST_F(LandProgress, ALimitBeyondNumbersShowsAsInfiniteWhileTheFieldKeepsItsValu
 // The report of the search calls only what lies above 701 infinite; the message comes at 701.
 TEST_F(LandProgress, ALimitOf701IsANumberInTheSearchAndABoxAtItsEnd) {
   ExposureSession& s = p.Record();
-  const double above = UCLBAS::LandExactUCL(0.5, s.df, s.LnGSD, 0, s.D).UCL;
-  s.LnGM = 701 - above;
-  auto limit = [&] { return UCLBAS::LandExactUCL(0.5, s.df, s.LnGSD, s.LnGM, s.D).UCL; };
-  for (int i = 0; i < 100 && limit() != 701; ++i)
-    s.LnGM = std::nextafter(s.LnGM, limit() < 701 ? 1000 : 0);
+  s.D = 99.75;
+  const auto limit = [&s] {
+    return UCLBAS::LandExactUCL(0.5, s.df, std::log(s.GSD), std::log(s.GM), s.D).UCL;
+  };
+  double below = 2.7;
+  double from = 1e5;
+  for (double middle = 0; middle = below + (from - below) / 2, below < middle && middle < from;) {
+    s.GSD = middle;
+    (limit() < 701 ? below : from) = middle;
+  }
+  s.GSD = from;
+  // A step of GSD is one of many digits of 701; GM has finer ones.
+  for (int i = 0; i < 100 && limit() != 701; ++i) s.GM *= 1 + (701 - limit());
   ASSERT_EQ(limit(), 701);
   p.Click("LandCmb");
   ASSERT_EQ(s.UCL, 701);
@@ -154,7 +162,7 @@ TEST_F(LandProgress, ALimitOf701IsANumberInTheSearchAndABoxAtItsEnd) {
 }
 
 TEST_F(LandProgress, AFaultBeforeTheMessageHasHiddenTheWindow) {
-  p.Record().LnGSD = 0;
+  p.Record().GSD = 1;
   bool opened = false;
   OnEachShowing([&] { opened = true; });
   p.Click("LandCmb");

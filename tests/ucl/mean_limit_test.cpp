@@ -1,10 +1,11 @@
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <utility>
 
 #include "base/fault.h"
 #include "tests/stats/table_check.h"
@@ -22,7 +23,7 @@ using UCLBAS::LandWatch;
 ExposureSession Sample(double M, double GM, double GSD, double OELV, double D) {
   ExposureSession s = support::SampleRecord(M, GM, GSD, OELV);
   s.D = D;
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   return s;
 }
 
@@ -62,16 +63,16 @@ TEST_F(LandClick, FollowsTheMethodsOwnStepsInWholeSessions) {
   for (const support::Row& row : support::ReadTable("land_sessions.csv")) {
     ExposureSession s = Sample(row);
     s.df = row.Number("df");
-    ucl::MeanStatistics(s);
+    ucl::TakeMeanStatistics(s);
     const LandResult result = LandCmb(s);
     EXPECT_EQ(result.Refusal, row.Text("message")) << row.Where();
     EXPECT_NEAR(s.PercEx, row.Number("PercEx"), 2e-12) << row.Where();
     if (!result.Refusal.empty()) {
-      EXPECT_EQ(s.TestTag, "");
+      EXPECT_EQ(s.TestTag, Extrapolation::None);
       EXPECT_NEAR(s.UCL, row.Number("JahrUCL"), 1e-13 * std::abs(s.UCL)) << row.Where();
       continue;
     }
-    EXPECT_EQ(s.TestTag, "Ex");
+    EXPECT_EQ(s.TestTag, Extrapolation::Land);
     EXPECT_NEAR(result.A, row.Number("fixed_A"), 1e-9) << row.Where();
     EXPECT_NEAR(result.UCL, row.Number("fixed_UCL"), 1e-12 * std::abs(result.UCL)) << row.Where();
     EXPECT_NEAR(result.A, row.Number("true_A"), 1.3e-4) << row.Where();
@@ -127,15 +128,33 @@ TEST_F(LandClick, KeepsJahrsProbabilityInTheRecord) {
   EXPECT_NEAR(result.A, 4.0978, 0.0001);
 }
 
+// Without a deviation Land's first interval divides by it; without a degree of freedom there is no
+// interval either.
 TEST_F(LandClick, AFaultLeavesTheRecordsResultsAndEmptiesTheTestTag) {
+  for (const auto& [GSD, df] : {std::pair(1.0, 9.0), std::pair(2.7, 0.0)}) {
+    ExposureSession s = Sample(10, 1, 2.7, 5, 95);
+    s.GSD = GSD;
+    s.df = df;
+    s.UCL = 1.25;
+    s.PercEx = 12.5;
+    s.TestTag = Extrapolation::Land;
+    EXPECT_THROW(LandCmb(s), RunTimeError) << GSD;
+    EXPECT_EQ(s.UCL, 1.25) << GSD;
+    EXPECT_EQ(s.PercEx, 12.5) << GSD;
+    EXPECT_EQ(s.TestTag, Extrapolation::None) << GSD;
+  }
+}
+
+// The record's own numbers are for who asks by name: the search goes by the sample.
+TEST_F(LandClick, DoesNotGoByTheNumbersThatAnEarlierLookHasLeft) {
   ExposureSession s = Sample(10, 1, 2.7, 5, 95);
+  const LandResult expected = LandCmb(s);
+  s.LnGM = 3;
   s.LnGSD = 0;
-  s.UCL = 1.25;
-  s.PercEx = 12.5;
-  EXPECT_THROW(LandCmb(s), RunTimeError);
-  EXPECT_EQ(s.UCL, 1.25);
-  EXPECT_EQ(s.PercEx, 12.5);
-  EXPECT_EQ(s.TestTag, "");
+  s.AMu = 77;
+  const LandResult result = LandCmb(s);
+  EXPECT_EQ(result.UCL, expected.UCL);
+  EXPECT_EQ(result.A, expected.A);
 }
 
 TEST_F(LandClick, TellsEveryTrialLimitWhileItSearches) {
@@ -197,7 +216,7 @@ TEST_F(LandClick, EndsWithOneDegreeOfFreedomToo) {
     for (const double OELV : {0.8, 5.0}) {
       ExposureSession s = Sample(3, 1, GSD, OELV, 99);
       s.df = 1;
-      ucl::MeanStatistics(s);
+      ucl::TakeMeanStatistics(s);
       LandWatch watch;
       const LandResult result = LandCmb(s, watch);
       EXPECT_TRUE(std::isfinite(result.UCL));

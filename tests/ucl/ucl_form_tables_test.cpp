@@ -21,7 +21,7 @@ class MeanScreenTables : public testing::Test {
     p.program.Open(ScreenId::Basis);
     s = ExposureSession{};
     s.CR = "\r";
-    s.Mode = "D";
+    s.Mode = DataMode::Statistics;
     s.Name = "Welders";
     s.M = row.Number("M");
     s.df = row.Number("df");
@@ -96,10 +96,10 @@ TEST_F(MeanScreenTables, LandShowsTheLimitsOfWholeSessionsOrWhyItRefuses) {
     const std::string& message = row.Text("message");
     if (!message.empty()) {
       EXPECT_EQ(p.LastBox().text, message) << row.Where();
-      EXPECT_EQ(p.Record().TestTag, "") << row.Where();
+      EXPECT_EQ(p.Record().TestTag, Extrapolation::None) << row.Where();
       continue;
     }
-    EXPECT_EQ(p.Record().TestTag, "Ex") << row.Where();
+    EXPECT_EQ(p.Record().TestTag, Extrapolation::Land) << row.Where();
     const double UCL = row.Number("fixed_UCL");
     EXPECT_NEAR(p.Record().UCL, UCL, 1e-12 * std::abs(UCL)) << row.Where();
     EXPECT_NEAR(p.Record().PercEx, row.Number("PercEx"), 2e-12) << row.Where();

@@ -29,8 +29,8 @@ TEST_F(MeanScreen, ItsTabOpensTheIntroduction) {
   p.Tab("grenzen");
   ASSERT_TRUE(p.Tab("mean"));
   EXPECT_EQ(p.Shown().name, "UCLForm");
-  EXPECT_EQ(p.Record().TestTag, "");
-  EXPECT_EQ(p.Record().CurrentTab, "Mean UCL");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
+  EXPECT_EQ(p.Record().CurrentTab, ScreenId::UCL);
   EXPECT_EQ(p.Shown().strip->selected, "mean");
   EXPECT_EQ(form.WindnrLbl.text, "24");
   EXPECT_EQ(form.Methodlbl.text, "");
@@ -137,23 +137,38 @@ TEST_F(MeanScreen, ReturningToLandsResultRebuildsNothing) {
   p.Record().AMu = 77;
   Open();
   EXPECT_EQ(p.Record().AMu, 77);
-  EXPECT_EQ(p.Record().TestTag, "Ex");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Land);
   ExpectResultLayout(true);
   EXPECT_EQ(form.UCLTxB.text, limit);
   EXPECT_EQ(form.PercExTxB.text, probability);
   EXPECT_EQ(form.WindnrLbl.text, "24a");
 }
 
-TEST_F(MeanScreen, ReturningToJahrsResultRecomputesIt) {
+// The result is kept with what it rests on; the record's number of that name is only a copy.
+TEST_F(MeanScreen, ReturningToJahrsResultShowsItAsItIsKept) {
   Open();
   p.Click("JahrCmb");
-  const double UCL = p.Record().UCL;
+  const std::string limit = form.UCLTxB.text;
+  const std::string probability = form.PercExTxB.text;
   p.Record().UCL = 0;
+  p.Record().PercEx = 77;
+  form.UCLTxB.text.clear();
+  form.PercExTxB.text.clear();
   Open();
-  EXPECT_EQ(p.Record().TestTag, "Ap");
-  EXPECT_EQ(p.Record().UCL, UCL);
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Jahr);
   ExpectResultLayout(true);
-  EXPECT_EQ(form.UCLTxB.text, Number(std::exp(UCL)));
+  EXPECT_EQ(form.UCLTxB.text, limit);
+  EXPECT_EQ(form.PercExTxB.text, probability);
+}
+
+TEST_F(MeanScreen, ReturningToJahrsResultOfOtherDataShowsNoNumber) {
+  Open();
+  p.Click("JahrCmb");
+  p.Record().GSD = 3;
+  Open();
+  EXPECT_EQ(form.UCLTxB.text, "");
+  EXPECT_EQ(form.PercExTxB.text, "");
+  EXPECT_EQ(p.program.SessionRecord().Mean(), nullptr);
 }
 
 TEST_F(MeanScreen, LeavingByAnyWayEmptiesTheTestTag) {
@@ -161,19 +176,19 @@ TEST_F(MeanScreen, LeavingByAnyWayEmptiesTheTestTag) {
     SCOPED_TRACE(key);
     Open();
     p.Click("LandCmb");
-    ASSERT_EQ(p.Record().TestTag, "Ex");
+    ASSERT_EQ(p.Record().TestTag, Extrapolation::Land);
     EXPECT_TRUE(p.Tab(key));
-    EXPECT_EQ(p.Record().TestTag, "");
+    EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
   }
   Open();
   p.Click("JahrCmb");
   p.Click("MenuExit");  // answered by No
   EXPECT_EQ(p.Shown().name, "BasisForm");
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
   p.Tab("mean");
   p.Click("JahrCmb");
   p.Click("Menuclose");
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
 }
 
 TEST_F(MeanScreen, ShowsTheIntroductionAgainAndNoNumberOfOtherData) {

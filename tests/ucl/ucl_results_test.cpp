@@ -2,15 +2,17 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "tests/ucl/mean_screen.h"
+#include "ucl/mean_limit.h"
 #include "ucl/ucl_form.h"
 
 // The two methods on the screen of the mean.
 TEST_F(MeanScreen, JahrShowsItsLimitAndProbability) {
   Open();
   p.Click("JahrCmb");
-  EXPECT_EQ(p.Record().TestTag, "Ap");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Jahr);
   EXPECT_EQ(form.WindnrLbl.text, "24b");
   EXPECT_EQ(form.Methodlbl.text,
             "The approximate method of Jahr (1987) used in VALKORIN V 2.2 and earlier");
@@ -24,7 +26,7 @@ TEST_F(MeanScreen, JahrShowsItsLimitAndProbability) {
 TEST_F(MeanScreen, LandShowsItsOwnProbabilityAndKeepsJahrsInTheRecord) {
   Open();
   p.Click("LandCmb");
-  EXPECT_EQ(p.Record().TestTag, "Ex");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Land);
   EXPECT_EQ(form.WindnrLbl.text, "24a");
   EXPECT_EQ(form.Methodlbl.text,
             "The exact, unbiased estimation of Land (1975)  only if 3<M<1001 en 95<=D<=99.75");
@@ -61,24 +63,46 @@ TEST_F(MeanScreen, AProbabilityBeyondADoubleIsShownAsLessThanTheSmallest) {
   EXPECT_EQ(form.PercExTxB.text, "    <1E-16");
 }
 
-TEST_F(MeanScreen, JahrsLimitIsANumberBelow701AndABoxFromThereOn) {
-  Open();
-  p.Record().D = 50;  // the limit is the mean itself
-  p.Record().AMu = std::exp(700.9);
-  p.Click("JahrCmb");
-  EXPECT_NEAR(p.Record().UCL, 700.9, 1e-9);
-  EXPECT_TRUE(p.box.shown.empty());
-  const std::string number = form.UCLTxB.text;
-  EXPECT_EQ(number, Number(std::exp(p.Record().UCL)));
+namespace {
 
-  p.Record().AMu = std::exp(701);
+// Two neighbouring deviations: with the first the logarithm of Jahr's limit lies below `UCL`, with
+// the second it does not.
+std::pair<double, double> DeviationsAround(TestBasis basis, double UCL) {
+  const auto reaches = [&](double GSD) {
+    basis.GSD = GSD;
+    return ucl::JahrLimits(basis, ucl::MeanStatisticsOf(basis).AMu).UCL >= UCL;
+  };
+  double below = 1.05;
+  double from = 1000;
+  EXPECT_FALSE(reaches(below));
+  EXPECT_TRUE(reaches(from));
+  for (double middle = 0; middle = below + (from - below) / 2, below < middle && middle < from;)
+    (reaches(middle) ? from : below) = middle;
+  return {below, from};
+}
+
+}  // namespace
+
+TEST_F(MeanScreen, JahrsLimitIsANumberBelow701AndABoxFromThereOn) {
+  Take("2", "1", "2.7", 5, 99.99);
+  Open();
+  const auto [below, from] = DeviationsAround(BasisOf(p.Record()), 701);
+  p.Record().GSD = below;
   p.Click("JahrCmb");
-  ASSERT_EQ(p.Record().UCL, 701);
+  EXPECT_LT(p.Record().UCL, 701);
+  EXPECT_NEAR(p.Record().UCL, 701, 1e-9);
+  EXPECT_TRUE(p.box.shown.empty());
+  EXPECT_EQ(form.UCLTxB.text, Number(std::exp(p.Record().UCL)));
+
+  p.Record().GSD = from;
+  p.Click("JahrCmb");
+  EXPECT_GE(p.Record().UCL, 701);
+  EXPECT_NEAR(p.Record().UCL, 701, 1e-9);
   EXPECT_EQ(p.LastBox().title, "UCL");
-  EXPECT_EQ(p.LastBox().text,
-            "One-sided upper confidence limit of the Lognormal mean is Exp(" + Number(701) + ").");
+  EXPECT_EQ(p.LastBox().text, "One-sided upper confidence limit of the Lognormal mean is Exp(" +
+                                  Number(p.Record().UCL) + ").");
   EXPECT_EQ(p.LastBox().icon, screen::Icon::Exclamation);
-  EXPECT_EQ(form.UCLTxB.text, number);  // the box keeps what it had
+  EXPECT_EQ(form.UCLTxB.text, "");
   EXPECT_TRUE(form.MenuPrint.visible);
 }
 
@@ -93,7 +117,7 @@ TEST_F(MeanScreen, LandsLimitBeyondNumbersIsToldInABoxAndLeavesTheFieldEmpty) {
                                   Number(p.Record().UCL) + ").");
   EXPECT_EQ(form.UCLTxB.text, "");
   EXPECT_EQ(form.PercExTxB.text, Number(100 - p.Record().LandConfidence));
-  EXPECT_EQ(p.Record().TestTag, "Ex");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Land);
   ExpectAtRest();
 }
 
@@ -117,7 +141,7 @@ TEST_F(MeanScreen, LandRefusesBySampleSizeAndByConfidenceWhichOutweighsIt) {
     EXPECT_EQ(p.LastBox().text, std::string(c.text) + "Use Jahr's approximate method");
     EXPECT_EQ(p.LastBox().title, "");
     EXPECT_EQ(p.LastBox().icon, screen::Icon::Exclamation);
-    EXPECT_EQ(p.Record().TestTag, "");
+    EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
     ExpectResultLayout(true);  // as the update of the results has left it
     EXPECT_EQ(form.UCLTxB.text, "");
     EXPECT_EQ(form.PercExTxB.text, "");
@@ -139,25 +163,29 @@ TEST_F(MeanScreen, ARefusalLeavesNoNumberOfJahrUnderTheNameOfLand) {
   ExpectResultLayout(true);
 }
 
-TEST_F(MeanScreen, AFaultInTheSearchLeavesEverythingAsItWas) {
+TEST_F(MeanScreen, AFaultInTheSearchLeavesTheIntroductionAndNoResult) {
   Open();
   p.Click("JahrCmb");
   const double UCL = p.Record().UCL;
   const double PercEx = p.Record().PercEx;
   p.Record().UCL = 1.25;
   p.Record().PercEx = 12.5;
-  p.Record().LnGSD = 0;  // no deviation: Land's first interval divides by it
+  p.Record().GSD = 1;  // no deviation: Land's first interval divides by it
   p.Click("LandCmb");
   ASSERT_EQ(p.box.shown.size(), 1u);
   EXPECT_THAT(p.LastBox().text, testing::HasSubstr("This step could not be finished"));
-  EXPECT_EQ(p.Record().TestTag, "");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
   EXPECT_EQ(p.Record().UCL, 1.25);
   EXPECT_EQ(p.Record().PercEx, 12.5);
+  EXPECT_EQ(p.program.SessionRecord().Mean(), nullptr);
   ExpectAtRest();
   ExpectResultLayout(false);
   EXPECT_EQ(form.WindnrLbl.text, "24");
+  EXPECT_EQ(form.Methodlbl.text, "");
+  EXPECT_EQ(form.UCLTxB.text, "");
+  EXPECT_EQ(form.PercExTxB.text, "");
 
-  p.Record().LnGSD = std::log(2.7);
+  p.Record().GSD = 2.7;
   p.Click("JahrCmb");
   EXPECT_EQ(p.Record().UCL, UCL);
   EXPECT_EQ(p.Record().PercEx, PercEx);
@@ -173,7 +201,7 @@ TEST_F(MeanScreen, TheMenuOfLandCalculatesWithThePresentStatistics) {
   p.Type("GMTxB", "2");
   p.Click("MenuLand");
   EXPECT_EQ(p.Shown().name, "UCLForm");
-  EXPECT_EQ(p.Record().TestTag, "Ex");
-  EXPECT_EQ(p.Record().CurrentTab, "Mean UCL");
+  EXPECT_EQ(p.Record().TestTag, Extrapolation::Land);
+  EXPECT_EQ(p.Record().CurrentTab, ScreenId::UCL);
   EXPECT_NEAR(p.Record().UCL, first + std::log(2), 1e-9);
 }

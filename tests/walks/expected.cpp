@@ -7,12 +7,13 @@
 
 #include "base/fault.h"
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/leidel.h"
 #include "compliance/sample_size.h"
 #include "compliance/wilks.h"
 #include "session/global_bas.h"
 #include "ucl/jahr.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 namespace walks {
 namespace {
@@ -87,7 +88,7 @@ TestExpected En689(const Sample& sample, const Limits& limits) {
 }
 
 SampleSizeExpected SampleSize(ExposureSession s) {
-  s.TestTag = "Wi";
+  s.TestTag = Extrapolation::Wilks;
   const auto found = compliance::OptimiseSampleSize(s);
   SampleSizeExpected size;
   size.coverageTooLow = found.outcome == compliance::SampleSizeCase::CoverageTooLow;
@@ -98,7 +99,7 @@ SampleSizeExpected SampleSize(ExposureSession s) {
 }
 
 UpperExpected Land(ExposureSession s) {
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   const auto found = ucl::LandCmb(s);
   return {found.UCL, found.A};
 }
@@ -134,7 +135,7 @@ std::optional<MeanExpected> ExpectedMean(const Sample& sample) {
   static std::map<Key, std::optional<MeanExpected>> cache;
   return Kept(cache, KeyOf(sample, {}), [&] {
     ExposureSession s = RecordOf(sample, {});
-    ucl::MeanStatistics(s);
+    ucl::TakeMeanStatistics(s);
     return MeanExpected{s.GMu, s.AMu};
   });
 }
@@ -143,7 +144,7 @@ std::optional<UpperExpected> ExpectedJahr(const Sample& sample, const Limits& li
   static std::map<Key, std::optional<UpperExpected>> cache;
   return Kept(cache, KeyOf(sample, limits), [&] {
     ExposureSession s = RecordOf(sample, limits);
-    ucl::MeanStatistics(s);
+    ucl::TakeMeanStatistics(s);
     const auto jahr = ucl::JahrUCL(s.AMu, s.GSD, s.df, s.D, limits.OELV);
     return UpperExpected{jahr.UCL, jahr.PercEx};
   });

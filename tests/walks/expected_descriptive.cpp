@@ -5,10 +5,11 @@
 #include "analysis/shapiro.h"
 #include "analysis/transformations.h"
 #include "base/fault.h"
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 #include "compare/steps.h"
 #include "limits/steps.h"
 #include "stats/estimators.h"
+#include "tests/support/letters.h"
 #include "tests/walks/expected.h"
 
 namespace walks {
@@ -86,7 +87,7 @@ std::optional<CompareExpected> ExpectedCompare(const Sample& sample, const Refer
   s.GSD2 = reference.GSD;
   s.M2 = reference.M;
   s.df2 = reference.M - 1;
-  s.GSDChoice = reference.choice;
+  s.GSDChoice = support::ChoiceOf(reference.choice);
   try {
     if (reference.mode == "S") return WithSample(s);
     return CompareExpected{compare::PopulationDispersion(s).A, compare::PopulationLocation(s).A};

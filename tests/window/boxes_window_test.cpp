@@ -17,7 +17,7 @@ class ResultBoxes : public testing::Test {
   ResultBoxes() {
     application.Start();
     ExposureSession& s = Record();
-    s.Mode = "D";
+    s.Mode = DataMode::Statistics;
     s.Name = "Welders";
     s.M = 12;
     s.df = 11;
@@ -26,7 +26,7 @@ class ResultBoxes : public testing::Test {
     s.OELV = 123456.7890123456;
     s.U = 95;
     s.D = 95;
-    s.CompareMode = "S";
+    s.CompareMode = ReferenceKind::Sample;
     s.SigDigits = 15;
     s.IdentOk = s.DescOk = s.LimitsOk = true;
     application.Window().resize(800, 613);

@@ -97,7 +97,7 @@ class Desktop : public testing::Test {
   }
   void Comply(double oelv) {
     ExposureSession& s = application.Program().Session();
-    s.Mode = "D";
+    s.Mode = DataMode::Statistics;
     s.Name = "Welders";
     s.M = 10;
     s.df = 9;

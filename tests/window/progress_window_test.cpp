@@ -42,7 +42,7 @@ class ProgressWindow : public testing::Test {
   ProgressWindow() {
     application.Start();
     ExposureSession& s = application.Program().Session();
-    s.Mode = "D";
+    s.Mode = DataMode::Statistics;
     s.Name = "Welders";
     s.M = 10;
     s.df = 9;
@@ -127,7 +127,7 @@ TEST_F(ProgressWindow, IsGoneAtTheEndAndThePointerIsNormal) {
 }
 
 TEST_F(ProgressWindow, IsGoneAfterAFaultTooBeforeItsMessageShows) {
-  application.Program().Session().LnGSD = 0;
+  application.Program().Session().GSD = 1;
   ClickLand();
   EXPECT_EQ(around.box.shown.size(), 1u);
   EXPECT_FALSE(painter.paintings.empty());

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "session/global_bas.h"
 #include "tests/support/program_session.h"
 #include "tests/window/toolkit.h"
@@ -48,7 +49,7 @@ class ComplianceWindow : public testing::Test {
 
   void Show(double M, double GM, double GSD, double OELV, double U = 95, double D = 70) {
     ExposureSession& s = Record();
-    s.Mode = "D";
+    s.Mode = DataMode::Statistics;
     s.Name = "Welders";
     s.M = M;
     s.df = M - 1;
@@ -93,8 +94,8 @@ TEST_F(ComplianceWindow, TheSearchesOfTheEN689TestPaintTheirCandidates) {
   Texts limits;
   Texts fractions;
   ExposureSession copy = Record();
-  compliance::En689Test(copy, 1.7369655941662063, [&](compliance::En689Box box, double value) {
-    (box == compliance::En689Box::Fraction ? fractions : limits)
+  compliance::En689Test(copy, 1.7369655941662063, [&](compliance::TestBox box, double value) {
+    (box == compliance::TestBox::Fraction ? fractions : limits)
         .push_back(GlobalBAS::Shown(copy, value));
   });
   Painter painter;

@@ -1,8 +1,9 @@
 #include <cmath>
 
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 #include "tools/accuracy/comparison_searches.h"
 #include "tools/accuracy/entries.h"
+#include "tests/support/letters.h"
 
 namespace accuracy {
 namespace {
@@ -14,7 +15,7 @@ const std::vector<Column> kInputs = {"mode", "M", "GM", "GSD", "M2", "GM2", "GSD
 
 ExposureSession Session(const Row& row) {
   ExposureSession s;
-  s.CompareMode = row.Text("mode");
+  s.CompareMode = support::KindOf(row.Text("mode"));
   s.M = row.Number("M");
   s.df = row.Has("df") ? row.Number("df") : s.M - 1;
   s.GM = row.Number("GM");
@@ -22,7 +23,7 @@ ExposureSession Session(const Row& row) {
   s.GM2 = row.Number("GM2");
   s.GSD2 = row.Number("GSD2");
   // A population has no sample size.
-  s.M2 = s.CompareMode == "S" ? row.Number("M2") : 2;
+  s.M2 = s.CompareMode == ReferenceKind::Sample ? row.Number("M2") : 2;
   return s;
 }
 

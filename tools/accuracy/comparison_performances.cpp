@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 #include "tools/accuracy/numbers.h"
 #include "tools/accuracy/performance.h"
 
@@ -26,7 +26,7 @@ std::string Of(const Populations& of) {
 ExposureSession Drawn(Chance& chance, const Populations& of) {
   const DrawnSample sample = Draw(chance, of.M, of.GSD);
   ExposureSession s;
-  s.CompareMode = of.M2 == 0 ? "P" : "S";
+  s.CompareMode = of.M2 == 0 ? ReferenceKind::Population : ReferenceKind::Sample;
   s.M = of.M;
   s.df = of.M - 1;
   s.GM = std::exp(sample.lnGM);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "compare/inference.h"
+#include "compare/inference_on_record.h"
 #include "tools/accuracy/truth/distributions.h"
 
 namespace accuracy {
@@ -29,7 +29,7 @@ struct Case {
 
 ExposureSession Record(const Point& at) {
   ExposureSession s;
-  s.CompareMode = at[0] == 0 ? "S" : "P";
+  s.CompareMode = at[0] == 0 ? ReferenceKind::Sample : ReferenceKind::Population;
   s.M = at[1];
   s.df = at[1] - 1;
   s.GM = at[2];

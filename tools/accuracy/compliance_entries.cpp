@@ -3,10 +3,12 @@
 #include <string>
 
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/sample_size.h"
 #include "compliance/wilks.h"
 #include "tools/accuracy/compliance_searches.h"
 #include "tools/accuracy/entries.h"
+#include "tests/support/letters.h"
 
 namespace accuracy {
 namespace {
@@ -122,7 +124,7 @@ double Optimised(const Row& row) {
   ExposureSession s = Session(row);
   s.NInRange = static_cast<std::int16_t>(row.Number("NInRange"));
   s.RegressionOn = row.Text("RegressionOn") == "1";
-  s.TestTag = row.Text("TestTag");
+  s.TestTag = support::TagOf(row.Text("TestTag"));
   compliance::OptimiseSampleSize(s);
   return s.PercEx;
 }

@@ -2,6 +2,7 @@
 #include <functional>
 
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/leidel.h"
 #include "compliance/wilks.h"
 #include "tools/accuracy/numbers.h"

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "compliance/en689.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
 #include "tools/accuracy/truth/distributions.h"
 

@@ -1,11 +1,13 @@
 #include <cmath>
 
 #include "session/exposure_session.h"
+#include "session/moments.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
 #include "tools/accuracy/entries.h"
 #include "tools/accuracy/estimator_sources.h"
 #include "tools/accuracy/series.h"
+#include "tests/support/letters.h"
 #include "tools/accuracy/truth/lognormal.h"
 
 namespace accuracy {
@@ -18,7 +20,7 @@ ExposureSession Whole(const Row& row) {
   const auto found = Series().find(name);
   ExposureSession s = found == Series().end() ? ExposureSession{} : found->second;
   if (found == Series().end()) s.M = GlobalBAS::Val(name.substr(2));
-  s.Mode = row.Text("Mode");
+  s.Mode = support::ModeOf(row.Text("Mode"));
   s.DetecOn = row.Text("DetecOn") == "1";
   s.GM = row.Number("GM");
   s.GSD = row.Number("GSD");
@@ -28,7 +30,7 @@ ExposureSession Whole(const Row& row) {
 
 ExposureSession OfOutcomes(const Row& row) {
   ExposureSession s = Series().at(row.Text("series"));
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   StatFWinBAS::LinearMoments(s);
   return s;
 }

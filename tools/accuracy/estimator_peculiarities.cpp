@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "session/exposure_session.h"
+#include "session/moments.h"
 #include "tools/accuracy/entries.h"
 #include "tools/accuracy/estimator_sources.h"
 #include "tools/accuracy/truth/lognormal.h"

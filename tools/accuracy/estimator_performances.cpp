@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "session/exposure_session.h"
+#include "session/moments.h"
 #include "stats/estimators.h"
 #include "tools/accuracy/numbers.h"
 #include "tools/accuracy/performance.h"
@@ -44,7 +45,7 @@ double Unbiased(double M, double GM, double GSD) {
 
 ExposureSession Linear(double M, double GM, double GSD) {
   ExposureSession s;
-  s.Mode = "D";
+  s.Mode = DataMode::Statistics;
   s.M = M;
   s.GM = GM;
   s.GSD = GSD;

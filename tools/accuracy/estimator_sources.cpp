@@ -46,7 +46,7 @@ double GMUnbiasedOf(double df, double GM, double GSD) {
 
 ExposureSession LinearMomentsOf(double df, double GM, double GSD) {
   ExposureSession s;
-  s.Mode = "D";
+  s.Mode = DataMode::Statistics;
   s.M = df + 1;
   s.GM = GM;
   s.GSD = GSD;

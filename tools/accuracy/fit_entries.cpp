@@ -2,7 +2,7 @@
 #include <map>
 
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/shapiro.h"
 #include "analysis/transformations.h"
 #include "tools/accuracy/entries.h"
@@ -57,7 +57,7 @@ std::string NameOfMenu(const std::string& menu) {
 // The fit of a row's series on its scale and range.
 analysis::Regression Fit(const Row& row, const std::string& first, const std::string& last) {
   ExposureSession s = Series().at(row.Text("series"));
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   s.CR = "\r";
   s.df = s.M - 1;
   s.SigDigits = 4;

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/shapiro.h"
 #include "tools/accuracy/numbers.h"
 #include "tools/accuracy/performance.h"
@@ -38,7 +38,7 @@ Performance Size(int M, int first, int last, double level) {
 
 ExposureSession Record(int M, int first, int last) {
   ExposureSession s;
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   s.CR = "\r";
   s.M = M;
   s.df = M - 1;

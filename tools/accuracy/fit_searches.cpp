@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "analysis/rankits.h"
-#include "analysis/regression.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/shapiro.h"
 #include "analysis/transformations.h"
 #include "tools/accuracy/truth/orders.h"
@@ -66,7 +66,7 @@ namespace {
 double ReciprocalSlope(int first, int last) {
   constexpr int M = 20;
   ExposureSession s;
-  s.Mode = "R";
+  s.Mode = DataMode::Raw;
   s.CR = "\r";
   s.M = M;
   s.df = M - 1;

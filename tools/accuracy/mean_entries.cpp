@@ -8,7 +8,7 @@
 #include "ucl/land_exact.h"
 #include "ucl/land_probability.h"
 #include "ucl/land_search.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 namespace accuracy {
 namespace {
@@ -216,7 +216,7 @@ Entry LimitEntry(const std::string& domain, double from, double to, Measure meas
 
 ucl::LandResult Pressed(const Row& row) {
   ExposureSession s = support::RecordOf(row);
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   return ucl::LandCmb(s);
 }
 

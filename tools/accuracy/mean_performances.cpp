@@ -1,10 +1,11 @@
 #include <cmath>
 
+#include "session/moments.h"
 #include "tools/accuracy/numbers.h"
 #include "tools/accuracy/performance.h"
 #include "ucl/jahr.h"
 #include "ucl/land_exact.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 namespace accuracy {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 using Limit = double (*)(ExposureSession& s);  // natural logarithm
 
 double Jahr(ExposureSession& s) {
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   return ucl::JahrUCL(s.AMu, s.GSD, s.df, s.D, 1).UCL;
 }
 

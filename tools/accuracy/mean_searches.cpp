@@ -7,7 +7,7 @@
 #include "ucl/jahr.h"
 #include "ucl/land_exact.h"
 #include "ucl/land_probability.h"
-#include "ucl/mean_limit.h"
+#include "ucl/mean_on_record.h"
 
 namespace accuracy {
 namespace {
@@ -61,7 +61,7 @@ ucl::LandResult Pressed(const Point& at) {
   s.GSD = at[2];
   s.OELV = at[3];
   s.D = at[4];
-  ucl::MeanStatistics(s);
+  ucl::TakeMeanStatistics(s);
   return ucl::LandCmb(s);
 }
 

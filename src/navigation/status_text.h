@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "session/workflow.h"
+
+namespace navigation {
+
+// What the status line below a screen tells of the record: outcomes that are left out, why there
+// are no estimates, and whose estimates are in force under a detection range.
+std::string StatusText(const ExposureSession& s);
+
+}  // namespace navigation

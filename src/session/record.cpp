@@ -1,0 +1,175 @@
+#include "session/record.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "session/derivation.h"
+#include "session/global_bas.h"
+
+namespace {
+
+// Whether somebody stated the limit, or it stands where the series has put it.
+bool LOQStated(const Given& g) {
+  return g.FirstInRange > 1 || (CompleteSeries(g) && g.LOQ != DefaultLOQ(g));
+}
+bool URRStated(const Given& g) {
+  return g.LastInRange < SeriesCount(g) || (CompleteSeries(g) && g.URR != DefaultURR(g));
+}
+
+// Whether `next`, once it is sorted, holds the same outcomes 1 to M.
+bool SameSeries(const Given& before, const Given& next) {
+  const int M = SeriesCount(before);
+  if (M != SeriesCount(next)) return false;
+  if (before.C == next.C) return true;
+  const std::vector<double> C = ConsequencesOf(next).given.C;
+  return std::equal(before.C.begin() + 1, before.C.begin() + 1 + M, C.begin() + 1);
+}
+
+bool SameRange(const Given& a, const Given& b) {
+  return a.DetecOn == b.DetecOn && a.FirstInRange == b.FirstInRange &&
+         a.LastInRange == b.LastInRange;
+}
+
+// The range and the line that were laid over a series do not outlive it.
+LimitComplaint FollowSeries(const Given& before, Given& next) {
+  next.regression.reset();
+  Given sorted = ConsequencesOf(next).given;
+  if (!next.DetecOn || next.original || !CompleteSeries(sorted)) return {};
+  const LimitComplaint complaint = RecheckRange(sorted, LOQStated(before), URRStated(before));
+  next = std::move(sorted);
+  return complaint;
+}
+
+// What the sample's statistics follow from, without what is only told beside them.
+Given SampleOf(Given given) {
+  given.Name = given.Unit = given.RefPeriod = given.Duration = "";
+  given.OELV.reset();
+  given.U = given.D = 0;
+  given.CompareMode = ReferenceKind::None;
+  given.GSDChoice = VarianceChoice::None;
+  given.M2 = given.GM2 = given.GSD2 = 0;
+  return given;
+}
+
+}  // namespace
+
+Record::Record() {
+  now_.C.assign(1, 0.0);
+  now_.LnC.assign(1, 0.0);
+  now_.GridData.assign(1, {});
+  now_.SortOrder = "Onbekend";
+}
+
+LimitComplaint Record::Change(const std::function<void(Given&)>& change) {
+  const Given& before = now_;
+  Given next = before;
+  change(next);
+  if (next == before) return {};
+  if (SampleOf(next) == SampleOf(before)) {
+    Take(std::move(next), now_);
+    return {};
+  }
+  LimitComplaint complaint;
+  // A line is that of its range.
+  if (!SameRange(before, next) && next.regression == before.regression) next.regression.reset();
+  const bool both = before.Mode == DataMode::Raw && next.Mode == DataMode::Raw;
+  if (both && SeriesCount(before) > 0 && !SameSeries(before, next))
+    complaint = FollowSeries(before, next);
+  Consequences all = ConsequencesOf(std::move(next));
+  Take(std::move(all.given), std::move(all.derived));
+  return complaint;
+}
+
+void Record::Take(Given given, Derived derived) {
+  const TestBasis basis = BasisOf(now_);
+  static_cast<Given&>(now_) = std::move(given);
+  static_cast<Derived&>(now_) = std::move(derived);
+  if (BasisOf(now_) != basis) static_cast<Computed&>(now_) = {};
+  now_.IdentOk = GlobalBAS::Identified(now_);
+  now_.DescOk = now_.IdentOk && GlobalBAS::EstimatesInRange(now_);
+}
+
+void Record::Evaluate(Estimates estimates) {
+  Given next = now_;
+  next.inForce = estimates;
+  Consequences all = ConsequencesOf(std::move(next));
+  Take(std::move(all.given), std::move(all.derived));
+  constexpr std::int16_t kNoSpread = 4;
+  constexpr std::int16_t kTooLarge = 5;
+  if (now_.spread != Spread::Fine)
+    now_.InputState = now_.spread == Spread::None ? kNoSpread : kTooLarge;
+}
+
+void Record::StatusFlags() {
+  ExposureSession flagged = now_;
+  GlobalBAS::StatusFlags(flagged);
+  Change([&](Given& given) { given = flagged; });
+  now_.IdentOk = flagged.IdentOk;
+  now_.DescOk = flagged.DescOk && !now_.RawIncomplete;
+  now_.LimitsOk = flagged.LimitsOk;
+}
+
+void Record::AcceptSeries() {
+  now_.IdentOk = true;
+  now_.DescOk = !now_.noEstimates && !now_.RawIncomplete;
+}
+
+void Record::Close() {
+  ExposureSession fresh = Record().now_;
+  fresh.OELV = now_.OELV;
+  fresh.U = now_.U;
+  fresh.D = now_.D;
+  fresh.VersionText = now_.VersionText;
+  fresh.CR = now_.CR;
+  fresh.CurrentTab = now_.CurrentTab;
+  fresh.DeveloperMode = now_.DeveloperMode;
+  const bool limits = now_.LimitsOk;
+  *this = Record();
+  now_ = std::move(fresh);
+  // A limit that was accepted gets its defaults once more; it counts as set with the next data.
+  if (limits) StatusFlags();
+  now_.LimitsOk = false;
+}
+
+void Record::Keep(const TestResult& result) {
+  const TestBasis basis = BasisOf(now_);
+  test_.Keep(basis, result);
+  if (result.UTL.value && !result.olderLimit) UTL_.Keep(basis, *result.UTL.value);
+  if (result.PercEx.value) now_.PercEx = *result.PercEx.value;
+  now_.UTL = StandingUTL().value_or(0);
+}
+
+void Record::Keep(const MeanResult& result) {
+  mean_.Keep(BasisOf(now_), result);
+  now_.UCL = result.UCL;
+}
+
+void Record::Keep(const ComparisonResult& result) {
+  comparison_.Keep(ComparisonBasisOf(now_), result);
+}
+
+void Record::Drop(Extrapolation tag) {
+  if (tag == Extrapolation::Jahr || tag == Extrapolation::Land)
+    mean_.Drop();
+  else
+    test_.Drop();
+}
+
+const TestResult* Record::Test() const {
+  const TestResult* kept = test_.For(BasisOf(now_));
+  return kept && kept->test == now_.TestTag ? kept : nullptr;
+}
+
+const MeanResult* Record::Mean() const {
+  const MeanResult* kept = mean_.For(BasisOf(now_));
+  return kept && kept->method == now_.TestTag ? kept : nullptr;
+}
+
+const ComparisonResult* Record::Comparison() const {
+  return comparison_.For(ComparisonBasisOf(now_));
+}
+
+std::optional<double> Record::StandingUTL() const {
+  const double* kept = UTL_.For(BasisOf(now_));
+  return kept ? std::optional(*kept) : std::nullopt;
+}
