@@ -82,8 +82,10 @@ Location SampleLocation(const ComparisonBasis& s) {
   const double y = Square(Log(s.GSD2));
   const double L = Log(Divide(s.GM2, s.sample.GM));
   Location out;
-  if (s.GSDChoice == Pooled || s.GSDChoice == PooledByProbability) PoolVariances(s, x, y, L, out);
-  if (s.GSDChoice == Separate || s.GSDChoice == SeparateByProbability)
+  if (s.GSDChoice == None) fault::Throw(FaultKind::InvalidOperation);
+  if (s.GSDChoice == Pooled || s.GSDChoice == PooledByProbability)
+    PoolVariances(s, x, y, L, out);
+  else
     SplitVariances(s, x, y, L, out);
   out.A = StudentPercent(out.v, out.t);
   return out;

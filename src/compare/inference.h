@@ -66,8 +66,8 @@ Dispersion PopulationDispersion(const ComparisonBasis& basis);
 // Student's test of two samples by GSDChoice: one pooled variance, or separate variances with
 // degrees of freedom by F.E. Satterthwaite (1946), Biometrics Bulletin 2, 110-114, cut to a whole
 // number. The order of operations in these matters, since the cut follows: equal samples give 2 df
-// exactly or one less by their last digit. Without a choice t and v are 0. df and df2 = M2 - 1 at
-// least 1. Accuracy: as StudentUpper.
+// exactly or one less by their last digit. Without a choice the operation is invalid: t and v of 0
+// would read as certainty. df and df2 = M2 - 1 at least 1. Accuracy: as StudentUpper.
 Location SampleLocation(const ComparisonBasis& basis);
 
 // Student's test of a sample against a known mu, on df degrees of freedom:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "compare/inference.h"
 #include "compare/steps.h"
 #include "navigation/session_form.h"
@@ -91,6 +93,7 @@ struct TwoSampCompForm final : navigation::SessionForm {
     void (*check)(Workflow&, const GlobalBAS::Entry&, double&, const GlobalBAS::Notify&);
     bool (*inRange)(double);
     ReferenceStep (*step)(double, int);
+    std::optional<double> told = std::nullopt;  // the value that was last refused
   };
 
   void WireReference(Reference& reference, screen::Control& pair);
@@ -111,6 +114,9 @@ struct TwoSampCompForm final : navigation::SessionForm {
   // Takes over what the box holds. False when the validator refused it, and for an empty box.
   bool Accept(Reference& reference);
   void AcceptAndInfer(Reference& reference, bool always);
+  // The box was told of this value and is untouched since.
+  bool ToldBefore(const Reference& reference) const;
+  void Leave(Reference& reference);
   void Step(Reference& reference, int direction);
   // The reference value that lies out of its range; null when none of those in use does.
   Reference* FirstOutOfRange();
@@ -122,6 +128,7 @@ struct TwoSampCompForm final : navigation::SessionForm {
   void ClearResults();
   // The results that the record holds for the present state; empty boxes without.
   void ShowResults();
+  bool ShowsResults() const;
   Answer AskOnVariances(double A);
 
   Reference sampleSize_{SampSizTxB2, &Given::M2, GlobalBAS::CheckMRef, GlobalBAS::InRangeMRef,

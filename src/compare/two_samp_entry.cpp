@@ -7,7 +7,7 @@ namespace compare {
 void TwoSampCompForm::WireReference(Reference& reference, screen::Control& pair) {
   screen::Control& box = reference.box;
   box.GotFocus = [&box] { box.selectAll = true; };
-  box.LostFocus = [this, &reference] { Accept(reference); };
+  box.LostFocus = [this, &reference] { Leave(reference); };
   box.TabKey = [this, &reference] { AcceptAndInfer(reference, false); };
   box.EnterKey = [this, &reference] { AcceptAndInfer(reference, true); };
   box.Change = [this] {
@@ -18,8 +18,21 @@ void TwoSampCompForm::WireReference(Reference& reference, screen::Control& pair)
   pair.StepDown = [this, &reference] { Step(reference, -1); };
 }
 
-// An entry that was refused keeps the focus; one that stands there since before is told, but lets
-// the user go. An empty sample size is no entry at all: the box shows its value again.
+// One message for one error: who was told leaves in silence. The button may tell it again.
+void TwoSampCompForm::Leave(Reference& reference) {
+  if (ToldBefore(reference))
+    refused_ = false;
+  else
+    Accept(reference);
+}
+
+bool TwoSampCompForm::ToldBefore(const Reference& reference) const {
+  const double value = ValueOf(reference);
+  return !reference.box.touched && reference.told == value && !reference.inRange(value);
+}
+
+// An entry that was refused keeps the focus; one that nobody typed is told, but lets the user go.
+// An empty sample size is no entry at all: the box shows its value again.
 bool TwoSampCompForm::Accept(Reference& reference) {
   screen::Control& box = reference.box;
   const bool typed = box.touched;
@@ -29,6 +42,7 @@ bool TwoSampCompForm::Accept(Reference& reference) {
   reference.check(flow, EntryOf(box), value, Notifier());
   record.Change([&](Given& given) { given.*reference.field = value; });
   refused_ = !noEntry && session.InputState != 0;
+  reference.told = refused_ ? std::optional(ValueOf(reference)) : std::nullopt;
   box.touched = false;
   box.text = ShownTrimmed(ValueOf(reference));
   if (refused_ && typed) SetFocus(box);
@@ -39,8 +53,9 @@ bool TwoSampCompForm::Accept(Reference& reference) {
 // The Tab key on a box that nothing was typed in asks no question again whose answer stands.
 void TwoSampCompForm::AcceptAndInfer(Reference& reference, bool always) {
   const bool typed = reference.box.touched;
+  if (!always && ToldBefore(reference)) return;
   if (!Accept(reference) || FirstOutOfRange()) return;
-  if (always || typed || !record.Comparison()) Inference();
+  if (always || typed || !ShowsResults()) Inference();
 }
 
 TwoSampCompForm::Reference* TwoSampCompForm::FirstOutOfRange() {

@@ -81,6 +81,9 @@ void TwoSampCompForm::ShowResults() {
   MenuPrint.Show();
 }
 
+// Only results have something to print.
+bool TwoSampCompForm::ShowsResults() const { return MenuPrint.visible && record.Comparison(); }
+
 // Asked over the screen that shows A. The record holds the answer once this has returned.
 Answer TwoSampCompForm::AskOnVariances(double A) {
   using namespace screen;

@@ -142,7 +142,8 @@ TEST_F(Comparison, CombinedDegreesOfFreedomAreCutNeverRounded) {
 
 TEST_F(Comparison, CancellingTheQuestionGoesByTheProbabilityWithFivePooled) {
   EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, 5), VarianceChoice::PooledByProbability);
-  EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, std::nextafter(5.0, 0)), VarianceChoice::SeparateByProbability);
+  EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, std::nextafter(5.0, 0)),
+            VarianceChoice::SeparateByProbability);
   EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, 0), VarianceChoice::SeparateByProbability);
   EXPECT_EQ(compare::GSDChoiceFor(Answer::Cancel, 100), VarianceChoice::PooledByProbability);
 }
@@ -222,6 +223,12 @@ TEST_F(Comparison, WithoutAChoiceTheLocationTestHasNothingToGoBy) {
   Given(7, 1.2, 2, 9, 3.1, 2.4);
   s.GSDChoice = VarianceChoice::None;
   EXPECT_THROW(compare::SampleLocation(s), RunTimeError);
+  for (const VarianceChoice choice :
+       {VarianceChoice::Pooled, VarianceChoice::Separate, VarianceChoice::PooledByProbability,
+        VarianceChoice::SeparateByProbability}) {
+    s.GSDChoice = choice;
+    EXPECT_NO_THROW(compare::SampleLocation(s));
+  }
 }
 
 TEST_F(Comparison, TheSecondSampleWeighsOneMoreInTheCombinedDispersion) {

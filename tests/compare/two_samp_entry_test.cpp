@@ -209,6 +209,55 @@ TEST_F(ReferenceEntry, TabThroughUntouchedBoxesComparesOnceAndThenOnlyMovesOn) {
   EXPECT_EQ(p.box.shown.size(), 2u) << "no result stands behind another choice";
 }
 
+TEST_F(ReferenceEntry, AnEntryThatWasToldIsNotToldAgainByTabOrByLeavingIt) {
+  p.Type("GMTxB2", "20000");
+  EXPECT_EQ(TakeBox().text, "GM value too large");
+  form.focusWanted = nullptr;
+  p.Visit("GMTxB2");
+  screen::Guarded(p.ports, form.GMTxB2.LostFocus);
+  EXPECT_TRUE(p.box.shown.empty());
+  EXPECT_EQ(form.focusWanted, nullptr) << "nothing keeps the user in the box";
+  ExpectNoResults("a refused entry");
+  EXPECT_EQ(p.Text("GMTxB2"), "20000");
+}
+
+TEST_F(ReferenceEntry, AnEntryThatWasToldIsToldAgainWhereItIsTypedAgainOrIsToBeCompared) {
+  p.Type("GMTxB2", "20000");
+  EXPECT_EQ(TakeBox().text, "GM value too large");
+  p.Type("GMTxB2", "20000");
+  EXPECT_EQ(TakeBox().text, "GM value too large");
+  p.Visit("GMTxB2");
+  p.Click("CalcCmb");
+  EXPECT_EQ(TakeBox().text, "GM value too large") << "by the button";
+  screen::Guarded(p.ports, form.GMTxB2.EnterKey);
+  EXPECT_EQ(TakeBox().text, "GM value too large") << "by the Enter key";
+}
+
+TEST_F(ReferenceEntry, AValueOutOfRangeThatNobodyTypedIsToldOnce) {
+  p.Record().GM2 = 20000;
+  p.Visit("GMTxB2");
+  EXPECT_EQ(TakeBox().text, "GM value too large");
+  p.Visit("GMTxB2");
+  EXPECT_TRUE(p.box.shown.empty());
+  p.Record().GM2 = 30000;
+  p.Visit("GMTxB2");
+  EXPECT_EQ(TakeBox().text, "GM value too large") << "another value";
+}
+
+// The record may still hold the result of the values that came back; the screen shows none.
+TEST_F(ReferenceEntry, TabComparesWhereAStepAndTheStepBackHaveTakenTheResultsAway) {
+  Calculate();
+  ASSERT_TRUE(Results());
+  const std::string probability = form.GMInfTxb.text;
+  p.Up("SampSiz2_UpD");
+  p.Down("SampSiz2_UpD");
+  ASSERT_EQ(p.Record().M2, 10);
+  ExpectNoResults("the steps");
+  p.Visit("GMTxB2");
+  EXPECT_TRUE(Results());
+  EXPECT_EQ(form.GMInfTxb.text, probability);
+}
+
 TEST_F(ReferenceEntry, LookingAtARoundedValueDoesNotChangeIt) {
   p.Record().SigDigits = 3;
   p.Enter("GMTxB2", "0.123456789");
