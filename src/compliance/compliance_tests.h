@@ -20,6 +20,8 @@ enum class TestBox { ToleranceLimit, Fraction };
 // What a test may ask for besides its basis.
 struct TestRun {
   std::optional<double> standingUTL;  // of the test before, of the same data and limits
+  // What is found before a long search begins, with the boxes' texts until it does.
+  std::function<void(const TestResult& first)> found;
   std::function<void(TestBox box, double value)> progress;
 };
 

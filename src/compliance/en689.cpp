@@ -222,14 +222,18 @@ FractionSearch En689Fraction(const TestBasis& s, double Ur, const En689Progress&
 
 bool En689Decides(double df) { return df > kDecisionAbove; }
 
-En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress) {
-  En689Result found;
-  if (!CoverageTooLow(basis)) {
-    found.PercEx = En689ConfidenceAt(basis.df, basis.U, Ur);
-    found.limit = En689ToleranceLimit(basis, progress);
+En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress,
+                             const En689Confidence& found) {
+  En689Result result;
+  std::optional<double> PercEx;
+  if (!CoverageTooLow(basis)) PercEx = En689ConfidenceAt(basis.df, basis.U, Ur);
+  if (found) found(PercEx);
+  if (PercEx) {
+    result.PercEx = *PercEx;
+    result.limit = En689ToleranceLimit(basis, progress);
   }
-  found.fraction = En689Fraction(basis, Ur, progress);
-  return found;
+  result.fraction = En689Fraction(basis, Ur, progress);
+  return result;
 }
 
 }  // namespace compliance

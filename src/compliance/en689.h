@@ -12,6 +12,7 @@
 namespace compliance {
 
 // Fixed texts of the two search boxes.
+inline constexpr const char* kConfidenceBelow1E14 = "    <1E-14";  // until the search begins
 inline constexpr const char* kLimitAbove1E300 = "    >1.00E+300";
 inline constexpr const char* kFractionAll = "   100        ";
 inline constexpr const char* kFractionNone = "    <1.0E-46  ";
@@ -74,7 +75,10 @@ struct En689Result {
   FractionSearch fraction;
 };
 
-En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress = {});
+// `found` hears the confidence before the searches begin; none with U up to 50.
+using En689Confidence = std::function<void(std::optional<double> PercEx)>;
+En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress = {},
+                             const En689Confidence& found = {});
 
 // The whole test. With U up to 50 there is no confidence and no tolerance limit; the verdict is
 // then on the standing one, and a sentence says so; where none stands nothing is decided.

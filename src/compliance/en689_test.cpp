@@ -37,6 +37,17 @@ std::string PictureNote(const ExposureSession& s) {
   return "confidence that less than " + GlobalBAS::ShownTrimmed(s, 100 - s.U) + "% exceeds H";
 }
 
+// The screen as the searches find it.
+void TellConfidence(const TestRun& how, std::optional<double> PercEx) {
+  constexpr double kNoConfidence = 1E-14;
+  if (!how.found) return;
+  TestResult first;
+  first.test = Extrapolation::En689;
+  first.PercEx.value = PercEx;
+  if (PercEx && *PercEx < kNoConfidence) first.UTL.text = kConfidenceBelow1E14;
+  how.found(first);
+}
+
 // On which limit there is a decision: the one found, or the one that stands.
 std::optional<double> JudgedLimit(const En689Result& found, const TestRun& how) {
   return found.limit ? std::optional(found.limit->UTL) : how.standingUTL;
@@ -55,7 +66,9 @@ std::string Reason(const TestBasis& basis, const En689Result& found, const TestR
 }  // namespace
 
 TestResult En689Test(const TestBasis& basis, const TestRun& how) {
-  const En689Result found = En689Calculation(basis, StandardisedDistance(basis), how.progress);
+  const En689Result found =
+      En689Calculation(basis, StandardisedDistance(basis), how.progress,
+                       [&how](std::optional<double> PercEx) { TellConfidence(how, PercEx); });
   TestResult result;
   result.test = Extrapolation::En689;
   if (found.limit) {

@@ -87,6 +87,7 @@ struct PercExForm final : navigation::SessionForm {
   void ShowWords(const ComplianceTest& test);
   // The result that the record holds for the present state; without one, empty boxes and why.
   void ShowResult(const ComplianceTest& test);
+  void ShowNumbers(const TestResult& result);
   void ShowVerdict(const ComplianceTest& test, const TestResult& result);
   void OfferSampleSize(bool offered);
   TestRun HowToRun();

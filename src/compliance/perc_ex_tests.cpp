@@ -16,6 +16,7 @@ void PercExForm::BeginTest(const ComplianceTest& test) {
   flow.TestTag = test.tag;
   record.Drop(test.tag);
   TestLayout();
+  ClearResults();  // nothing is out of date: the button has just been pressed
   WindnrLbl.text = test.window;
   UTLFrm.text = LoadResString(2320) + ": " + TextOf(test.heading);
   OfferSampleSize(false);
@@ -54,14 +55,18 @@ void PercExForm::ShowResult(const ComplianceTest& test) {
     ReasonLbl.text = OwnText(Own::StaleTest);
     return;
   }
+  ShowNumbers(*result);
+  ShowVerdict(test, *result);
+  ReasonLbl.text = result->reason.empty() ? GeneralReason() : result->reason;
+}
+
+void PercExForm::ShowNumbers(const TestResult& result) {
   auto show = [this](screen::Control& box, const ShownNumber& number) {
     box.text = number.text.empty() ? Shown(number.value) : number.text;
   };
-  show(PercExTxB0, result->PercEx);
-  show(PercExTxB1, result->UTL);
-  show(PercExTxB2, result->fraction);
-  ShowVerdict(test, *result);
-  ReasonLbl.text = result->reason.empty() ? GeneralReason() : result->reason;
+  show(PercExTxB0, result.PercEx);
+  show(PercExTxB1, result.UTL);
+  show(PercExTxB2, result.fraction);
 }
 
 void PercExForm::ShowVerdict(const ComplianceTest& test, const TestResult& result) {
@@ -76,13 +81,20 @@ std::string PercExForm::GeneralReason() const {
   return OwnText(Own::ResultsDiffer, {ShownTrimmed(session.D)});
 }
 
-// The boxes of a search show its candidates.
+// The layout is shown before a search begins; its boxes then show its candidates.
 TestRun PercExForm::HowToRun() {
-  return {record.StandingUTL(), [this](TestBox which, double value) {
-            screen::Control& box = which == TestBox::Fraction ? PercExTxB2 : PercExTxB1;
-            box.text = Shown(value);
-            box.Refresh();
-          }};
+  TestRun how;
+  how.standingUTL = record.StandingUTL();
+  how.found = [this](const TestResult& first) {
+    ShowNumbers(first);
+    Refresh();
+  };
+  how.progress = [this](TestBox which, double value) {
+    screen::Control& box = which == TestBox::Fraction ? PercExTxB2 : PercExTxB1;
+    box.text = Shown(value);
+    box.Refresh();
+  };
+  return how;
 }
 
 void PercExForm::Run(Extrapolation tag) {

@@ -123,10 +123,16 @@ TEST_F(EN689OnTheScreen, TheSentenceOnTheEstimatesStandsUnderAllThreeVerdicts) {
 }
 
 TEST_F(EN689OnTheScreen, HalfThePopulationIsNoCoverageAndTheOldLimitIsJudged) {
-  for (const auto& [oldLimit, compliance] : {std::pair{0.9, true}, {1.1, false}, {1.0, false}}) {
-    Open(10, 0.3, 2, 1, 50);
-    p.Record().UTL = oldLimit;
-    p.Record().PercEx = 12;
+  Open(10, 0.3, 2, 1, 50);
+  p.Click("WilksCmb");
+  const double oldLimit = p.Record().UTL;
+  ASSERT_GT(oldLimit, 0);
+  for (const auto& [OELV, compliance] :
+       {std::pair{oldLimit * 1.1, true}, {oldLimit * 0.9, false}, {oldLimit, false}}) {
+    Open(10, 0.3, 2, OELV, 50);
+    p.Click("WilksCmb");
+    ASSERT_EQ(p.Record().UTL, oldLimit) << "a limit does not depend on what it is judged against";
+    const double PercEx = p.Record().PercEx;
     p.box.shown.clear();
     Press();
     ASSERT_EQ(p.box.shown.size(), 1u);
@@ -134,12 +140,49 @@ TEST_F(EN689OnTheScreen, HalfThePopulationIsNoCoverageAndTheOldLimitIsJudged) {
               "Desired population Coverage U% in Tab Limits must be more than 50%");
     EXPECT_EQ(p.LastBox().title, "Exceedance percentage");
     EXPECT_EQ(p.Record().UTL, oldLimit);
-    EXPECT_EQ(p.Record().PercEx, 12);
-    EXPECT_EQ(compliance ? Green(form.ComplianceLbl) : Red(form.ComplianceLbl), true) << oldLimit;
+    EXPECT_EQ(p.Record().PercEx, PercEx);
+    EXPECT_TRUE(form.ComplianceLbl.visible);
+    EXPECT_EQ(compliance ? Green(form.ComplianceLbl) : Red(form.ComplianceLbl), true) << OELV;
     EXPECT_EQ(Reason(),
               "Without a U above 50 % there is no confidence and no tolerance limit; the verdict "
               "is on the limit of the test before. ");
   }
+}
+
+TEST_F(EN689OnTheScreen, WithoutACoverageALimitOfOtherDataOrLimitsDecidesNothing) {
+  struct Before {
+    const char* what;
+    double M, GM, U, D;
+  };
+  constexpr Before befores[] = {{"the same", 10, 0.3, 50, 70},
+                                {"another coverage", 10, 0.3, 95, 70},
+                                {"another confidence", 10, 0.3, 50, 75},
+                                {"another sample size", 11, 0.3, 50, 70},
+                                {"another mean", 10, 0.2, 50, 70}};
+  for (const Before& before : befores) {
+    const bool same = &before == befores;
+    Open(before.M, before.GM, 2, 1, before.U, before.D);
+    p.Click("WilksCmb");
+    Open(10, 0.3, 2, 1, 50, 70);
+    Press();
+    EXPECT_EQ(form.ComplianceLbl.visible, same) << before.what;
+    if (same) continue;
+    EXPECT_EQ(p.Record().UTL, 0) << before.what;
+    EXPECT_EQ(Reason(),
+              "Without a U above 50 % there is no confidence and no tolerance limit: nothing is "
+              "decided.")
+        << before.what;
+  }
+}
+
+TEST_F(EN689OnTheScreen, WithoutACoverageAndATestBeforeNothingIsDecided) {
+  Open(10, 0.3, 2, 1, 50);
+  Press();
+  EXPECT_EQ(p.LastBox().text, "Desired population Coverage U% in Tab Limits must be more than 50%");
+  EXPECT_FALSE(form.ComplianceLbl.visible);
+  EXPECT_EQ(Reason(),
+            "Without a U above 50 % there is no confidence and no tolerance limit: nothing is "
+            "decided.");
 }
 
 TEST_F(EN689OnTheScreen, TheMessageOnTheCoverageComesBeforeTheFractionIsSearched) {
@@ -179,9 +222,10 @@ TEST_F(EN689OnTheScreen, TheBoxesAreRepaintedWithEachCandidate) {
   ExposureSession record = p.Record();
   Texts limits;
   Texts fractions;
-  compliance::En689Test(record, compliance::StandardisedDistance(BasisOf(record)), [&](TestBox box, double value) {
-    (box == TestBox::Fraction ? fractions : limits).push_back(Number(value));
-  });
+  compliance::En689Test(record, compliance::StandardisedDistance(BasisOf(record)),
+                        [&](TestBox box, double value) {
+                          (box == TestBox::Fraction ? fractions : limits).push_back(Number(value));
+                        });
   const Repaints seen = PressAndWatch();
   ASSERT_GT(limits.size() * fractions.size(), 0u);
   ASSERT_EQ(seen.limit, limits);

@@ -15,8 +15,8 @@
 // The EN 689 test: its confidence, its two searches, its verdict.
 namespace {
 
-using compliance::TestBox;
 using compliance::En689Result;
+using compliance::TestBox;
 using support::Row;
 
 class En689 : public table::Delivered {};
@@ -218,12 +218,28 @@ TEST_F(En689, TheBoxesFollowTheSearches) {
   EXPECT_EQ(fractions.back(), result.fraction.u);
 }
 
-TEST_F(En689, AFaultInTheSearchLeavesTheLimitOfBefore) {
+// The numbers of a record are those of one test: nothing is written before all of it is found.
+TEST_F(En689, AFaultInTheSearchLeavesTheNumbersOfBefore) {
   ExposureSession s = Session(10, 0.3, 1, 1);
   s.UTL = 42;
+  s.PercEx = 12;
   EXPECT_ANY_THROW(compliance::En689Test(s, 1.7));
   EXPECT_EQ(s.UTL, 42);
-  EXPECT_NE(s.PercEx, 0) << "the confidence was there before";
+  EXPECT_EQ(s.PercEx, 12);
+}
+
+TEST_F(En689, TheConfidenceIsToldBeforeTheSearchesBegin) {
+  const ExposureSession s = Session(10, 0.3, 2, 1);
+  std::vector<std::optional<double>> told;
+  int candidates = 0;
+  const auto result = compliance::En689Calculation(
+      BasisOf(s), Distance(s), [&](TestBox, double) { ++candidates; },
+      [&](std::optional<double> PercEx) {
+        EXPECT_EQ(candidates, 0);
+        told.push_back(PercEx);
+      });
+  EXPECT_EQ(told, std::vector{std::optional(result.PercEx)});
+  EXPECT_GT(candidates, 0);
 }
 
 }  // namespace
