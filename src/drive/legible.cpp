@@ -38,6 +38,15 @@ bool HasText(const QWidget& widget) {
          qobject_cast<const QTabBar*>(&widget);
 }
 
+// What there is of `one` beside `other`: a page that is scrolled ends with its area.
+QRect PlaceBeside(const QWidget& one, const QWidget& other) {
+  QRect place = Place(one);
+  for (const QWidget* at = one.parentWidget(); at && !at->isAncestorOf(&other);
+       at = at->parentWidget())
+    if (qobject_cast<const QScrollArea*>(at)) place &= Place(*at);
+  return place;
+}
+
 bool Around(const QWidget& one, const QWidget& other) {
   return one.isAncestorOf(&other) || other.isAncestorOf(&one);
 }
@@ -49,7 +58,8 @@ void FindOverlaps(const std::vector<QWidget*>& widgets, std::vector<QString>& fo
       const QWidget& one = *widgets[i];
       const QWidget& other = *widgets[j];
       const bool strip = qobject_cast<const QTabBar*>(&one) || qobject_cast<const QTabBar*>(&other);
-      if (!strip && !Around(one, other) && Place(one).intersects(Place(other)))
+      if (!strip && !Around(one, other) &&
+          PlaceBeside(one, other).intersects(PlaceBeside(other, one)))
         found.push_back(Named(one) + " lies over " + Named(other));
     }
 }
