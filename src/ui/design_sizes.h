@@ -16,6 +16,8 @@ class DesignSizes {
   explicit DesignSizes(QWidget& content);
 
   void Fit(const QFontMetricsF& font);
+  // A widget that came later; it has its size at the next fit.
+  void Add(QWidget& widget) { Note(widget); }
   // Columns in line with those of other frames, or only as wide as they must be.
   void Loosen(bool loose);
 

@@ -35,10 +35,10 @@ bool HasOwnWidget(const Control& control) {
 
 FormBinder::FormBinder(screen::Form& form, QMenuBar& menuBar, EventGate& gate)
     : form_(form), page_(LoadPage(form.name, menuBar)), gate_(gate) {
-  page_.sizes->Fit(QFontMetricsF(QApplication::font()));
   form_.captionTag = page_.captionTag;
   for (Control* control : form_.controls)
     if (HasOwnWidget(*control)) Add(*control);
+  page_.sizes->Fit(QFontMetricsF(QApplication::font()));
 }
 
 void FormBinder::Add(Control& control) {
@@ -65,6 +65,7 @@ QWidget* FormBinder::AddButton(const Control& control) {
   auto* button = new QPushButton(home);
   button->setObjectName(DesignName(control.name));
   button->setMinimumSize(kSmallest);
+  page_.sizes->Add(*button);
   row->insertWidget(row->count() - 1, button);
   return button;
 }

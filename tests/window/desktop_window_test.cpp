@@ -190,6 +190,23 @@ TEST_F(Desktop, TheWindowOfTheProgressGrowsWithTheFont) {
   QApplication::setFont(before);
 }
 
+// No designer file lays them out, and they stand beside buttons that one does.
+TEST_F(Desktop, TheButtonsOfTheTestsGrowWithTheFontAsOthersDo) {
+  Comply(1);
+  const QFont before = QApplication::font();
+  const int small = Widget("LeidelCmb").minimumHeight();
+  EXPECT_EQ(small, Widget("OriModiCmd").minimumHeight());
+  QFont large = before;
+  large.setPointSize(20);
+  QApplication::setFont(large);
+  for (int round = 0; round < 4; ++round) qApp->processEvents();
+  for (const char* name : {"LeidelCmb", "WilksCmb", "TuggleCmb"}) {
+    EXPECT_GT(Widget(name).minimumHeight(), small) << name;
+    EXPECT_EQ(Widget(name).minimumHeight(), Widget("OriModiCmd").minimumHeight()) << name;
+  }
+  QApplication::setFont(before);
+}
+
 // A drawing is ink on white paper, whatever the desktop.
 TEST_F(Desktop, DrawingsKeepTheirWhitePaper) {
   for (const char* palette : {"light", "dark", "contrast"}) {
