@@ -34,6 +34,13 @@ LogSums LogSumsOf(const std::vector<double>& C, double M) {
   return {Divide(S1, M), Checked(S2 - S1 * S1 / M)};
 }
 
+// The sum of the squares of many equal outcomes is not 0 to the last digit.
+bool AllEqual(const std::vector<double>& C, double M) {
+  for (int i = 2; i <= M; ++i)
+    if (Outcome(C, i) != Outcome(C, 1)) return false;
+  return true;
+}
+
 }  // namespace
 
 double DegreesOfFreedom(double M, bool DetecOn, double NInRange) {
@@ -48,7 +55,7 @@ GeometricMoments LogMoments(const std::vector<double>& C, double M, double df) {
   const LogSums sums = LogSumsOf(C, M);
   GeometricMoments moments;
   moments.GM = Exp(sums.mean);
-  if (sums.squares <= kNoSpread) {
+  if (sums.squares <= kNoSpread || AllEqual(C, M)) {
     moments.spread = Spread::None;
   } else if (df >= 1) {
     moments.GSD = Exp(Sqrt(Divide(sums.squares, df)));

@@ -119,6 +119,17 @@ TEST(LogMoments, WithoutSpreadGiveTheMeanAndKeepTheOldDeviation) {
   EXPECT_EQ(s.InputState, 4);
 }
 
+// The rounding of two thousand squares is no spread.
+TEST(LogMoments, OfManyEqualOutcomesHaveNoSpread) {
+  std::vector<double> C(2001, 2.0);
+  for (const int M : {3, 60, 1996, 2000}) {
+    const GeometricMoments moments = LogMoments(C, M, M - 1);
+    EXPECT_EQ(moments.spread, Spread::None) << M;
+    EXPECT_FALSE(moments.GSD) << M;
+    EXPECT_NEAR(moments.GM, 2, 1E-12) << M;
+  }
+}
+
 TEST(LogMoments, OfAnOutcomeOfZeroOrLessFault) {
   for (const double bad : {0.0, -1.0}) {
     ExposureSession s = WithOutcomes({0, bad, 2, 3});
