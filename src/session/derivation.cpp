@@ -71,7 +71,7 @@ void EstimateFromSeries(const Given& g, Derived& d) {
 }
 
 void TakeTyped(const Given& g, Derived& d) {
-  d.df = std::isfinite(g.M) ? g.M - 1 : 0;
+  d.df = std::isfinite(g.M) && g.M >= 1 ? g.M - 1 : 0;
   d.GM = g.TypedGM;
   d.GSD = g.TypedGSD;
 }
