@@ -50,7 +50,7 @@ void PlotForm::MenuLowLim_Click() {
     given.DetecOn = true;
     const bool stands =
         DefaultLOQ(given) <= given.LOQ && given.LOQ <= NearestOutcome(given, given.LastInRange - 2);
-    if (!stands) given.LOQ = DefaultLOQ(given);
+    if (!stands) ControleOndergrens(given, DefaultLOQ(given));
   });
   OpenPicker(VScLowLimit, HScLowLimit);
   PlotStatus();
@@ -61,7 +61,7 @@ void PlotForm::MenuUpLim_Click() {
     given.DetecOn = true;
     const bool stands =
         NearestOutcome(given, given.FirstInRange + 2) < given.URR && given.URR <= DefaultURR(given);
-    if (!stands) given.URR = DefaultURR(given);
+    if (!stands) ControleBovengrens(given, DefaultURR(given));
   });
   OpenPicker(VScUplimit, HScUplimit);
   PlotStatus();

@@ -73,8 +73,7 @@ LimitComplaint Record::Change(const std::function<void(Given&)>& change) {
   // A line is that of its range.
   if (!SameRange(before, next) && next.regression == before.regression) next.regression.reset();
   const bool both = before.Mode == DataMode::Raw && next.Mode == DataMode::Raw;
-  if (both && SeriesCount(before) > 0 && !SameSeries(before, next))
-    complaint = FollowSeries(before, next);
+  if (both && !SameSeries(before, next)) complaint = FollowSeries(before, next);
   Consequences all = ConsequencesOf(std::move(next));
   Take(std::move(all.given), std::move(all.derived));
   return complaint;
