@@ -53,7 +53,8 @@ void CheckStart(const View& view) {
   Field(view, "start", "GMTxB", now.GM);
   Field(view, "start", "GSDTxB", now.GSD);
   view.Number("start", "DegreesLbl", now.df);
-  const bool looked = view.scene.step.Command() == "key" && view.scene.On("BasisForm");
+  const bool looked = view.scene.step.Command() == "key" && view.scene.On("BasisForm") &&
+                      now.Mode == view.scene.before.Mode;
   if (looked && now.SigDigits != view.scene.before.SigDigits)
     view.Wrong("digits", "looking at a field widens the numbers from " +
                              Word(view.scene.before.SigDigits) + " to " + Word(now.SigDigits));

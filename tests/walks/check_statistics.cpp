@@ -33,9 +33,11 @@ void CheckMoments(const View& view) {
 
 void CheckRange(const View& view) {
   const Seen& now = view.Now();
-  if (now.DetecOn != view.page.Visible("DetecFrame"))
+  // Values that are tried on top of the sample have no range of their own.
+  const bool ranged = now.DetecOn && !now.ModifyMode;
+  if (ranged != view.page.Visible("DetecFrame"))
     view.Wrong("descriptive", "the frame of the range does not follow the range");
-  if (!now.DetecOn || !now.Count()) return;
+  if (!ranged || !now.Count()) return;
   view.Number("descriptive", "DetecLTxb", now.LOQ);
   view.Number("descriptive", "DetecUTxb", now.URR);
   view.Number("descriptive", "DegreesTxb", now.df);
@@ -80,7 +82,7 @@ void CheckEnds(const View& view) {
     const std::string& text = view.page.Text(label);
     const std::size_t at = text.find('=');
     if (!view.page.Visible(label) || at == std::string::npos) continue;
-    if (!Shows(text.substr(at + 1), value, view.Now().SigDigits))
+    if (!ShowsAtSomeWidth(text.substr(at + 1), value))
       view.Wrong("plot", std::string(label) + " shows " + drive::Quoted(text));
   }
 }

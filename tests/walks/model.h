@@ -83,6 +83,7 @@ class Model {
   void FollowTyped(const Scene& scene);
   void FollowForce(const Scene& scene);
   void FollowPlot(const Scene& scene);
+  bool NoDegrees(const Scene& scene);
   void Recognise(const Scene& scene);
   bool Matches(Whose whose, const Scene& scene) const;
   std::optional<Sample> SampleOf(Whose whose, const Seen& seen) const;

@@ -53,13 +53,24 @@ void Model::AdvanceEstimates(const Scene& scene) {
   }
   if (after.Mode != "R" || !complete_) return Unknown("the series is not complete", false);
   if (!HasSpread(series_, after.M - 1)) return Unknown("the series has no usable spread", true);
-  if (DfOf(after) < 1) return Unknown("the range leaves no degree of freedom", true);
   FollowForce(scene);
+  if (NoDegrees(scene)) return;
   Recognise(scene);
   if (!Near(after.C.front(), MedianOf(series_)))
     scene.findings.Add("median", "C(0) is " + Word(after.C.front()) + ", the median of 1 to M is " +
                                      Word(MedianOf(series_)));
   known_ = true;
+}
+
+// The whole sample's degrees of freedom may be in force where the range leaves none.
+bool Model::NoDegrees(const Scene& scene) {
+  const Seen& after = scene.after;
+  if (!force_.contains(ByRange) || DfOf(after) >= 1 || after.df != DfOf(after)) return false;
+  force_ = {ByRange};
+  known_ = false;
+  closed_ = true;
+  why_ = "the range leaves no degree of freedom";
+  return true;
 }
 
 void Model::Unknown(const std::string& why, bool closed) {
@@ -122,7 +133,7 @@ void Model::FollowForce(const Scene& scene) {
   } else if (onRaw && DetectionField(scene.before.focus)) {
     force_.insert(ByRange);
   } else if (scene.On("BasisForm") && after.M != scene.before.M && !scene.before.ModifyMode) {
-    force_ = {Whole, ByRange};
+    force_ = {ByRange};
   }
 }
 
@@ -130,14 +141,11 @@ void Model::FollowForce(const Scene& scene) {
 void Model::FollowPlot(const Scene& scene) {
   const Seen& after = scene.after;
   const bool ofLine = after.DetecOn && after.scale == "MenuLog";
-  if (after.NInRange < 2) return;
-  if (!ofLine) {
-    force_ = {ByRange};
-    return;
-  }
   const auto line = LineThrough(series_, RangeOf(after));
-  if (!line) return;
-  force_ = Plausible(*line) ? std::set{Line} : std::set{Whole, ByRange};
+  // The line of another range does not outlive it.
+  if (force_.contains(Line)) force_.insert(ByRange);
+  if (after.NInRange < 2 || !line) return;
+  force_ = {ofLine && Plausible(*line) ? Line : ByRange};
 }
 
 std::optional<Sample> Model::SampleOf(Whose whose, const Seen& seen) const {

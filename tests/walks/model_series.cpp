@@ -19,10 +19,16 @@ bool Accepted(double value) { return value <= 0 || (value >= 1E-10 && value <= 1
 
 bool Empty(const Seen& seen) { return seen.M == 0 && seen.Name.empty(); }
 
+// The option of the other kind of data is chosen by the focus, too.
+bool OtherKind(const Scene& scene) {
+  return scene.after.Mode != scene.before.Mode && scene.step.Command() == "key";
+}
+
 // What closes a series, asked for or by itself.
 bool MayClose(const Scene& scene) {
-  return scene.Chosen("Menuclose") || scene.Chosen("MenuNewVkrFil") || scene.Chosen("menuopen") ||
-         scene.Clicked("RawOpt") || scene.Clicked("DesOpt") || !scene.step.boxes.empty();
+  return OtherKind(scene) || scene.Chosen("Menuclose") || scene.Chosen("MenuNewVkrFil") ||
+         scene.Chosen("menuopen") || scene.Clicked("RawOpt") || scene.Clicked("DesOpt") ||
+         !scene.step.boxes.empty();
 }
 
 std::vector<std::string> Lines(const std::string& text) {
@@ -94,9 +100,10 @@ void Model::Append(const std::string& text, int count) {
   edited_ = true;
 }
 
+// Two rows stay, but what lies beyond them goes as with every edit.
 void Model::Delete(int row, int count) {
-  if (count <= 2 || row > count) return;
   outcomes_.resize(At(count));
+  if (count <= 2 || row > count) return;
   outcomes_.erase(outcomes_.begin() + row - 1);
   edited_ = true;
 }
@@ -136,6 +143,8 @@ void Model::CheckSeries(const Scene& scene) {
   if (Empty(after) || after.Mode.empty()) {
     if (!outcomes_.empty() && !Empty(scene.before) && !MayClose(scene))
       scene.findings.Add("series", "the series is gone");
+    if (!outcomes_.empty() && scene.before.unsaved && scene.step.boxes.empty())
+      scene.findings.Add("series", "the series is gone, unsaved and without a question");
     outcomes_.clear();
     return;
   }

@@ -1,6 +1,8 @@
 #include "tests/walks/numbers.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "drive/text.h"
 #include "session/global_bas.h"
@@ -25,6 +27,27 @@ double HalfUnit(const std::string& text) {
 
 std::string Masked(double value, int sigDigits) {
   return Trimmed(GlobalBAS::FormatNumber(value, GlobalBAS::FormatMask(value, sigDigits)));
+}
+
+bool OfNumber(const std::string& text, std::size_t at) {
+  const char c = text[at];
+  if ((c >= '0' && c <= '9') || c == '.') return true;
+  const bool behindDigit = at > 0 && text[at - 1] >= '0' && text[at - 1] <= '9';
+  if (c == 'E') return behindDigit;
+  return (c == '-' || c == '+') && at > 0 && text[at - 1] == 'E';
+}
+
+// The numbers of a label and what stands between them, without its blanks and line ends.
+std::vector<std::string> Words(const std::string& text) {
+  std::vector<std::string> words;
+  bool number = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == ' ' || text[i] == '\r') continue;
+    if (words.empty() || OfNumber(text, i) != number) words.emplace_back();
+    number = OfNumber(text, i);
+    words.back() += text[i];
+  }
+  return words;
 }
 
 }  // namespace
@@ -67,6 +90,14 @@ bool SameRounded(const std::string& a, const std::string& b) {
   if (!first || !second) return false;
   const double rounding = 1.01 * (HalfUnit(a) + HalfUnit(b));
   return Near(*first, *second, 6E-6) || std::abs(*first - *second) <= rounding;
+}
+
+bool SameLabel(const std::string& a, const std::string& b) {
+  const std::vector<std::string> first = Words(a);
+  const std::vector<std::string> second = Words(b);
+  return std::ranges::equal(first, second, [](const std::string& x, const std::string& y) {
+    return x == y || SameRounded(x, y);
+  });
 }
 
 bool Blank(const std::string& text) { return text.find_first_not_of(' ') == std::string::npos; }

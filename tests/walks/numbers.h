@@ -20,6 +20,9 @@ std::optional<double> NumberIn(const std::string& text);
 // Whether two texts show one number, each rounded in its own way.
 bool SameRounded(const std::string& a, const std::string& b);
 
+// Whether two drawn labels say the same: the room for it decides on lines and on digits.
+bool SameLabel(const std::string& a, const std::string& b);
+
 // Nothing but blanks, or the word for a number that the sample does not give.
 bool Blank(const std::string& text);
 bool BlankOrUnknown(const std::string& text);

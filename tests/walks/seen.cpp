@@ -103,6 +103,7 @@ Seen Look(drive::Stage& stage) {
   seen.form = stage.Shown().name;
   seen.focus = drive::Focused(stage);
   seen.scale = TickedScale(stage);
+  seen.unsaved = stage.Program().Unsaved();
   const auto* table = stage.Program().FormByName("DataCtrlForm")->Find("DBGridVkr");
   seen.gridRow = static_cast<const screen::Grid*>(table)->currentRow;
   const Reader record(stage.Session());
