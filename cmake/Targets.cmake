@@ -1,7 +1,7 @@
 # valkorin_library(<name> SOURCES ... [HEADERS ...] USES ...): a static library, which links only the
 # libraries that it may use. A folder of src/ has one of its name, or two: its formulas and drawings,
 # and under <folder>_screen its screen. A header belongs to the library of the source of its name;
-# HEADERS lists those without one, where the folder has two libraries.
+# HEADERS lists those without one.
 
 add_library(valkorin_options INTERFACE)
 target_include_directories(valkorin_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR})
@@ -23,9 +23,26 @@ if(VALKORIN_COVERAGE)
   target_link_options(valkorin_options INTERFACE --coverage)
 endif()
 
+# valkorin_headers(<target> [HEADERS ...]): a header file set of the headers of its sources and of
+# HEADERS. all_verify_interface_header_sets compiles each of them alone.
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+function(valkorin_headers target)
+  cmake_parse_arguments(arg "" "" "HEADERS" ${ARGN})
+  get_target_property(sources ${target} SOURCES)
+  foreach(source IN LISTS sources)
+    string(REGEX REPLACE "\\.cpp$" ".h" header ${source})
+    if(NOT header STREQUAL source AND EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${header})
+      list(APPEND arg_HEADERS ${header})
+    endif()
+  endforeach()
+  target_sources(${target} PUBLIC
+    FILE_SET HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR}/src FILES ${arg_HEADERS})
+endfunction()
+
 function(valkorin_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;USES" ${ARGN})
-  add_library(valkorin_${name} STATIC ${arg_SOURCES} ${arg_HEADERS})
+  add_library(valkorin_${name} STATIC ${arg_SOURCES})
+  valkorin_headers(valkorin_${name} HEADERS ${arg_HEADERS})
   target_link_libraries(valkorin_${name} PUBLIC valkorin_options)
   foreach(used IN LISTS arg_USES)
     target_link_libraries(valkorin_${name} PUBLIC valkorin_${used})

@@ -71,6 +71,24 @@ TEST(Floors, EveryLibraryLinksExactlyWhatItsRowNames) {
   EXPECT_GE(libraries, 11);
 }
 
+// Only a header in the set of a library is compiled alone.
+TEST(Floors, EveryHeaderStandsInTheSetOfItsLibrary) {
+  const std::vector<SourceFile> tree = ReadTree(kRoot);
+  std::map<std::string, std::string> cmake;
+  for (const SourceFile& file : tree)
+    if (IsCMake(file) && file.path.starts_with("src/")) cmake[file.Folder()] = file.text;
+  int looked = 0;
+  for (const SourceFile& file : tree) {
+    if (!file.path.starts_with("src/") || !file.path.ends_with(".h")) continue;
+    ++looked;
+    const std::string header = file.path.substr(file.path.rfind('/') + 1);
+    const std::string source = header.substr(0, header.size() - 2) + ".cpp";
+    EXPECT_THAT(cmake[file.Folder()], testing::AnyOf(HasSubstr(header), HasSubstr(source)))
+        << file.path;
+  }
+  EXPECT_GT(looked, 100) << "the tree was not read";
+}
+
 TEST(Floors, OnlyTheFoldersWithWindowsKnowTheToolkit) {
   for (const SourceFile& file : ReadTree(kRoot)) EXPECT_THAT(ToolkitFaults(file), IsEmpty());
 }
