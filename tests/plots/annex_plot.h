@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "analysis/regression_on_record.h"
 #include "analysis/rankits.h"
+#include "analysis/regression_on_record.h"
 #include "analysis/transformations.h"
 #include "plots/annex_e.h"
-#include "stats/coefficients.h"
 #include "session/moments.h"
+#include "stats/coefficients.h"
 
 // An Annex E plot of a series, and what stands in it.
 namespace annex_plot {

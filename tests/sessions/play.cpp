@@ -7,14 +7,14 @@
 #include "base/fault.h"
 #include "compare/inference_on_record.h"
 #include "compliance/en689.h"
-#include "compliance/tests_on_record.h"
 #include "compliance/leidel.h"
 #include "compliance/sample_size.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
 #include "stats/student.h"
 #include "tests/sessions/random_session.h"
-#include "ucl/mean_on_record.h"
 #include "tests/support/letters.h"
+#include "ucl/mean_on_record.h"
 
 namespace sessions {
 namespace {

@@ -1,5 +1,5 @@
-#include "session/moments.h"
 #include "tests/sessions/random_session.h"
+#include "session/moments.h"
 
 #include <cmath>
 #include <iomanip>

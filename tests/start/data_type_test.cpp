@@ -94,7 +94,8 @@ TEST(DataType, EitherChoiceAsksBeforeUnsavedOutcomesGo) {
     user.Click(option);
     ASSERT_EQ(user.box.shown.size(), 1u) << option;
     EXPECT_EQ(user.Record().M, 0) << option;
-    EXPECT_EQ(user.Record().Mode, std::string(option) == "RawOpt" ? DataMode::Raw : DataMode::Statistics);
+    EXPECT_EQ(user.Record().Mode,
+              std::string(option) == "RawOpt" ? DataMode::Raw : DataMode::Statistics);
   }
 }
 

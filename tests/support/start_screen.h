@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "tests/support/program_session.h"
 #include "tests/support/letters.h"
+#include "tests/support/program_session.h"
 
 // What the tests of the start screen do and look at again and again.
 namespace support {

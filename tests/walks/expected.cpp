@@ -7,9 +7,9 @@
 
 #include "base/fault.h"
 #include "compliance/en689.h"
-#include "compliance/tests_on_record.h"
 #include "compliance/leidel.h"
 #include "compliance/sample_size.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
 #include "session/global_bas.h"
 #include "ucl/jahr.h"

@@ -1,9 +1,9 @@
 #include <cmath>
 
 #include "compare/inference_on_record.h"
+#include "tests/support/letters.h"
 #include "tools/accuracy/comparison_searches.h"
 #include "tools/accuracy/entries.h"
-#include "tests/support/letters.h"
 
 namespace accuracy {
 namespace {

@@ -3,12 +3,12 @@
 #include <string>
 
 #include "compliance/en689.h"
-#include "compliance/tests_on_record.h"
 #include "compliance/sample_size.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
+#include "tests/support/letters.h"
 #include "tools/accuracy/compliance_searches.h"
 #include "tools/accuracy/entries.h"
-#include "tests/support/letters.h"
 
 namespace accuracy {
 namespace {

@@ -2,8 +2,8 @@
 #include <functional>
 
 #include "compliance/en689.h"
-#include "compliance/tests_on_record.h"
 #include "compliance/leidel.h"
+#include "compliance/tests_on_record.h"
 #include "compliance/wilks.h"
 #include "tools/accuracy/numbers.h"
 #include "tools/accuracy/performance.h"

@@ -1,13 +1,13 @@
 #include <cmath>
 
 #include "session/exposure_session.h"
-#include "session/moments.h"
 #include "session/global_bas.h"
+#include "session/moments.h"
 #include "stats/estimators.h"
+#include "tests/support/letters.h"
 #include "tools/accuracy/entries.h"
 #include "tools/accuracy/estimator_sources.h"
 #include "tools/accuracy/series.h"
-#include "tests/support/letters.h"
 #include "tools/accuracy/truth/lognormal.h"
 
 namespace accuracy {
