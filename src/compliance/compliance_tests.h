@@ -67,10 +67,8 @@ const ComplianceTest* FindTest(Extrapolation tag);
 // A missing OELV or a GSD of 1 is a fault.
 double StandardisedDistance(const TestBasis& basis);
 
-// Title (catalogue row) and text of the message on a coverage of 50 percent or less.
+// Title (catalogue row) of the message on a coverage of 50 percent or less, Own::CoverageTooLow.
 inline constexpr int kCoverageTitle = 2120;
-inline constexpr char kCoverageTooLow[] =
-    "Desired population Coverage U% in Tab Limits must be more than 50%";
 bool CoverageTooLow(const Limits& limits);
 
 }  // namespace compliance

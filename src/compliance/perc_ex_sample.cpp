@@ -1,5 +1,6 @@
 // The frame of the smallest sample, offered behind the Wilks test.
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "compliance/perc_ex_form.h"
 
 namespace compliance {
@@ -22,7 +23,7 @@ void PercExForm::SampSizeCkb_Click() {
   if (found.outcome == SampleSizeCase::CoverageTooLow) {
     OfferSampleSize(true);
     MakeRoom();
-    flow.MsgText = kCoverageTooLow;
+    flow.MsgText = OwnText(Own::CoverageTooLow);
     Complain(session.MsgText, LoadResString(kCoverageTitle));
     return;
   }

@@ -104,7 +104,7 @@ void PercExForm::Run(Extrapolation tag) {
   BeginTest(*test);
   if (session.CurrentTab != id) return;  // without a limit value there is nothing to judge against
   if (test->needsMajority && CoverageTooLow(BasisOf(session))) {
-    flow.MsgText = kCoverageTooLow;
+    flow.MsgText = OwnText(Own::CoverageTooLow);
     Complain(session.MsgText, LoadResString(kCoverageTitle));
   }
   const TestResult result = test->run(BasisOf(session), how);

@@ -30,7 +30,7 @@ inline constexpr int kAnySampleSizeText = 3442;   // no sample size complies
 
 enum class SampleSizeCase {
   NotWilks,        // asked behind another test: nothing is done
-  CoverageTooLow,  // U up to 50: kCoverageTooLow is to be told, under the title kCoverageTitle
+  CoverageTooLow,  // U up to 50: Own::CoverageTooLow is to be told, under the title kCoverageTitle
   OneDegree,       // compliance holds already at one degree of freedom
   Search,          // df and Mopt were searched
   AnySize          // non-compliance for any sample size: the warning is to be shown

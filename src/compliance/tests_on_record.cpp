@@ -1,5 +1,7 @@
 #include "compliance/tests_on_record.h"
 
+#include "catalog/own_texts.h"
+
 namespace compliance {
 
 WilksResult WilksTest(ExposureSession& s, double Ur) {
@@ -20,7 +22,7 @@ En689OnRecord En689Test(ExposureSession& s, double Ur, const En689Progress& prog
     s.PercEx = result.PercEx;
     s.UTL = result.limit->UTL;
   } else {
-    s.MsgText = kCoverageTooLow;
+    s.MsgText = OwnText(Own::CoverageTooLow);
   }
   return {result, En689Complies(s)};
 }
@@ -42,7 +44,7 @@ SampleSizeResult OptimiseSampleSize(ExposureSession& s, const SampleSizeProgress
   if (s.TestTag != Extrapolation::Wilks) return {};
   const SampleSizeResult result = OptimiseSampleSize(BasisOf(s), progress);
   if (result.outcome == SampleSizeCase::CoverageTooLow)
-    s.MsgText = kCoverageTooLow;
+    s.MsgText = OwnText(Own::CoverageTooLow);
   else
     s.PercEx = result.PercEx;
   return result;

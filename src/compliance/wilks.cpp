@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "session/global_bas.h"
 #include "stats/student.h"
 
@@ -39,7 +40,7 @@ void TakeClamped(Clamp clamp, const TestRun& how, TestResult& result) {
   }
   result.UTL.value = how.standingUTL;
   result.olderLimit = true;
-  result.reason += "; its box still shows the limit of the test before.";
+  result.reason += OwnText(Own::OlderWilksLimit);
 }
 
 }  // namespace
@@ -67,8 +68,7 @@ WilksLimit WilksToleranceLimit(double GM, double GSD, double U, double df) {
 }
 
 const char* ClampText(Clamp clamp) {
-  return clamp == Clamp::Below1E300th ? "Upper tolerance limit is smaller than 1E-300"
-                                      : "Upper tolerance limit is larger than 1E+300";
+  return OwnText(clamp == Clamp::Below1E300th ? Own::UTLTooSmall : Own::UTLTooLarge);
 }
 
 WilksResult WilksCalculation(const TestBasis& basis, double Ur) {

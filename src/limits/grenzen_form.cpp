@@ -87,8 +87,9 @@ void GrenzenForm::FillCombos() {
   for (int row : {334, 336, 338, 340, 342, 344, 346, 348, 350, 352, 354})
     DurationCmB.items.push_back(LoadResString(row));
   RefPerCmb.items = DurationCmB.items;
-  for (const char* period : {"1 month", "3 months", "1 year", "40 years", "life time"})
-    RefPerCmb.items.emplace_back(period);
+  for (Own period : {Own::PeriodMonth, Own::PeriodQuarter, Own::PeriodYear, Own::PeriodWorkingLife,
+                     Own::PeriodLife})
+    RefPerCmb.items.emplace_back(OwnText(period));
 }
 
 void GrenzenForm::Activate() {

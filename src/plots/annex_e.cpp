@@ -8,6 +8,7 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "plots/paper_labels.h"
 #include "plots/regression_line.h"
 #include "session/global_bas.h"
@@ -167,13 +168,13 @@ void Annex::PutTitles() {
   PutHeadlines(labels_, surface_.ScaleWidth(), surface_.ScaleHeight(), data_);
   const TextStyle above = StyleOf(8.5, Across::Right, Down::Bottom);
   labels_.push_back({"LblYasTop",
-                     "Probability" + data_.s.CR + "Pk x 100",
+                     OwnText(Own::AnnexProbability) + data_.s.CR + "Pk x 100",
                      {f_.XasStart - kBeside, f_.YasTop - 1.2 * RowHeight(above)},
                      above});
   // The axis that is labelled "Results" in the other kinds, with the same words below.
   const std::string results = OutcomesTitle(data_.s, data_.Transformation);
   const Fitted title =
-      FittedNumbers("Exposure Xk" + results.substr(results.find('\r')),
+      FittedNumbers(OwnText(Own::AnnexExposure) + results.substr(results.find('\r')),
                     RightRoom(surface_.ScaleWidth()), StyleOf(8.5, Across::Left, Down::Bottom));
   labels_.push_back(
       {"LblXasEinde", title.text, {f_.XasEinde + kBeside, f_.YasBot + 60}, title.style});

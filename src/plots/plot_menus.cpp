@@ -1,6 +1,7 @@
 // The menus of the plot screen but those of the range.
 #include "analysis/transformations.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "plots/plot_form.h"
 
 namespace plots {
@@ -66,10 +67,10 @@ void PlotForm::ShowDevelopment() {
 void PlotForm::SavePicture() {
   const std::string title = LoadResString(5200);
   const std::string path =
-      ports.fileDialog.Ask({true, title, "Valkorin Files (*.bmp)|*.bmp", "", "", 0});
+      ports.fileDialog.Ask({true, title, OwnText(Own::PictureFiles), "", "", 0});
   if (path.empty()) return;
   if (!ports.pictureFile.Write(path, PicPlot.drawing))
-    Complain("The picture could not be written to " + path + ".", title);
+    Complain(OwnText(Own::PictureNotWrittenTo, {path}), title);
 }
 
 void PlotForm::Print() {

@@ -8,6 +8,7 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "plots/paper_labels.h"
 #include "session/global_bas.h"
 
@@ -135,7 +136,7 @@ std::optional<double> OutcomeAtEnd(const std::string& Transformation, double y) 
 
 std::string RegresText(const ExposureSession& s, const std::string& Transformation,
                        const std::string& name) {
-  const std::string series = Transformation == "Unt" ? std::string("exposure data of ")
+  const std::string series = Transformation == "Unt" ? std::string(OwnText(Own::DataOf))
                                                      : Transformation + LoadResString(1751);
   return LoadResString(1750) + series + name + s.CR + RangeText(s);
 }

@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "plots/density_view.h"
 #include "plots/labels.h"
 #include "session/global_bas.h"
@@ -61,12 +62,12 @@ void VerdelingForm::SavePicture() {
   record.Flow().MsgTitle = LoadResString(902);
   record.Flow().MsgText = LoadResString(904);
   const std::string path =
-      ports.fileDialog.Ask({true, LoadResString(5200), "Valkorin Files (*.bmp)|*.bmp", "", "", 0});
+      ports.fileDialog.Ask({true, LoadResString(5200), OwnText(Own::PictureFiles), "", "", 0});
   if (path.empty()) return;
   record.Flow().MsgTitle = LoadResString(910) + path;
   record.Flow().MsgText.clear();
   if (!ports.pictureFile.Write(path, VerdelingPict.drawing))
-    Complain("The picture could not be written.", record.Flow().MsgTitle);
+    Complain(OwnText(Own::PictureNotWritten), record.Flow().MsgTitle);
 }
 
 }  // namespace plots

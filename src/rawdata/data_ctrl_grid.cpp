@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "files/safe_writer.h"
 #include "rawdata/data_ctrl_form.h"
 
@@ -18,11 +19,12 @@ std::string LineList(const std::vector<int>& lines) {
   const std::size_t shown = std::min(lines.size(), kMost);
   std::string text;
   for (std::size_t i = 0; i < shown; ++i) {
-    if (i > 0) text += i + 1 == lines.size() ? " and " : ", ";
+    if (i > 0) text += i + 1 == lines.size() ? OwnText(Own::LastOfList) : ", ";
     text += GlobalBAS::GeneralText(lines[i]);
   }
   if (shown < lines.size())
-    text += " and " + GlobalBAS::GeneralText(static_cast<double>(lines.size() - shown)) + " more";
+    text += OwnText(Own::MoreOfList,
+                    {GlobalBAS::GeneralText(static_cast<double>(lines.size() - shown))});
   return text;
 }
 
@@ -163,8 +165,9 @@ void DataCtrlForm::PasteRows(int row, const std::string& text) {
   for (const std::string& line : lines) {
     values.push_back(GlobalBAS::ReadNumber(line));
     if (RefusalOf(values.back()) == 0) continue;
-    Complain("Line " + GlobalBAS::GeneralText(static_cast<double>(values.size())) + ": \"" +
-                 line.substr(0, 40) + "\". " + LoadResString(920) + "Nothing was pasted.",
+    const std::string number = GlobalBAS::GeneralText(static_cast<double>(values.size()));
+    Complain(OwnText(Own::PastedLine, {number, line.substr(0, 40)}) + LoadResString(920) +
+                 OwnText(Own::NothingPasted),
              LoadResString(1530));
     return;
   }
@@ -187,21 +190,18 @@ void DataCtrlForm::TellReading(const ReadingNotes* notes) {
     Rebind();
     return;
   }
-  ReadingLbl.text = ShownTrimmed(session.M) + " outcomes read.";
+  ReadingLbl.text = OwnText(Own::OutcomesRead, {ShownTrimmed(session.M)});
   if (!notes->trailingText.empty())
-    ReadingLbl.text +=
-        " Text behind the number on line " + LineList(notes->trailingText) + " was passed over.";
+    ReadingLbl.text += OwnText(Own::TrailingText, {LineList(notes->trailingText)});
   if (!notes->commaAndPoint.empty())
-    ReadingLbl.text += " Both comma and point on line " + LineList(notes->commaAndPoint) +
-                       ": the last one was read as the decimal sign.";
+    ReadingLbl.text += OwnText(Own::CommaAndPoint, {LineList(notes->commaAndPoint)});
 }
 
 void DataCtrlForm::VkrSave() {
   flow.MsgText = LoadResString(1320);
   flow.MsgTitle = LoadResString(1324);
-  const std::string path =
-      GlobalBAS::Trim(ports.fileDialog.Ask({true, LoadResString(94), "Valkorin Files (*.vkr)|*.vkr",
-                                            session.Name, "Valkowin.chm", 100260}));
+  const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
+      {true, LoadResString(94), OwnText(Own::SeriesFiles), session.Name, "Valkowin.chm", 100260}));
   if (path.empty()) {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
     return;
@@ -216,14 +216,14 @@ void DataCtrlForm::VkrSave() {
   const bool written = files::WriteSafely(path, bytes);
   busyPointer = false;
   if (!written) {
-    ReadingLbl.text = "The file could not be written: " + path + ". The series is not saved.";
+    ReadingLbl.text = OwnText(Own::SeriesNotWritten, {path});
     return;
   }
   record.Change([&path](Given& given) { given.Name = path; });
   mark_ = files::MarkOfBytes(bytes);
   markedPath_ = path;
   desk.MarkSaved();
-  ReadingLbl.text = ShownTrimmed(session.M) + " outcomes saved.";
+  ReadingLbl.text = OwnText(Own::OutcomesSaved, {ShownTrimmed(session.M)});
   Rebind();
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 
 namespace screen {
 
@@ -34,9 +35,7 @@ void Guarded(Ports& ports, const Handler& handler) {
   } catch (const std::exception& error) {
     std::string title = LoadResString(kTitle);
     title.erase(title.find_last_not_of(' ') + 1);
-    ports.messageBox.Show({std::string("This step could not be finished: ") + error.what() +
-                               ". What was entered before it is kept.",
-                           title, Icon::Exclamation});
+    ports.messageBox.Show({OwnText(Own::StepUnfinished, {error.what()}), title, Icon::Exclamation});
   }
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "session/global_bas.h"
 
 // What a numeric field accepts. All validators take the same steps; a row of constants tells them
@@ -36,7 +37,7 @@ constexpr Bounds kM = {2, 2000, false, 370, 375, 380, 385};
 constexpr Bounds kMRef = {2, 30000, true, 370, 375, kReferenceTooLarge, 385};
 
 std::string ComplaintText(int id) {
-  if (id == kReferenceTooLarge) return "A Sample size M of more than thirty thousand is too large";
+  if (id == kReferenceTooLarge) return OwnText(Own::ReferenceTooLarge);
   return LoadResString(id);
 }
 

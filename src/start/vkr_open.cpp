@@ -1,19 +1,17 @@
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "start/basis_form.h"
 
 namespace start {
 namespace {
 
-constexpr const char* kNotReadable = "This file could not be read:";
-constexpr const char* kTooLarge = "This file is larger than 64 MiB, which no raw data file is:";
-
 // The text for a file that the reader refused, with the line that it stopped at.
 std::string RefusalText(const rawdata::FileCheck& check, const std::string& cr) {
   std::string text = LoadResString(check.messageId);
   if (check.refusedLine > 0) {
-    text += cr + "Line " + GlobalBAS::GeneralText(check.refusedLine) + " holds \"" +
-            check.refusedText + "\", which is no outcome between 1E-10 and 1E+10." + cr +
-            "Enter values below a limit as numbers, and state the limit as a detection range.";
+    const std::string line = GlobalBAS::GeneralText(check.refusedLine);
+    text +=
+        cr + OwnText(Own::LineRefused, {line, check.refusedText}) + cr + OwnText(Own::BelowALimit);
   }
   return text;
 }
@@ -26,7 +24,7 @@ void BasisForm::VkrOpen() {
   flow.MsgText = LoadResString(902);
   flow.MsgTitle = LoadResString(904);
   const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
-      {false, LoadResString(900), "Valkorin Files (*.vkr)|*.vkr", "", "Valkowin.chm", 100170}));
+      {false, LoadResString(900), OwnText(Own::SeriesFiles), "", "Valkowin.chm", 100170}));
   if (path.empty()) {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
     return;
@@ -63,7 +61,8 @@ void BasisForm::VkrOpen() {
 
 void BasisForm::TellRefusal(const std::string& path, const rawdata::FileCheck& check) {
   if (!check.readable || check.messageId == 0)
-    ShowMessage((check.tooLarge ? kTooLarge : kNotReadable) + session.CR + path);
+    ShowMessage(OwnText(check.tooLarge ? Own::FileTooLarge : Own::FileNotReadable) + session.CR +
+                path);
   else
     ShowMessage(RefusalText(check, session.CR));
 }

@@ -3,17 +3,11 @@
 #include <charconv>
 #include <utility>
 
+#include "catalog/own_texts.h"
 #include "stats/coefficient_check.h"
 
 namespace StatFWinBAS {
 namespace {
-
-constexpr const char* kMissing = " is missing: calculations that need its constants stop.";
-constexpr const char* kHolds = " holds ";
-constexpr const char* kOf = " of its ";
-constexpr const char* kShort = " constants: calculations that need the others stop.";
-constexpr const char* kDifferent =
-    " holds other constants than the file that came with the program: results can differ.";
 
 std::array<CoefficientFile, 2>& Store() {
   static std::array<CoefficientFile, 2> files;
@@ -29,11 +23,11 @@ std::string Digits(int value) {
 std::string Sentence(const CoefficientFile& file) {
   switch (file.state) {
     case FileState::Missing:
-      return file.path + kMissing;
+      return OwnText(Own::ConstantsMissing, {file.path});
     case FileState::Short:
-      return file.path + kHolds + Digits(file.numbers) + kOf + Digits(file.wanted) + kShort;
+      return OwnText(Own::ConstantsShort, {Digits(file.numbers), Digits(file.wanted), file.path});
     case FileState::Different:
-      return file.path + kDifferent;
+      return OwnText(Own::ConstantsDifferent, {file.path});
     case FileState::NotLoaded:
     case FileState::Delivered:
       break;

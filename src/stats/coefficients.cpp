@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/fault.h"
+#include "catalog/own_texts.h"
 #include "files/regular_file.h"
 #include "stats/coefficient_check.h"
 
@@ -23,9 +24,6 @@ constexpr const char* kMainName = "VALKORIN.COF";
 constexpr const char* kRoystonName = "asr94COF.txt";
 constexpr int kMainNumbers = 370;
 constexpr int kRoystonNumbers = 53;
-
-// The words of the fault; the name of the file stands in front.
-constexpr const char* kLacksConstants = " lacks constants that it needs";
 
 // Where the file stands, looked for by its bare name; empty when it is nowhere. A folder or a pipe
 // of that name is no file.
@@ -134,7 +132,7 @@ const Coefficients& Coefs() { return Store(); }
 
 void ThrowLacking(Block block) {
   const std::string name = block == Block::Royston ? kRoystonName : kMainName;
-  throw RunTimeError(FaultKind::MissingConstants, name + kLacksConstants);
+  throw RunTimeError(FaultKind::MissingConstants, OwnText(Own::ConstantsNeeded, {name}));
 }
 
 void LoadCoefficients(const std::vector<std::string>& folders) {

@@ -1,5 +1,6 @@
 #include "ucl/land_hulp_form.h"
 
+#include "catalog/own_texts.h"
 #include "session/global_bas.h"
 
 namespace ucl {
@@ -14,13 +15,11 @@ LandHulpForm::LandHulpForm(const ExposureSession& record, screen::Ports& formPor
 }
 
 void LandHulpForm::Load() {
-  caption = "Calculating the Confidence Factor";
-  InitLbl.text = "Initial Interval";
-  StreepjeLbl0.text = "to";
-  StreepjeLbl1.text = "to";
-  ConFactLbl.text =
-      "Land's factor C to calculate the upper confidence limit of the aritmetic mean in a "
-      "Lognormal distribution";
+  caption = OwnText(Own::LandCaption);
+  InitLbl.text = OwnText(Own::LandInterval);
+  StreepjeLbl0.text = OwnText(Own::LandTo);
+  StreepjeLbl1.text = OwnText(Own::LandTo);
+  ConFactLbl.text = OwnText(Own::LandFactor);
 }
 
 void LandHulpForm::Begin() {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/fault.h"
+#include "catalog/own_texts.h"
 #include "ucl/land_probability.h"
 
 namespace UCLBAS {
@@ -181,8 +182,7 @@ void LandRootSearch(double nu, double s, double& x1, double& x2, double& f1, dou
     const double other = search.Other();
     search.Pass();
     C = search.Best();
-    if (search.Lost())
-      throw RunTimeError(FaultKind::InvalidOperation, "the search has lost its bracket");
+    if (search.Lost()) throw RunTimeError(FaultKind::InvalidOperation, OwnText(Own::LandLost));
     if (search.Best() == best && search.Other() == other) return;
   }
 }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/fault.h"
+#include "catalog/own_texts.h"
 #include "stats/estimators.h"
 #include "ucl/land_exact.h"
 
@@ -67,9 +68,9 @@ bool LandIsOffered(double M, double D) { return M > 2 && M < 1001 && D >= 0.95 &
 
 std::string LandRefusal(double M, double D) {
   std::string text;
-  if (!(M >= 3 && M <= 1000)) text = "Sample Size out of range. ";
-  if (D < 0.95 || D > 99.75) text = "Desired Confidence U out of range. ";
-  if (!text.empty()) text += "Use Jahr's approximate method";
+  if (!(M >= 3 && M <= 1000)) text = OwnText(Own::LandSize);
+  if (D < 0.95 || D > 99.75) text = OwnText(Own::LandConfidence);
+  if (!text.empty()) text += OwnText(Own::LandUseJahr);
   return text;
 }
 

@@ -3,6 +3,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "catalog/own_texts.h"
+
 namespace ui {
 
 UpDownPair::UpDownPair(QWidget* parent)
@@ -22,7 +24,8 @@ UpDownPair::UpDownPair(QWidget* parent)
 QToolButton* UpDownPair::MakeButton(Qt::ArrowType arrow, const QString& name) {
   auto* button = new QToolButton(this);
   button->setObjectName(name);
-  button->setAccessibleName(arrow == Qt::UpArrow ? tr("One step up") : tr("One step down"));
+  button->setAccessibleName(
+      QString::fromUtf8(OwnText(arrow == Qt::UpArrow ? Own::StepUp : Own::StepDown)));
   button->setArrowType(arrow);
   button->setAutoRepeat(true);
   button->setFocusPolicy(Qt::NoFocus);
