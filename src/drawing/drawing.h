@@ -9,6 +9,9 @@
 // printer page are surfaces for one and the same drawing routine.
 namespace drawing {
 
+// Wherever the window, a bitmap or a pen counts in pixels.
+inline constexpr double kTwipsPerPixel = 15;
+
 struct Colour {
   std::uint8_t red = 0;
   std::uint8_t green = 0;

@@ -32,7 +32,7 @@ constexpr Colour kLine{190, 0, 0};
 constexpr Colour kMark{0, 110, 0};
 
 constexpr double kHair = 10;
-constexpr double kPen = 15;
+constexpr double kPen = drawing::kTwipsPerPixel;
 constexpr double kLinePen = 22;
 constexpr double kHalfCross = 60;
 constexpr double kTick = 60;

@@ -19,7 +19,7 @@ constexpr double kLeastMark = 0.2;         // of the peak's height
 
 constexpr double kArrow = 240;  // beyond the end of the axis
 
-constexpr double kPen = 15;
+constexpr double kPen = drawing::kTwipsPerPixel;
 constexpr drawing::Colour kFrame{0, 0, 0};
 constexpr drawing::Colour kCurve{0, 0, 255};
 

@@ -3,6 +3,7 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "session/global_bas.h"
+#include "session/limit_checks.h"
 
 namespace PlotWBas {
 namespace {
@@ -13,7 +14,7 @@ using drawing::Point;
 
 constexpr drawing::Colour kLOQ{0, 110, 60};
 constexpr drawing::Colour kURR{140, 70, 0};
-constexpr double kPen = 15;
+constexpr double kPen = drawing::kTwipsPerPixel;
 constexpr double kBeside = 45;  // from the line to its label
 
 double Outcome(const ExposureSession& s, int i) { return s.C[static_cast<std::size_t>(i)]; }
@@ -100,7 +101,7 @@ void TakeLine(Room& room, const Paper& paper, const LimitMark& mark) {
 LimitMark LOQMark(const Paper& paper, const PlotData& data, bool active) {
   const ExposureSession& s = data.s;
   const double C1 = Outcome(s, 1);
-  const bool asked = s.LOQ >= 0.95 * C1 || active;
+  const bool asked = s.LOQ >= kBelowLowest * C1 || active;
   if (!asked || s.LOQ <= C1) return {false, paper.OutcomesUp() ? 1.0 : 0.0, 0};
   return MarkAt(paper, data, s.LOQ);
 }
@@ -108,7 +109,7 @@ LimitMark LOQMark(const Paper& paper, const PlotData& data, bool active) {
 LimitMark URRMark(const Paper& paper, const PlotData& data, bool active) {
   const ExposureSession& s = data.s;
   const double CM = Outcome(s, SampleCount(s));
-  const bool asked = (Outcome(s, 3) < s.URR && s.URR <= 1.05 * CM) || active;
+  const bool asked = (Outcome(s, 3) < s.URR && s.URR <= kAboveHighest * CM) || active;
   if (!asked || s.URR >= CM) return {false, paper.OutcomesUp() ? 0.0 : 1.0, 0};
   return MarkAt(paper, data, s.URR);
 }

@@ -17,7 +17,7 @@ constexpr drawing::Colour kPoint{0, 0, 170};
 constexpr drawing::Colour kOutside{150, 150, 150};  // a point that the line does not follow
 
 constexpr double kHair = 10;
-constexpr double kPen = 15;
+constexpr double kPen = drawing::kTwipsPerPixel;
 constexpr double kHalfCross = 60;
 constexpr double kAside = 60;       // the frame stands this far outside of the outermost points
 constexpr double kOvershoot = 120;  // and its axes run this far

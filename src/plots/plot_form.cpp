@@ -41,7 +41,6 @@ void PlotForm::Activate() {
   WindnrLbl.text = "17a";
   flow.TestTag = Extrapolation::None;
   state.RankitTable = analysis::RankitsForSampleSize(SampleCount(session));
-  busyPointer = false;
   RefillCTransf();
   // A range that was given up on another screen leaves nothing to pick here.
   if (!session.DetecOn) ResetAll();

@@ -11,6 +11,7 @@
 #include "catalog/own_texts.h"
 #include "plots/paper_labels.h"
 #include "session/global_bas.h"
+#include "session/limit_checks.h"
 
 namespace PlotWBas {
 namespace {
@@ -145,8 +146,8 @@ std::string DescripText(const ExposureSession& s, const analysis::Regression& fi
   std::string text = EstimatesText(s, fit);
   if (!s.DetecOn)
     return text + LoadResString(1765) + s.CR + "M= " + GlobalBAS::ShownTrimmed(s, s.M);
-  if (s.LOQ > 0.95 * s.C[1]) text += "LOQ " + GlobalBAS::Shown(s, s.LOQ) + s.CR;
-  if (s.URR < 1.05 * s.C[static_cast<std::size_t>(SampleCount(s))])
+  if (s.LOQ > kBelowLowest * s.C[1]) text += "LOQ " + GlobalBAS::Shown(s, s.LOQ) + s.CR;
+  if (s.URR < kAboveHighest * s.C[static_cast<std::size_t>(SampleCount(s))])
     text += "URR " + GlobalBAS::Shown(s, s.URR) + s.CR;
   return text + LoadResString(1761) + s.CR + LoadResString(1762) +
          GlobalBAS::ShownTrimmed(s, s.NInRange) + s.CR + LoadResString(1763) +

@@ -116,7 +116,6 @@ void DataCtrlForm::DataCtrlStatus() {
   menuTools.visible = session.DescOk;
   if (session.DescOk) menuExtrPol.enabled = session.LimitsOk;
   StatusStrip();
-  busyPointer = false;
 }
 
 void DataCtrlForm::ShowDetection() {

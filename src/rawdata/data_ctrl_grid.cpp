@@ -207,14 +207,17 @@ void DataCtrlForm::VkrSave() {
     return;
   }
   if (!MayOverwrite(path)) return;
-  busyPointer = true;
-  Refresh();
-  flow.MsgTitle = LoadResString(910) + path;
-  flow.MsgText.clear();
-  record.Change(CutSeries);
-  const std::string bytes = FileBytes({session.C.begin() + 1, session.C.end()});
-  const bool written = files::WriteSafely(path, bytes);
-  busyPointer = false;
+  std::string bytes;
+  bool written = false;
+  {
+    const screen::Busy busy(*this);
+    Refresh();
+    flow.MsgTitle = LoadResString(910) + path;
+    flow.MsgText.clear();
+    record.Change(CutSeries);
+    bytes = FileBytes({session.C.begin() + 1, session.C.end()});
+    written = files::WriteSafely(path, bytes);
+  }
   if (!written) {
     ReadingLbl.text = OwnText(Own::SeriesNotWritten, {path});
     return;

@@ -8,9 +8,7 @@
 
 namespace {
 
-constexpr double kBelowLowest = 0.95;   // default LOQ, as a part of the lowest outcome
-constexpr double kAboveHighest = 1.05;  // default URR, as a multiple of the highest outcome
-constexpr int kLeastInRange = 3;        // a line through fewer points tells nothing
+constexpr int kLeastInRange = 3;  // a line through fewer points tells nothing
 
 // The value as it was entered, then what is wrong with it.
 std::string Refusal(double t, int textId) {

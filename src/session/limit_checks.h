@@ -13,8 +13,12 @@ struct LimitComplaint {
   std::string MsgTitle;
 };
 
-// The ends that stand in for a limit which nobody stated: 0.95 times the lowest outcome, and 1.05
-// times the highest. Domain: a series with outcomes 1 to M, otherwise a subscript fault.
+// The ends that stand in for a limit which nobody stated, as parts of the lowest and the highest
+// outcome.
+inline constexpr double kBelowLowest = 0.95;
+inline constexpr double kAboveHighest = 1.05;
+
+// Those ends. Domain: a series with outcomes 1 to M, otherwise a subscript fault.
 double DefaultLOQ(const Given& given);
 double DefaultURR(const Given& given);
 

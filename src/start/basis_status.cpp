@@ -20,7 +20,6 @@ void BasisForm::BasisStatus() {
   else
     StatusKnown();
   StatusStrip();
-  busyPointer = false;
 }
 
 void BasisForm::StatusRaw() {
@@ -143,7 +142,6 @@ void BasisForm::Sluiten() {
   OriModiCmd.Hide();
   CmdContinu.Hide();
   Tabs.Hide();
-  busyPointer = false;
   ShowStatus();
 }
 

@@ -60,7 +60,6 @@ void UCLForm::Activate() {
   UCLResults();
   ShowWording();
   ShowGate();
-  busyPointer = false;
 }
 
 void UCLForm::BasisStatus() {

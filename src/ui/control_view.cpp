@@ -174,11 +174,11 @@ void ControlView::PushTicked() {
 }
 
 void ControlView::PushPlace() {
-  constexpr double kTwipsToThePixel = 15;
   const screen::Place& place = *shown_->place;
   const QRectF twips(place.left, place.top, place.width, place.height);
   widget_->setGeometry(
-      QRectF(twips.topLeft() / kTwipsToThePixel, twips.size() / kTwipsToThePixel).toRect());
+      QRectF(twips.topLeft() / drawing::kTwipsPerPixel, twips.size() / drawing::kTwipsPerPixel)
+          .toRect());
 }
 
 void ControlView::PushValue() {

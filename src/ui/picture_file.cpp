@@ -10,7 +10,7 @@
 namespace ui {
 namespace {
 
-constexpr double kDotsToTheTwip = 2.0 / 15;
+constexpr double kDotsToTheTwip = 2 / drawing::kTwipsPerPixel;
 constexpr int kDotsToTheMetre = 7559;  // 192 to the inch
 
 }  // namespace

@@ -18,7 +18,7 @@ class PictureView : public QWidget {
   void Refresh();
 
   // The place of a click as its screen gets it, in twips.
-  QPointF Twips(QPointF pixels) const { return pixels * kTwipsToThePixel; }
+  QPointF Twips(QPointF pixels) const { return pixels * drawing::kTwipsPerPixel; }
 
  signals:
   // The drawing has a new scale while the picture can be seen.
@@ -32,8 +32,6 @@ class PictureView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
-  static constexpr double kTwipsToThePixel = 15;
-
   void TakeSize();
   // What a screen reader tells of the picture: its texts.
   void Describe();
