@@ -120,15 +120,17 @@ void Model::AdvanceRange(const Scene& scene) {
   const Range all{1, after.Count()};
   const Range counted = after.DetecOn ? Counted(series_, after.LOQ, after.URR) : all;
   const Seen& before = scene.before;
-  const bool carried = after.DetecOn && before.DetecOn && after.M == before.M && !edited_;
+  // Trying another M leaves the series and its range as they are.
+  const double M = before.ModifyMode ? MBeforeModify_ : before.M;
+  const bool sameSeries = after.M == M && !edited_;
+  const bool carried = after.DetecOn && before.DetecOn && sameSeries;
   const bool first = held.first == counted.first ||
                      (carried && after.LOQ == before.LOQ && held.first == before.FirstInRange);
   const bool last = held.last == counted.last ||
                     (carried && after.URR == before.URR && held.last == before.LastInRange);
   const bool settled = after.DetecOn && OnRange(scene);
   if ((first && last) || settled) return;
-  if (after.DetecOn && (edited_ || after.M != scene.before.M) && SettledAnew(series_, scene))
-    return;
+  if (after.DetecOn && !sameSeries && SettledAnew(series_, scene)) return;
   scene.findings.Add("range", "in range are " + Told(held) + ", by the limits " + Told(counted));
 }
 
