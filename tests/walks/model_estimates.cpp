@@ -31,6 +31,14 @@ bool Valid(const Seen& seen) {
 
 Range RangeOf(const Seen& seen) { return {seen.FirstInRange, seen.LastInRange}; }
 
+// The outcomes that the picture takes to be in range: it counts along its scale, where reciprocals
+// stand in reverse.
+Range RangeOnScale(const Seen& seen) {
+  const Range range = RangeOf(seen);
+  const int M = seen.Count();
+  return seen.scale == "MenuRecip" ? Range{M + 1 - range.last, M + 1 - range.first} : range;
+}
+
 double DfOf(const Seen& seen) {
   return seen.DetecOn ? RangeDf(seen.Count(), seen.NInRange) : seen.M - 1;
 }
@@ -141,7 +149,7 @@ void Model::FollowForce(const Scene& scene) {
 void Model::FollowPlot(const Scene& scene) {
   const Seen& after = scene.after;
   const bool ofLine = after.DetecOn && after.scale == "MenuLog";
-  const auto line = LineThrough(series_, RangeOf(after));
+  const auto line = LineThrough(series_, RangeOnScale(after));
   // The line of another range does not outlive it.
   if (force_.contains(Line)) force_.insert(ByRange);
   if (after.NInRange < 2 || !line) return;
