@@ -55,6 +55,7 @@ bool CheckVariability(ExposureSession& s) {
   s.MsgText = complaint;
   s.LOQ = DefaultLOQ(s);
   s.URR = DefaultURR(s);
+  s.LOQStated = s.URRStated = false;
   s.FirstInRange = 1;
   s.LastInRange = s.NInRange = static_cast<std::int16_t>(SampleCount(s));
   return true;

@@ -36,6 +36,7 @@ void SettleRange(Given& g) {
   const auto M = static_cast<std::int16_t>(SeriesCount(g));
   Given series = g;
   series.M = M;
+  if (!g.DetecOn) g.LOQStated = g.URRStated = false;
   if (!g.DetecOn || g.LOQ == 0) g.LOQ = DefaultLOQ(series);
   if (!g.DetecOn || g.URR == 0) g.URR = DefaultURR(series);
   if (!g.DetecOn || g.FirstInRange < 1) g.FirstInRange = 1;

@@ -78,6 +78,8 @@ struct Given {
   std::int16_t FirstInRange = 0;
   std::int16_t LastInRange = 0;
   std::int16_t NInRange = 0;
+  bool LOQStated = false;  // by somebody; otherwise it stands where the series has put it
+  bool URRStated = false;
 
   // Estimates
   Estimates inForce = Estimates::WholeSample;

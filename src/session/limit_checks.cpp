@@ -99,6 +99,7 @@ LimitComplaint ControleOndergrens(Given& g, double t) {
   t = SettleLower(g, t, complaint.MsgText);
   CountAndTell(g, complaint);
   g.LOQ = t;
+  g.LOQStated = t != DefaultLOQ(g);
   return complaint;
 }
 
@@ -109,16 +110,22 @@ LimitComplaint ControleBovengrens(Given& g, double t) {
   t = SettleUpper(g, t, complaint.MsgText);
   CountAndTell(g, complaint);
   g.URR = t;
+  g.URRStated = t != DefaultURR(g);
   return complaint;
 }
 
-LimitComplaint RecheckRange(Given& g, bool loqStated, bool urrStated) {
+// A stated limit that nothing is wrong with stays stated, also where it meets the default.
+LimitComplaint RecheckRange(Given& g) {
+  const bool loqStated = g.LOQStated;
+  const bool urrStated = g.URRStated;
   g.FirstInRange = 1;
   g.LastInRange = static_cast<std::int16_t>(SampleCount(g));
   if (!loqStated) g.LOQ = DefaultLOQ(g);
   if (!urrStated) g.URR = DefaultURR(g);
   const LimitComplaint lower = ControleOndergrens(g, g.LOQ);
   const LimitComplaint upper = ControleBovengrens(g, g.URR);
+  g.LOQStated = g.LOQStated || (loqStated && lower.MsgText.empty());
+  g.URRStated = g.URRStated || (urrStated && upper.MsgText.empty());
   return lower.MsgText.empty() ? upper : lower;
 }
 

@@ -26,11 +26,11 @@ double DefaultURR(const Given& given);
 double NearestOutcome(const Given& given, int i);
 
 // Takes `t` as the limit of quantification, in the unit of the series. Sets FirstInRange; with
-// DetecOn also NInRange and LOQ, which is `t` or the value that takes its place when `t` lies
-// beyond the outcomes or would leave fewer than three of them. An outcome equal to the limit falls
-// below the range. Domain: every t. With DetecOn a series that lacks outcomes 1 to M is a subscript
-// fault; an index that a rule forms outside 1 to M means the nearer end; with M below 3 the rule of
-// three is silent.
+// DetecOn also NInRange, LOQStated (it is not the default) and LOQ, which is `t` or the value that
+// takes its place when `t` lies beyond the outcomes or would leave fewer than three of them. An
+// outcome equal to the limit falls below the range. Domain: every t. With DetecOn a series that
+// lacks outcomes 1 to M is a subscript fault; an index that a rule forms outside 1 to M means the
+// nearer end; with M below 3 the rule of three is silent.
 LimitComplaint ControleOndergrens(Given& given, double t);
 
 // The same, with the same domain, for the upper end of the range: LastInRange and URR. An outcome
@@ -38,8 +38,8 @@ LimitComplaint ControleOndergrens(Given& given, double t);
 LimitComplaint ControleBovengrens(Given& given, double t);
 
 // Both limits anew, after the series has changed under them. A limit that nobody stated follows the
-// series: `loqStated`, `urrStated` tell whether somebody did.
-LimitComplaint RecheckRange(Given& given, bool loqStated, bool urrStated);
+// series.
+LimitComplaint RecheckRange(Given& given);
 
 // Counts the outcomes within FirstInRange to LastInRange into NInRange. With fewer than two, the
 // text says so, and the end that lies outside the series goes back to its default; NInRange keeps

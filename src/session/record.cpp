@@ -8,14 +8,6 @@
 
 namespace {
 
-// Whether somebody stated the limit, or it stands where the series has put it.
-bool LOQStated(const Given& g) {
-  return g.FirstInRange > 1 || (CompleteSeries(g) && g.LOQ != DefaultLOQ(g));
-}
-bool URRStated(const Given& g) {
-  return g.LastInRange < SeriesCount(g) || (CompleteSeries(g) && g.URR != DefaultURR(g));
-}
-
 // Whether `next`, once it is sorted, holds the same outcomes 1 to M.
 bool SameSeries(const Given& before, const Given& next) {
   const int M = SeriesCount(before);
@@ -31,11 +23,11 @@ bool SameRange(const Given& a, const Given& b) {
 }
 
 // The range and the line that were laid over a series do not outlive it.
-LimitComplaint FollowSeries(const Given& before, Given& next) {
+LimitComplaint FollowSeries(Given& next) {
   next.regression.reset();
   Given sorted = ConsequencesOf(next).given;
   if (!next.DetecOn || next.original || !CompleteSeries(sorted)) return {};
-  const LimitComplaint complaint = RecheckRange(sorted, LOQStated(before), URRStated(before));
+  const LimitComplaint complaint = RecheckRange(sorted);
   next = std::move(sorted);
   return complaint;
 }
@@ -73,7 +65,7 @@ LimitComplaint Record::Change(const std::function<void(Given&)>& change) {
   // A line is that of its range.
   if (!SameRange(before, next) && next.regression == before.regression) next.regression.reset();
   const bool both = before.Mode == DataMode::Raw && next.Mode == DataMode::Raw;
-  if (both && !SameSeries(before, next)) complaint = FollowSeries(before, next);
+  if (both && !SameSeries(before, next)) complaint = FollowSeries(next);
   Consequences all = ConsequencesOf(std::move(next));
   Take(std::move(all.given), std::move(all.derived));
   return complaint;

@@ -143,6 +143,35 @@ TEST_F(TheRecord, ALimitThatNobodyStatedFollowsTheSeries) {
   EXPECT_EQ(s.FirstInRange, 4);
 }
 
+TEST_F(TheRecord, AStatedLimitOutlivesARowThatIsNotFilled) {
+  Series({1, 2, 3, 4, 5, 6, 7, 8, 9});
+  RangeOn(0.97);
+  record.Change([](Given& given) { given.C[5] = 0; });
+  record.Change([](Given& given) { given.C[5] = 5; });
+  EXPECT_EQ(s.LOQ, 0.97) << "below the lowest outcome, and not the default";
+  EXPECT_DOUBLE_EQ(s.URR, 9.45);
+  record.Change([](Given& given) { given.C[9] = 10; });
+  EXPECT_DOUBLE_EQ(s.URR, 10.5) << "nobody stated it";
+}
+
+TEST_F(TheRecord, AStatedLimitThatMeetsTheDefaultStaysStated) {
+  Series({1, 2, 3, 4});
+  RangeOn(0.95 * 1.02);
+  record.Change([](Given& given) { given.C[1] = 1.02; });
+  EXPECT_EQ(s.LOQ, 0.95 * 1.02);
+  record.Change([](Given& given) { given.C[1] = 1; });
+  EXPECT_EQ(s.LOQ, 0.95 * 1.02);
+}
+
+TEST_F(TheRecord, ARangeThatIsPutAsideTakesItsLimitsAlong) {
+  Series({1, 2, 3, 4, 5});
+  RangeOn(1.5);
+  record.Change([](Given& given) { given.DetecOn = false; });
+  record.Change([](Given& given) { given.DetecOn = true; });
+  record.Change([](Given& given) { given.C[1] = 2; });
+  EXPECT_DOUBLE_EQ(s.LOQ, 0.95 * 2);
+}
+
 TEST_F(TheRecord, ALineIsNotThatOfAnotherRangeOrSeries) {
   Series({1, 2, 3, 4, 5, 6, 7, 8, 9});
   RangeOn(3.5);
