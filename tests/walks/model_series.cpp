@@ -17,7 +17,8 @@ std::size_t At(int i) { return static_cast<std::size_t>(i); }
 // An outcome that a cell takes; 0 and below stand for a row that is not filled.
 bool Accepted(double value) { return value <= 0 || (value >= 1E-10 && value <= 1E+10); }
 
-bool Empty(const Seen& seen) { return seen.M == 0 && seen.Name.empty(); }
+// A name and a size that were refused leave the outcomes that they are to stand for.
+bool Empty(const Seen& seen) { return seen.M == 0 && seen.Name.empty() && seen.C.size() <= 1; }
 
 // The option of the other kind of data is chosen by the focus, too.
 bool OtherKind(const Scene& scene) {
