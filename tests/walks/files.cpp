@@ -39,6 +39,7 @@ std::vector<double> Sorted(std::vector<double> values) {
 
 std::vector<double> Ladder(double first, double step, int count) {
   std::vector<double> values;
+  values.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) values.push_back(first + i * step);
   return values;
 }
@@ -50,6 +51,7 @@ std::vector<double> Joined(std::vector<double> a, const std::vector<double>& b) 
 
 std::vector<double> Geometric(double first, double factor, int count) {
   std::vector<double> values;
+  values.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) values.push_back(first * std::pow(factor, i));
   return values;
 }
