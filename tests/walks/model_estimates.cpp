@@ -131,17 +131,16 @@ void Model::FollowForce(const Scene& scene) {
   std::string text;
   if (force_.empty() || force_.contains(Typed)) force_ = {Whole, ByRange};
   if (after.form == "PlotForm") return FollowPlot(scene);
+  const bool edited = onRaw && (edited_ || scene.Clicked("DetecChB") ||
+                                scene.Typed("DetecLTxb", text) || scene.Typed("DetecUTxb", text));
+  const bool resized =
+      scene.On("BasisForm") && after.M != scene.before.M && !scene.before.ModifyMode;
   if (scene.Arrived("DataCtrlForm") && !scene.On("VerdelingForm")) {
     force_ = {Whole};
-  } else if (onRaw && edited_) {
-    force_ = {ByRange};
-  } else if (onRaw && (scene.Clicked("DetecChB") || scene.Typed("DetecLTxb", text) ||
-                       scene.Typed("DetecUTxb", text))) {
+  } else if (edited || resized) {
     force_ = {ByRange};
   } else if (onRaw && DetectionField(scene.before.focus)) {
     force_.insert(ByRange);
-  } else if (scene.On("BasisForm") && after.M != scene.before.M && !scene.before.ModifyMode) {
-    force_ = {ByRange};
   }
 }
 

@@ -50,8 +50,8 @@ void Report::TellOne(const Outcome& outcome) {
 
 // Either road is shrunk to what still leads to its side of the difference.
 void Report::TellTwoRoads(const Outcome& outcome, const Roads& roads) {
-  const Roads::Sight sight = roads.Difference();
-  const Roads::Shown other = roads.Other();
+  const Roads::Sight& sight = roads.Difference();
+  const Roads::Shown& other = roads.Other();
   std::vector<Step> road = outcome.steps;
   out_ << "One road:\n";
   TellScript(ShrunkRoad(road, sight, sight.text));

@@ -95,7 +95,8 @@ std::vector<Roads::Sight> Roads::SightsOf(const View& view) {
 
 void Roads::Compare(const View& view, const Spot& spot) {
   for (const Sight& sight : SightsOf(view)) {
-    const auto [known, fresh] = known_.try_emplace(sight.key + sight.control, sight.text, spot);
+    const auto [known, fresh] =
+        known_.try_emplace(sight.key + sight.control, Shown{sight.text, spot});
     if (fresh || Same(view.Now().form, known->second.text, sight.text)) continue;
     other_ = known->second;
     difference_ = sight;

@@ -120,12 +120,10 @@ DetectionLimits WithLower(const Outcomes& outcomes, DetectionLimits present, dou
 DetectionLimits WithUpper(const Outcomes& outcomes, DetectionLimits present, double t) {
   const double standard = kAboveHighest * outcomes.back();
   present.range.last = Size(outcomes);
-  if (1.0001 * outcomes.front() >= t) {
+  if (1.0001 * outcomes.front() >= t || 1.0001 * standard < t) {
     present.URR = standard;
   } else if (Size(outcomes) >= 3 && t < At(outcomes, present.range.first + 2)) {
     present.URR = At(outcomes, present.range.first + 3);
-  } else if (1.0001 * standard < t) {
-    present.URR = standard;
   } else {
     present.URR = t;
     present.range.last = Counted(outcomes, present.LOQ, t).last;
