@@ -13,6 +13,8 @@ bool SameSeries(const Given& before, const Given& next) {
   const int M = SeriesCount(before);
   if (M != SeriesCount(next)) return false;
   if (before.C == next.C) return true;
+  // A refused file tells its size and brings no outcomes.
+  if (before.refusedFile || next.refusedFile) return false;
   const std::vector<double> C = ConsequencesOf(next).given.C;
   return std::equal(before.C.begin() + 1, before.C.begin() + 1 + M, C.begin() + 1);
 }

@@ -329,4 +329,21 @@ TEST_F(TheRecord, AFileThatWasRefusedIsNoSeries) {
   EXPECT_FALSE(s.IdentOk);
 }
 
+// The refused one has a size and no outcomes to compare with; the address checks see a read of
+// them.
+TEST_F(TheRecord, ASeriesOfTheSizeOfARefusedFileIsAnotherSeries) {
+  record.Change([](Given& given) {
+    given.Mode = DataMode::Raw;
+    given.Name = "refused.vkr";
+    given.M = 4;
+    given.refusedFile = true;
+  });
+  record.Change([](Given& given) {
+    given = Given{};
+    GiveSeries(given, {8, 1, 4, 2});
+  });
+  EXPECT_EQ(s.C, (std::vector<double>{3, 1, 2, 4, 8}));
+  EXPECT_TRUE(s.IdentOk && s.DescOk);
+}
+
 }  // namespace
