@@ -109,7 +109,8 @@ class Model {
   bool known_ = false;
   bool closed_ = false;
   std::string why_;
-  bool edited_ = false;  // the step has changed the series on the raw data screen
+  bool edited_ = false;         // the step has changed the series on the raw data screen
+  bool otherOutcomes_ = false;  // and they are not the same ones in another order
 };
 
 }  // namespace walks

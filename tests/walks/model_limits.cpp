@@ -122,7 +122,7 @@ void Model::AdvanceRange(const Scene& scene) {
   const Seen& before = scene.before;
   // Trying another M leaves the series and its range as they are.
   const double M = before.ModifyMode ? MBeforeModify_ : before.M;
-  const bool sameSeries = after.M == M && !edited_;
+  const bool sameSeries = after.M == M && !(edited_ && otherOutcomes_);
   const bool carried = after.DetecOn && before.DetecOn && sameSeries;
   const bool first = held.first == counted.first ||
                      (carried && after.LOQ == before.LOQ && held.first == before.FirstInRange);

@@ -88,8 +88,9 @@ void Model::SetCell(int row, const std::string& text, int count) {
   const double value = TypedNumber(text);
   if (!Accepted(value)) return;
   outcomes_.resize(At(count));
+  // A cell that is left with the value that it had is not edited.
+  edited_ = outcomes_[At(row - 1)] != value;
   outcomes_[At(row - 1)] = value;
-  edited_ = true;
 }
 
 // The empty line behind the last row takes no empty text.
@@ -165,12 +166,15 @@ void Model::CheckSeries(const Scene& scene) {
 }
 
 void Model::TakeSeries(const Seen& after) {
+  otherOutcomes_ = false;
+  const Outcomes before = series_;
   if (after.ModifyMode && after.Mode == "R") return;
   const auto count = std::min(outcomes_.size(), At(after.Count()));
   series_.assign(outcomes_.begin(), outcomes_.begin() + static_cast<std::ptrdiff_t>(count));
   complete_ = after.Mode == "R" && count >= 2 &&
               std::ranges::all_of(series_, [](double c) { return c > 0; });
   if (complete_) std::sort(series_.begin(), series_.end());
+  otherOutcomes_ = series_ != before;
 }
 
 }  // namespace walks

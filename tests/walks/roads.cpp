@@ -56,7 +56,8 @@ std::string KeyOf(const View& view) {
   in << now.form << now.Mode << now.M << (now.ModifyMode ? "modified" : "") << now.SigDigits;
   if (now.Mode == "R" && !now.ModifyMode) in << SeriesKey(view.model);
   if (now.Mode == "D" || now.ModifyMode) in << now.GM << now.GSD;
-  if (now.DetecOn) in << now.LOQ << now.URR << now.FirstInRange << now.LastInRange;
+  // A refused range tells the count that it was refused for.
+  if (now.DetecOn) in << now.LOQ << now.URR << now.FirstInRange << now.LastInRange << now.NInRange;
   for (const Whose whose : view.model.Force()) in << NameOf(whose);
   in << (now.OELV ? Word(*now.OELV) : "none") << now.U << now.D << now.Unit << now.RefPeriod
      << now.Duration << now.TestTag;

@@ -134,7 +134,8 @@ DetectionLimits WithUpper(const Outcomes& outcomes, DetectionLimits present, dou
 double SpreadTolerance(const Outcomes& outcomes) {
   double squares = 0;
   for (const double c : outcomes) squares += std::log(c) * std::log(c);
-  return 1E-10 + 1E-14 * squares / SquaresAboutMean(outcomes);
+  const double sums = 1E-14 + 2E-16 * static_cast<double>(outcomes.size());
+  return 1E-10 + sums * squares / SquaresAboutMean(outcomes);
 }
 
 }  // namespace walks
