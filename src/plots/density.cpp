@@ -81,7 +81,7 @@ double DensityScale::Density(double x) const {
   return Divide(Divide(Exp(-Checked(z * z) / 2), s_ * x), Sqrt(kTwoPi));
 }
 
-double DensityScale::X(double x) const { return Checked(kMargin + width_ * x / xEnd_); }
+double DensityScale::X(double x) const { return Checked(kMargin + width_ * (x / xEnd_)); }
 
 double DensityScale::Y(double f) const { return Checked(kMargin + height_ * (1 - f / peak_)); }
 

@@ -149,6 +149,16 @@ TEST(Density, ANarrowDensityOnALongAxisIsDrawnWithFewPoints) {
   EXPECT_LT(highest, 70) << "the peak lies between two points";
 }
 
+TEST(Density, AnAxisThatEndsNearTheLargestNumberIsDrawnOnAWindowOfAnySize) {
+  DensityData data = Population(3);
+  data.xEnd = 1E304;
+  for (const double width : {kWidth, 120000.0}) {
+    const std::vector<DrawnDot> dots = Curve(data, width, 0.75 * width);
+    ASSERT_FALSE(dots.empty());
+    EXPECT_NEAR(dots.back().at.x, 60 + 0.9 * width, 0.01 * width);
+  }
+}
+
 TEST(Density, ASpreadOfOneIsARunTimeFault) {
   DrawingRecord drawing(kWidth, kHeight);
   EXPECT_THROW(DrawDensity(drawing, Population(1)), RunTimeError);
