@@ -47,6 +47,8 @@ struct ComplianceTest {
   TextId heading;
   TextId complies;
   TextId fails;
+  Own estimate;             // what {0}, its percentage, is
+  Own manner;               // what it allows for: {0} degrees of freedom, {1} D
   std::string_view window;  // number of the window that explains it
   bool offersSampleSize;
   bool needsMajority;  // a coverage up to 50 percent is told

@@ -10,6 +10,7 @@ PercExForm::PercExForm(Record& sessionRecord, navigation::Desk& programDesk,
     : SessionForm("PercExForm", navigation::ScreenId::PercEx, "TabPercEx", sessionRecord,
                   programDesk, formPorts) {
   AddTestButtons();
+  AddVerdictRows();
   SampSizeCkb.Click = [this] { SampSizeCkb_Click(); };
   for (screen::Control* box :
        {&PercExTxB0, &PercExTxB1, &PercExTxB2, &DegrMinTxb, &PercExTxB3, &SampMinTxB})
@@ -51,6 +52,7 @@ void PercExForm::BasisStatus() {
   DimLbl4.text.clear();
   CommentLbl.Hide();
   ShowHeader();
+  ShowVerdicts();
   ShowIntroduction();
   TestLayout();
   RebuildStrip();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "compliance/compliance_tests.h"
@@ -8,6 +9,9 @@
 #include "navigation/session_form.h"
 
 namespace compliance {
+
+// Colour and sign of a verdict's words; neither without a verdict.
+void ColourVerdict(screen::Control& label, std::optional<bool> compliance);
 
 // The compliance screen: the tests of the population's upper percentile against the limit value.
 struct PercExForm final : navigation::SessionForm {
@@ -32,6 +36,14 @@ struct PercExForm final : navigation::SessionForm {
 
   // Takes the buttons of the tests in.
   screen::Control TestsFrm{*this, screen::Kind::Frame, "TestsFrm"};
+
+  // What all tests say, whichever is pressed; takes a row of labels for each of them in.
+  screen::Control VerdictsFrm{*this, screen::Kind::Frame, "VerdictsFrm"};
+  screen::Control VerdictTestLbl{*this, screen::Kind::Label, "VerdictTestLbl"};
+  screen::Control VerdictPercLbl{*this, screen::Kind::Label, "VerdictPercLbl"};
+  screen::Control VerdictUTLLbl{*this, screen::Kind::Label, "VerdictUTLLbl"};
+  screen::Control VerdictLbl{*this, screen::Kind::Label, "VerdictLbl"};
+  screen::Control VerdictsLbl{*this, screen::Kind::Label, "VerdictsLbl"};
 
   screen::Control IntroFrm{*this, screen::Kind::Frame, "IntroFrm"};
   screen::Control IntroLbl{*this, screen::Kind::Label, "IntroLbl"};
@@ -74,7 +86,17 @@ struct PercExForm final : navigation::SessionForm {
   void SampSizeCkb_Click();
 
  private:
+  struct VerdictRow {
+    VerdictRow(Form& form, const std::string& number);
+    screen::Control test;
+    screen::Control estimate;
+    screen::Control limit;
+    screen::Control verdict;
+  };
+
   void AddTestButtons();
+  void AddVerdictRows();
+  void ShowVerdicts();
   void ShowHeader();
   void ShowIntroduction();
   void ShowWording();
@@ -98,6 +120,7 @@ struct PercExForm final : navigation::SessionForm {
   void ShowSampleSize(const SampleSizeBoxes& boxes);
 
   std::deque<screen::Control> testButtons_;  // controls keep their place
+  std::deque<VerdictRow> verdictRows_;
 };
 
 }  // namespace compliance

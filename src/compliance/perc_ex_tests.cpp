@@ -11,6 +11,14 @@ constexpr screen::Colour kRed{192, 0, 0};
 
 }  // namespace
 
+void ColourVerdict(screen::Control& label, std::optional<bool> compliance) {
+  label.colour.reset();
+  label.sign = screen::Sign::None;
+  if (!compliance) return;
+  label.colour = *compliance ? kGreen : kRed;
+  label.sign = *compliance ? screen::Sign::Tick : screen::Sign::Cross;
+}
+
 // A fault may end a test: no earlier result must then stand beside its new captions.
 void PercExForm::BeginTest(const ComplianceTest& test) {
   flow.TestTag = test.tag;
@@ -72,8 +80,7 @@ void PercExForm::ShowNumbers(const TestResult& result) {
 void PercExForm::ShowVerdict(const ComplianceTest& test, const TestResult& result) {
   ComplianceLbl.visible = result.compliance.has_value();
   if (!result.compliance) return;
-  ComplianceLbl.colour = *result.compliance ? kGreen : kRed;
-  ComplianceLbl.sign = *result.compliance ? screen::Sign::Tick : screen::Sign::Cross;
+  ColourVerdict(ComplianceLbl, result.compliance);
   ComplianceLbl.text = TextOf(*result.compliance ? test.complies : test.fails);
 }
 

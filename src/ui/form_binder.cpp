@@ -48,39 +48,12 @@ void FormBinder::Add(Control& control) {
   QAction* action = isMenu ? page_.FindAction(name) : nullptr;
   const bool added = !widget && !action && !control.home.empty();
   if (added && isMenu) action = AddItem(control);
-  if (added && !isMenu) widget = AddButton(control);
+  if (added && !isMenu) widget = AddWidget(control);
   if (!widget && !action)
     throw std::logic_error(form_.name + " lays out no control " + control.name);
   ControlView& view = views_.emplace_back(control, widget, action);
   if (widget) byWidget_[widget] = &view;
   if (!added) view.ReadDesign();
-}
-
-// Behind the buttons that stand there, in front of the space at the end.
-QWidget* FormBinder::AddButton(const Control& control) {
-  constexpr QSize kSmallest(170, 28);
-  QWidget* home = page_.FindWidget(DesignName(control.home));
-  auto* row = home ? qobject_cast<QBoxLayout*>(home->layout()) : nullptr;
-  if (!row) return nullptr;
-  auto* button = new QPushButton(home);
-  button->setObjectName(DesignName(control.name));
-  button->setMinimumSize(kSmallest);
-  page_.sizes->Add(*button);
-  row->insertWidget(row->count() - 1, button);
-  return button;
-}
-
-// In front of the submenus.
-QAction* FormBinder::AddItem(const Control& control) {
-  QMenu* menu = page_.FindMenu(DesignName(control.home));
-  if (!menu) return nullptr;
-  auto* item = new QAction(page_.content);
-  item->setObjectName(DesignName(control.name));
-  const QList<QAction*> items = menu->actions();
-  const auto submenu = std::find_if(items.begin(), items.end(),
-                                    [](const QAction* each) { return each->menu() != nullptr; });
-  menu->insertAction(submenu == items.end() ? nullptr : *submenu, item);
-  return item;
 }
 
 QWidget* FormBinder::TakeContent() {

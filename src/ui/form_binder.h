@@ -49,7 +49,7 @@ class FormBinder : public QObject {
  private:
   void Add(screen::Control& control);
   // What the layout does not know goes where the control says it stands.
-  QWidget* AddButton(const screen::Control& control);
+  QWidget* AddWidget(const screen::Control& control);
   QAction* AddItem(const screen::Control& control);
   const ControlView* ViewOf(const screen::Control& control) const;
   void Connect(ControlView& view);

@@ -158,6 +158,39 @@ class TestsCheck {
   std::optional<TestExpected> expected_;
 };
 
+// The table shows what each test gives, whichever was pressed.
+void CheckVerdictRow(const View& view, std::size_t row) {
+  const Seen& now = view.Now();
+  const std::string tag = kVerdicts[row].tag;
+  const std::string number = "(" + Word(static_cast<double>(row)) + ")";
+  const auto expected = ExpectedTest(tag, view.Estimates(), view.Given());
+  if (!expected) return;
+  auto shows = [&](const char* cell, const std::optional<double>& value) {
+    const std::string& text = view.page.Text(cell + number);
+    const bool bound = text.find('<') != std::string::npos || text.find('>') != std::string::npos;
+    if (Blank(text) || bound || !value) return;
+    if (!Shows(text.substr(0, text.find(' ')), *value, now.SigDigits))
+      view.Wrong("verdicts",
+                 cell + number + " shows " + drive::Quoted(text) + ", right is " + Word(*value));
+  };
+  shows("VerdictPercLbl", expected->first);
+  shows("VerdictUTLLbl", expected->limit);
+  std::optional<bool> complies = expected->first < 5;
+  if (tag == "Tu")
+    complies =
+        expected->limit && now.df > 4 ? std::optional(*expected->limit < *now.OELV) : std::nullopt;
+  const std::string wanted = complies ? (*complies ? "Compliance" : "Non-compliance") : "";
+  const std::string& words = view.page.Text("VerdictLbl" + number);
+  const bool decided = words == "Compliance" || words == "Non-compliance";
+  if (decided ? words != wanted : complies.has_value() && words.find("Not computed") != 0)
+    view.Wrong("verdicts", "VerdictLbl" + number + " says " + drive::Quoted(words));
+}
+
+void CheckVerdicts(const View& view) {
+  if (!view.page.Visible("VerdictsFrm")) return view.Wrong("verdicts", "the table is not there");
+  for (std::size_t row = 0; row < std::size(kVerdicts); ++row) CheckVerdictRow(view, row);
+}
+
 void CheckBox(const View& view, const char* box, const std::optional<double>& value) {
   const std::string& text = view.page.Text(box);
   const auto shown = NumberIn(text);
@@ -185,6 +218,7 @@ void CheckSampleSize(const View& view) {
 void CheckTests(const View& view) {
   if (!view.model.Known()) return;
   TestsCheck(view).Run();
+  CheckVerdicts(view);
   CheckSampleSize(view);
 }
 
