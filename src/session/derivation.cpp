@@ -65,7 +65,11 @@ void EstimateFromSeries(const Given& g, Derived& d) {
   d.GM = moments.GM;
   d.GSD = moments.GSD.value_or(0);
   d.noEstimates = d.df < 1 || moments.spread != Spread::Fine;
-  if (g.inForce != Estimates::Regression || d.noEstimates) return;
+  // A line through the outcomes in range has its own spread, whatever that of all outcomes is with
+  // the few degrees of freedom that the range leaves.
+  if (g.inForce != Estimates::Regression || d.df < 1) return;
+  d.spread = Spread::Fine;
+  d.noEstimates = false;
   d.GM = g.regression->GM;
   d.GSD = g.regression->GSD;
   d.RegressionOn = true;

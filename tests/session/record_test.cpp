@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "base/fault.h"
@@ -315,6 +316,29 @@ TEST_F(TheRecord, ADerivedValueThatAScriptSetsHoldsUntilWhatItFollowsFromChanges
   record.Change([](Given& given) { given.TypedGSD = 3; });
   EXPECT_EQ(s.GM, 0.3);
   EXPECT_EQ(s.GSD, 3);
+}
+
+// Of 1,000 outcomes with 3 in range all 1,000 squares are divided by 6.
+TEST_F(TheRecord, ALineHoldsWhereTheRangesFewDegreesMakeAllOutcomesSpreadTooWidely) {
+  std::vector<double> outcomes;
+  for (int i = 0; i < 1000; ++i) outcomes.push_back(std::pow(1.01, i - 500));
+  Series(outcomes);
+  record.Change([](Given& given) {
+    given.DetecOn = true;
+    given.FirstInRange = 499;
+    given.LastInRange = 501;
+    given.NInRange = 3;
+    given.inForce = Estimates::RangeDegrees;
+  });
+  EXPECT_EQ(s.spread, Spread::TooLarge);
+  EXPECT_TRUE(s.noEstimates);
+  record.Change([](Given& given) {
+    given.regression = RegressionEstimates{1.1, 2.5};
+    given.inForce = Estimates::Regression;
+  });
+  EXPECT_TRUE(s.RegressionOn && s.DescOk);
+  EXPECT_EQ(s.GSD, 2.5);
+  EXPECT_FALSE(s.noEstimates);
 }
 
 TEST_F(TheRecord, AFileThatWasRefusedIsNoSeries) {
