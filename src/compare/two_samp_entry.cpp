@@ -20,6 +20,9 @@ void TwoSampCompForm::WireReference(Reference& reference, screen::Control& pair)
 
 // One message for one error: who was told leaves in silence. The button may tell it again.
 void TwoSampCompForm::Leave(Reference& reference) {
+  // The focus follows behind a screen that was left or whose data were closed: what stands in the
+  // box is not of the record any more.
+  if (session.CurrentTab != id && !reference.box.touched) return;
   if (ToldBefore(reference))
     refused_ = false;
   else
