@@ -45,20 +45,20 @@ bool Overlap(const Box& a, const Box& b) {
   return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
-// The parts of the line between the sides of the box, across and down, have something in common.
+// What the line spans meets the box, and the box has corners on either side of the line. The
+// drawing finds its places in another way, so that neither can be wrong unseen.
 bool Crosses(const Box& box, const DrawnLine& line) {
-  double from = 0;
-  double to = 1;
-  const auto cut = [&](double start, double end, double low, double high) {
-    if (start == end) return start > low && start < high;
-    const double a = (low - start) / (end - start);
-    const double b = (high - start) / (end - start);
-    from = std::max(from, std::min(a, b));
-    to = std::min(to, std::max(a, b));
-    return from < to;
+  const auto [left, right] = std::minmax(line.from.x, line.to.x);
+  const auto [top, bottom] = std::minmax(line.from.y, line.to.y);
+  if (!Overlap(box, {left, top, right, bottom})) return false;
+  const Point along{line.to.x - line.from.x, line.to.y - line.from.y};
+  if (along.x == 0 && along.y == 0) return true;
+  const auto side = [&](double x, double y) {
+    return along.x * (y - line.from.y) - along.y * (x - line.from.x);
   };
-  return cut(line.from.x, line.to.x, box.left, box.right) &&
-         cut(line.from.y, line.to.y, box.top, box.bottom);
+  const auto [least, most] = std::minmax({side(box.left, box.top), side(box.right, box.top),
+                                          side(box.left, box.bottom), side(box.right, box.bottom)});
+  return least < 0 && most > 0;
 }
 
 // The hairlines of grid and ticks, which a text may have behind it.
@@ -195,6 +195,22 @@ class PlotReadable : public testing::TestWithParam<Case> {
       "MenuDubLog", "MenuLog", "MenuSqrt", "MenuUntransf", "MenuSqrd", "MenuExp", "MenuRecip"};
   plot_screen::User p;
 };
+
+// The check itself: a line beside a corner, across it, through the middle, along a side, and a dot.
+TEST(PlotReadableCheck, SeesALineOnAText) {
+  const Box box{100, 100, 300, 200};
+  const auto crosses = [&](Point from, Point to) { return Crosses(box, {from, to, {}, 15}); };
+  EXPECT_FALSE(crosses({50, 140}, {140, 50}));
+  EXPECT_TRUE(crosses({50, 160}, {160, 50}));
+  EXPECT_TRUE(crosses({200, 0}, {200, 400}));
+  EXPECT_TRUE(crosses({0, 150}, {400, 150}));
+  EXPECT_TRUE(crosses({150, 150}, {160, 155}));
+  EXPECT_FALSE(crosses({100, 0}, {100, 400}));
+  EXPECT_FALSE(crosses({0, 250}, {400, 250}));
+  EXPECT_FALSE(crosses({310, 0}, {500, 400}));
+  EXPECT_TRUE(crosses({200, 150}, {200, 150}));
+  EXPECT_FALSE(crosses({301, 150}, {301, 150}));
+}
 
 }  // namespace
 
