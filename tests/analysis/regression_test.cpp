@@ -62,6 +62,31 @@ TEST_F(RegressionLine, WithARangeAndLogarithmsGivesTheRecordItsEstimators) {
             "GMg=" + GlobalBAS::Shown(s, s.GM) + "\rGSDg=" + GlobalBAS::Shown(s, s.GSD));
 }
 
+// A line through scores of that location and spread, on the scale of the logarithms.
+Regression LineOf(double GM, double GSD) {
+  ExposureSession s = fit_data::OpenedPowers(30);
+  FitState state = fit_data::Activated(s, "Log(x)");
+  fit_data::Restrict(s, 6, 30);
+  for (int i = 1; i <= 30; ++i)
+    state.CTransf[static_cast<std::size_t>(i)] =
+        std::log(GM) + std::log(GSD) * analysis::Score(state.RankitTable, 30, i);
+  return analysis::FitLine(s, state);
+}
+
+TEST_F(RegressionLine, GivesNoEstimatorsBeyondWhatCanBeCalculatedWith) {
+  constexpr double kNear = 1E-6;
+  for (const auto& [GM, GSD] : {std::pair(1E-10, 2.0), {1E+10, 2.0}, {1.0, 1.001}, {1.0, 1000.0}}) {
+    const double within = GM < 1 || GSD < 2 ? 1 + kNear : 1 - kNear;
+    const double ofGM = GM == 1 ? 1 : within;
+    const double ofGSD = GM == 1 ? within : 1;
+    EXPECT_TRUE(LineOf(GM * ofGM, GSD * ofGSD).estimators) << GM << " and " << GSD;
+    const Regression beyond = LineOf(GM / ofGM, GSD / ofGSD);
+    EXPECT_FALSE(beyond.estimators) << GM << " and " << GSD;
+    EXPECT_TRUE(beyond.beyondNumbers) << GM << " and " << GSD;
+    EXPECT_TRUE(beyond.line && beyond.estimates) << "drawn and listed all the same";
+  }
+}
+
 void ExpectSampleEstimators(const ExposureSession& s) {
   ExposureSession fresh = s;
   LogMoments(fresh, fresh.GM, fresh.GSD);

@@ -42,6 +42,14 @@ TEST_F(PlotScreen, OpensOnTheLogarithmicScaleWithTheLineThroughAllOutcomes) {
   EXPECT_TRUE(p.box.shown.empty());
 }
 
+TEST_F(PlotScreen, ANameThatIsTooLongForTheHeadlineStandsInTheTip) {
+  p.See(kTen);
+  EXPECT_EQ(p.Plot().PicPlot.tip, "");
+  s.Name = std::string(150, 'W');
+  p.Click("MenuRedraw");
+  EXPECT_EQ(p.Plot().PicPlot.tip, s.Name);
+}
+
 TEST_F(PlotScreen, LaysTheSeriesOutAfreshEachTimeItOpens) {
   p.See(kTen);
   p.Click("MenuSqrt");
