@@ -1,6 +1,7 @@
 // The words and the whole of the EN 689 test; its searches stand in en689.cpp.
 #include "compliance/en689.h"
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "session/global_bas.h"
 
 namespace compliance {
@@ -34,7 +35,7 @@ std::string PictureWords(const ExposureSession& s, double UTL) {
 }
 
 std::string PictureNote(const ExposureSession& s) {
-  return "confidence that less than " + GlobalBAS::ShownTrimmed(s, 100 - s.U) + "% exceeds H";
+  return OwnText(Own::En689PictureNote, {GlobalBAS::ShownTrimmed(s, 100 - s.U)});
 }
 
 // The screen as the searches find it.
@@ -54,13 +55,11 @@ std::optional<double> JudgedLimit(const En689Result& found, const TestRun& how) 
 }
 
 std::string Reason(const TestBasis& basis, const En689Result& found, const TestRun& how) {
-  constexpr char kFewResults[] = "Fewer than six results (df up to 4) give no EN 689 decision.";
   const bool decides = En689Decides(basis.df);
-  if (found.limit) return decides ? "" : kFewResults;
-  std::string reason = "Without a U above 50 % there is no confidence and no tolerance limit";
-  if (!decides) return reason + ". " + kFewResults;
-  return reason + (how.standingUTL ? "; the verdict is on the limit of the test before. "
-                                   : ": nothing is decided.");
+  const std::string few = OwnText(Own::En689FewResults);
+  if (found.limit) return decides ? "" : few;
+  if (!decides) return OwnText(Own::En689NoConfidence, {few});
+  return OwnText(how.standingUTL ? Own::En689OlderLimit : Own::En689NothingDecided);
 }
 
 }  // namespace
