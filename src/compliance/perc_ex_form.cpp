@@ -1,6 +1,5 @@
 #include "compliance/perc_ex_form.h"
 
-#include "base/fault.h"
 #include "catalog/catalog.h"
 
 namespace compliance {
@@ -85,7 +84,7 @@ void PercExForm::ShowIntroduction() {
                       cr + text(2350) + cr + text(2352) + cr + cr + text(2354) +
                       ShownTrimmed(session.M) + text(2355);
   if (session.OELV.value_or(0) > 0 && !session.noEstimates) {
-    const double distance = Divide(Log(*session.OELV) - Log(session.GM), Log(session.GSD));
+    const double distance = StandardisedDistance(BasisOf(session));
     intro += text(2357) + " = " + ShownTrimmed(distance) + " " + text(2358);
   }
   IntroLbl.text = intro;

@@ -56,9 +56,10 @@ void Raise(int& most, int now) {
 
 Complaints PlayLeidel(ExposureSession s) {
   Check check;
-  check.Percent("Leidel's exceedance", compliance::LeidelExceedance(StandardisedDistance(s)));
-  const double deviate = compliance::LeidelDeviate(s.U);
-  check.Positive("Leidel's UTL", compliance::LeidelToleranceLimit(s.GM, s.GSD, deviate));
+  const TestResult result = compliance::LeidelTest(BasisOf(s));
+  check.Percent("Leidel's exceedance", result.PercEx.value.value_or(-1));
+  check.Positive("Leidel's UTL", result.UTL.value.value_or(0));
+  check.That("Leidel's test without its verdict", result.compliance.has_value());
   return check.Told();
 }
 
