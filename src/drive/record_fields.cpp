@@ -11,6 +11,8 @@
 #include "drive/failure.h"
 #include "drive/letters.h"
 #include "drive/text.h"
+#include "session/derivation.h"
+#include "session/limit_checks.h"
 #include "session/workflow.h"
 
 namespace drive {
@@ -214,6 +216,13 @@ bool Holds(const std::vector<std::array<std::string, 4>>& rows, const std::strin
   return ValueText(rows) == rest;
 }
 
+// A limit of the range that is not the default is somebody's, as when it is typed.
+void NoteStated(ExposureSession& s, std::string_view field) {
+  const bool series = CompleteSeries(s);
+  if (field == "LOQ") s.LOQStated = !series || s.LOQ != DefaultLOQ(s);
+  if (field == "URR") s.URRStated = !series || s.URR != DefaultURR(s);
+}
+
 }  // namespace
 
 std::string FieldText(const ExposureSession& s, const std::string& field) {
@@ -222,6 +231,7 @@ std::string FieldText(const ExposureSession& s, const std::string& field) {
 
 void SetField(ExposureSession& s, const std::string& field, const std::string& rest) {
   std::visit([&](auto member) { Set(s.*member, rest); }, MemberOf(field));
+  NoteStated(s, field);
 }
 
 void ExpectField(const ExposureSession& s, const std::string& field, const std::string& rest) {
