@@ -96,9 +96,17 @@ int MarkRow::Rows() const {
 
 double MarkRow::Room() const { return surface_.ScaleWidth() - 2 * kEdge + kGap; }
 
+double MarkRow::Below() const { return surface_.ScaleHeight() - foot_; }
+
 bool MarkRow::Fits() const {
-  const double height = surface_.ScaleHeight() - foot_ - leader_;
-  return Rows() * RowHeight(style_) <= height && TotalWidth() <= Room();
+  return Rows() * RowHeight(style_) <= Below() - leader_ && TotalWidth() <= Room();
+}
+
+// As near to the axis as the lines need it.
+void MarkRow::MoveUp() {
+  const double least = kTickEnd + kShortestLeader;
+  const double free = Below() - Rows() * RowHeight(style_);
+  leader_ = std::clamp(free, least, std::max(leader_, least));
 }
 
 bool MarkRow::FitBySize() {
@@ -117,18 +125,17 @@ void MarkRow::Wrap() {
       for (Text& each : entry.texts) each.text = Wrapped(each.text, width, style_);
 }
 
-// In smaller letters, with shorter numbers, on more lines, nearer to the axis; on a surface that is
+// Nearer to the axis, in smaller letters, with shorter numbers, on more lines; on a surface that is
 // too small for that, in letters as small as it takes.
 void MarkRow::Fit() {
+  MoveUp();
   if (FitBySize()) return;
   for (Entry& entry : entries_)
     for (Text& each : entry.texts) each.text = RoundedNumbers(each.text);
   if (TotalWidth() > Room()) Wrap();
-  const double least = kTickEnd + kShortestLeader;
-  const double below = surface_.ScaleHeight() - foot_;
-  leader_ = std::clamp(below - Rows() * RowHeight(style_), least, std::max(leader_, least));
+  MoveUp();
   style_.size =
-      std::min(style_.size, style_.size * (below - leader_) / (Rows() * RowHeight(style_)));
+      std::min(style_.size, style_.size * (Below() - leader_) / (Rows() * RowHeight(style_)));
 }
 
 void MarkRow::Write(const Entry& entry, double centre) {

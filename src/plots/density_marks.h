@@ -27,11 +27,13 @@ class MarkRow {
   };
   void Fit();
   bool FitBySize();
+  void MoveUp();
   void Wrap();
   double Width(const Entry& entry) const;
   double TotalWidth() const;
   int Rows() const;
   double Room() const;
+  double Below() const;
   bool Fits() const;
   void Write(const Entry& entry, double centre);
 
