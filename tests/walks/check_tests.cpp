@@ -145,6 +145,8 @@ class TestsCheck {
     const auto colour = label.control->colour;
     const bool green = colour && colour->green > colour->red;
     if (green != *complies) view_.Wrong("verdict", "its colour is the other one's");
+    const auto sign = *complies ? screen::Sign::Tick : screen::Sign::Cross;
+    if (label.control->sign != sign) view_.Wrong("verdict", "its sign is the other one's");
   }
 
   void Remember() const {

@@ -109,6 +109,7 @@ void Folder::AddOwn() {
   AddMade("gap.vkr", Joined(Ladder(0.1, 0.001, 50), Ladder(50, 0.5, 50)));
   AddMade("above_one.vkr", {1.0001, 1.2, 2, 3, 5, 9, 40});
   AddMade("ties.vkr", {0.2, 0.2, 0.2, 0.5, 0.5, 1.1, 1.1, 1.1, 3.4, 3.4});
+  AddMade("plateau.vkr", {0.4, 2, 2, 2, 2, 2, 2, 2, 9});
   AddMade("decision.vkr", {0.21, 0.35, 0.5, 0.62, 0.8, 1.1, 1.3, 1.9, 2.5, 3.1});
   AddMade("wide.vkr", Geometric(0.001, 9.7, 8));
   AddMade("narrow.vkr", Ladder(10, 0.01, 12));

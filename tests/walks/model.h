@@ -76,6 +76,7 @@ class Model {
   double ExpectedSize(const Scene& scene) const;
   void CheckSeries(const Scene& scene);
   void TakeSeries(const Seen& after);
+  void CheckDigits(const Scene& scene);
 
   // model_estimates.cpp
   void AdvanceEstimates(const Scene& scene);

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "drive/text.h"
+#include "session/global_bas.h"
 #include "tests/walks/model.h"
 #include "tests/walks/numbers.h"
 
@@ -52,6 +53,7 @@ void Model::AdvanceSeries(const Scene& scene) {
   }
   CheckSeries(scene);
   TakeSeries(scene.after);
+  CheckDigits(scene);
 }
 
 // A refused file leaves a loaded series as it is, and else a size without outcomes.
@@ -163,6 +165,19 @@ void Model::CheckSeries(const Scene& scene) {
   std::sort(wanted.begin(), wanted.end());
   std::sort(held.begin(), held.end());
   if (wanted != held) scene.findings.Add("series", "the outcomes are not those that were given");
+}
+
+// Every number is shown as wide as the longest outcome of the sample; what was tried in its place
+// goes with it.
+void Model::CheckDigits(const Scene& scene) {
+  const Seen& after = scene.after;
+  if (!complete_ || after.Mode != "R" || after.ModifyMode) return;
+  std::size_t width = 0;
+  for (const double c : series_) width = std::max(width, GlobalBAS::GeneralText(c).size());
+  if (after.SigDigits != static_cast<int>(width))
+    scene.findings.Add("digits", "numbers are " + Word(after.SigDigits) +
+                                     " wide, the longest outcome is " +
+                                     Word(static_cast<double>(width)));
 }
 
 void Model::TakeSeries(const Seen& after) {
