@@ -67,6 +67,7 @@ Regression LineOf(double GM, double GSD) {
   ExposureSession s = fit_data::OpenedPowers(30);
   FitState state = fit_data::Activated(s, "Log(x)");
   fit_data::Restrict(s, 6, 30);
+  state.CTransf.assign(31, 0.0);
   for (int i = 1; i <= 30; ++i)
     state.CTransf[static_cast<std::size_t>(i)] =
         std::log(GM) + std::log(GSD) * analysis::Score(state.RankitTable, 30, i);

@@ -4,6 +4,7 @@
 
 #include "compliance/compliance_tests.h"
 #include "tests/compliance/compliance_screen.h"
+#include "tests/stats/table_check.h"
 
 // The table of the verdicts of all tests.
 namespace {
@@ -26,7 +27,9 @@ Verdicts Of(double M, double GM, double GSD, double OELV, double U = 95) {
   return VerdictsOf(s);
 }
 
-TEST(Verdicts, StandForEveryTestInTheOrderOfTheButtons) {
+class VerdictsOfAllTests : public table::Delivered {};
+
+TEST_F(VerdictsOfAllTests, StandForEveryTestInTheOrderOfTheButtons) {
   const Verdicts verdicts = Of(10, 0.3, 2, 1);
   ASSERT_EQ(verdicts.rows.size(), compliance::ComplianceTests().size());
   EXPECT_EQ(verdicts.rows[0].test, "IHStat/Leidel (1977)");
@@ -34,7 +37,7 @@ TEST(Verdicts, StandForEveryTestInTheOrderOfTheButtons) {
   EXPECT_EQ(verdicts.rows[2].test, "EN 689(2018)");
 }
 
-TEST(Verdicts, DifferWhereOneTestAllowsForLessThanTheOthers) {
+TEST_F(VerdictsOfAllTests, DifferWhereOneTestAllowsForLessThanTheOthers) {
   const Verdicts verdicts = Of(6, 0.3, 2, 1.1);
   EXPECT_EQ(verdicts.rows[0].compliance, true);
   EXPECT_EQ(verdicts.rows[0].words, "Compliance");
@@ -47,12 +50,12 @@ TEST(Verdicts, DifferWhereOneTestAllowsForLessThanTheOthers) {
             "leave open (unbiased); EN 689 judges a limit that holds with 70 % confidence.");
 }
 
-TEST(Verdicts, AgreeFarFromTheLimit) {
+TEST_F(VerdictsOfAllTests, AgreeFarFromTheLimit) {
   EXPECT_EQ(Of(10, 0.01, 2, 1).why.find("These verdicts agree."), 0U);
   EXPECT_EQ(Of(10, 5, 2, 1).why.find("These verdicts agree."), 0U);
 }
 
-TEST(Verdicts, SayWhyATestDoesNotDecide) {
+TEST_F(VerdictsOfAllTests, SayWhyATestDoesNotDecide) {
   const Verdict few = Of(5, 0.3, 2, 1).rows[2];
   EXPECT_FALSE(few.compliance);
   EXPECT_EQ(few.words, "Fewer than six results (df up to 4) give no EN 689 decision.");
@@ -66,11 +69,11 @@ TEST(Verdicts, SayWhyATestDoesNotDecide) {
             "decided.");
 }
 
-TEST(Verdicts, ShowTheTextOfANumberThatIsNone) {
+TEST_F(VerdictsOfAllTests, ShowTheTextOfANumberThatIsNone) {
   EXPECT_EQ(Of(10, 1E-9, 1.1, 1E+9).rows[0].estimate, "<1E-300 % above OELV");
 }
 
-TEST(Verdicts, ATestThatCannotBeComputedSaysSoAndTheOthersStand) {
+TEST_F(VerdictsOfAllTests, ATestThatCannotBeComputedSaysSoAndTheOthersStand) {
   const Verdicts verdicts = Of(10, 0.3, 1, 1);
   for (const Verdict& row : verdicts.rows) {
     EXPECT_EQ(row.words, "Not computed: division by zero.");
