@@ -66,8 +66,9 @@ void TitleFrame::paintEvent(QPaintEvent* event) {
   for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
     const QRect place(last.left(), last.top() + static_cast<int>(i) * fontMetrics().lineSpacing(),
                       width() - last.left(), last.height());
-    painter.drawItemText(place, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), lines[i],
-                         QPalette::WindowText);
+    // A double & stands for one, as the style has it in the last line.
+    constexpr int kFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic;
+    painter.drawItemText(place, kFlags, palette(), isEnabled(), lines[i], QPalette::WindowText);
   }
   painter.translate(0, above_);
   painter.drawComplexControl(QStyle::CC_GroupBox, option);

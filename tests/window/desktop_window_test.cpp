@@ -14,6 +14,7 @@
 #include "ui/picture_view.h"
 #include "ui/readable_colour.h"
 #include "ui/text.h"
+#include "ui/title_frame.h"
 #include "ui/verdict_label.h"
 #include "ui/window_place.h"
 
@@ -205,6 +206,24 @@ TEST_F(Desktop, TheButtonsOfTheTestsGrowWithTheFontAsOthersDo) {
     EXPECT_EQ(Widget(name).minimumHeight(), Widget("OriModiCmd").minimumHeight()) << name;
   }
   QApplication::setFont(before);
+}
+
+// The first x from the right at which something stands in the top lines of a picture.
+int InkEnd(const QImage& picture, int lines) {
+  for (int x = picture.width() - 1; x > 0; --x)
+    for (int y = 0; y < lines; ++y)
+      if (picture.pixelColor(x, y) != picture.pixelColor(picture.width() - 1, 0)) return x;
+  return 0;
+}
+
+TEST_F(Desktop, ADoubleAmpersandIsOneInATitleOfSeveralLinesToo) {
+  ui::TitleFrame frame;
+  const QFontMetrics font = frame.fontMetrics();
+  frame.resize(font.horizontalAdvance(QStringLiteral("H && H H")), 200);
+  frame.SetTitle(QStringLiteral("H && Hall"));
+  const int end = InkEnd(frame.grab().toImage(), font.height() - 2);
+  EXPECT_GT(end, font.horizontalAdvance(QStringLiteral("H ")));
+  EXPECT_LE(end, font.horizontalAdvance(QStringLiteral("H &")) + 4);
 }
 
 // A drawing is ink on white paper, whatever the desktop.
