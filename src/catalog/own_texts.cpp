@@ -28,6 +28,7 @@ constexpr Row kRows[] = {
     {Own::LimitReset, "The limit value {0} was out of range; {1} now stands."},
     {Own::NoPicture, "These numbers are too far apart to be drawn."},
     {Own::PictureNeedsTest, "The test on show did not compute every number of the picture."},
+    {Own::PictureNeedsEstimates, "There are no GM and GSD to draw yet."},
     {Own::StaleTest, "Statistics or limits have changed since this test: press its button again."},
     {Own::ResultsDiffer,
      "Results can differ because each test judges another estimate: Leidel the best guess of the "

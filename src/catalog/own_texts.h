@@ -17,6 +17,7 @@ enum class Own {
   LimitReset,
   NoPicture,
   PictureNeedsTest,
+  PictureNeedsEstimates,
   StaleTest,
   ResultsDiffer,
   VerdictsTitle,

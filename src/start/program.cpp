@@ -213,7 +213,9 @@ void Program::RunExtrapolation(Extrapolation tag) {
 
 std::string Program::PictureObstacle() const {
   const auto numbers = PlotWBas::NumbersOf(parts_->record);
-  if (!numbers) return OwnText(Own::PictureNeedsTest);
+  const ScreenId from = parts_->session.CurrentTab.value_or(ScreenId::Basis);
+  const bool ofTest = from == ScreenId::PercEx || from == ScreenId::UCL;
+  if (!numbers) return OwnText(ofTest ? Own::PictureNeedsTest : Own::PictureNeedsEstimates);
   return PlotWBas::Drawable(*numbers) ? "" : OwnText(Own::NoPicture);
 }
 

@@ -200,8 +200,7 @@ TEST(FrequencyPicture, NumbersThatCannotBeDrawnCloseItsMenuAndLeaveNoEarlierPict
   user.Tab("basis");
   EXPECT_EQ(user.Shown().name, "BasisForm");
   EXPECT_FALSE(user.At("MenuVerd").enabled);
-  EXPECT_EQ(user.At("MenuVerd").tip,
-            "The test on show did not compute every number of the picture.");
+  EXPECT_EQ(user.At("MenuVerd").tip, "There are no GM and GSD to draw yet.");
   EXPECT_TRUE(user.box.shown.empty());
 }
 
