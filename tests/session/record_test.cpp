@@ -266,6 +266,20 @@ TEST_F(TheRecord, AResultIsThatOfTheTestOnShow) {
   EXPECT_EQ(record.StandingUTL(), 0.9) << "whichever test found it";
 }
 
+TEST_F(TheRecord, AMeansResultIsThatOfItsMethodSampleAndLimits) {
+  Known(0.3, 2);
+  record.Flow().TestTag = Extrapolation::Jahr;
+  record.Keep(MeanResult{Extrapolation::Jahr, -0.5, 3});
+  ASSERT_NE(record.Mean(), nullptr);
+  record.Flow().TestTag = Extrapolation::Land;
+  EXPECT_EQ(record.Mean(), nullptr) << "a number of one method under the other's name";
+  record.Flow().TestTag = Extrapolation::Jahr;
+  EXPECT_NE(record.Mean(), nullptr);
+  record.Change([](Given& given) { given.D = 95; });
+  EXPECT_EQ(record.Mean(), nullptr);
+  EXPECT_EQ(record.Now().UCL, 0);
+}
+
 TEST_F(TheRecord, AComparisonIsThatOfItsReference) {
   Known(0.3, 2);
   record.Change([](Given& given) {
