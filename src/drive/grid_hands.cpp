@@ -7,6 +7,9 @@
 #include <QTableView>
 #include <QtTest/QTest>
 
+#include <algorithm>
+#include <vector>
+
 #include "drive/failure.h"
 #include "drive/hands.h"
 #include "drive/look.h"
@@ -35,18 +38,40 @@ const screen::Grid& Rules(const Target& grid) {
   return static_cast<const screen::Grid&>(*grid.control);
 }
 
-QTableView& GoToCell(Stage& stage, int row) {
-  const Target grid = GridOf(stage);
-  NeedUsable(stage, grid);
-  QTableView& view = ViewOf(stage, grid);
+// The place of the row's cell, scrolled into sight.
+QPoint PlaceOf(Stage& stage, QTableView& view, int row) {
   if (row < 1 || row > view.model()->rowCount()) throw Failure("no row " + IntText(row));
   const QModelIndex cell = view.model()->index(row - 1, kConcentration);
   view.scrollTo(cell);
   stage.Settle();
-  const QPoint place = view.visualRect(cell).center();
+  return view.visualRect(cell).center();
+}
+
+QTableView& GoToCell(Stage& stage, int row) {
+  const Target grid = GridOf(stage);
+  NeedUsable(stage, grid);
+  QTableView& view = ViewOf(stage, grid);
+  const QPoint place = PlaceOf(stage, view, row);
+  const QModelIndex cell = view.indexAt(place);
   ClickAt(stage, *view.viewport(), place.x(), place.y(), "row " + IntText(row));
   if (view.currentIndex() != cell) throw Failure("row " + IntText(row) + " can't be reached");
   return view;
+}
+
+// "3 to 5, 8", counted from 1.
+std::string RowList(const std::vector<int>& rows) {
+  std::string list;
+  for (std::size_t first = 0, next = 0; first < rows.size(); first = next) {
+    while (next < rows.size() && rows[next] - rows[first] == static_cast<int>(next - first)) ++next;
+    list += (list.empty() ? "" : ", ") + IntText(rows[first] + 1);
+    if (next - first > 1) list += " to " + IntText(rows[next - 1] + 1);
+  }
+  return list;
+}
+
+void NeedSame(const std::string& what, const std::string& shown, const std::string& held) {
+  if (shown != held)
+    throw Failure("the table shows the " + what + " " + shown + ", its state is " + held);
 }
 
 }  // namespace
@@ -75,6 +100,30 @@ void DeleteRow(Stage& stage, int row) {
 }
 
 void GoToRow(Stage& stage, int row) { GoToCell(stage, row); }
+
+void SelectRows(Stage& stage, int first, int last) {
+  QTableView& view = GoToCell(stage, first);
+  const QPoint place = PlaceOf(stage, view, last);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ShiftModifier, place);
+  stage.Settle();
+}
+
+std::string CursorRow(Stage& stage) {
+  const Target grid = GridOf(stage);
+  const std::string shown = IntText(ViewOf(stage, grid).currentIndex().row() + 1);
+  NeedSame("cursor", shown, IntText(Rules(grid).currentRow + 1));
+  return shown;
+}
+
+std::string SelectedRows(Stage& stage) {
+  const Target grid = GridOf(stage);
+  std::vector<int> rows;
+  const QTableView& view = ViewOf(stage, grid);
+  for (const QModelIndex& cell : view.selectionModel()->selectedRows()) rows.push_back(cell.row());
+  std::sort(rows.begin(), rows.end());
+  NeedSame("selection", RowList(rows), RowList(Rules(grid).selectedRows));
+  return RowList(rows);
+}
 
 void PasteRows(Stage& stage, const std::string& text) {
   const Target grid = GridOf(stage);

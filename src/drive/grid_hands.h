@@ -15,6 +15,12 @@ void AddRow(Stage& stage, const std::string& text);
 void DeleteRow(Stage& stage, int row);
 // Makes the row the current one by a click on its concentration cell.
 void GoToRow(Stage& stage, int row);
+// Selects those rows by a click on the first one and one with Shift on the last one.
+void SelectRows(Stage& stage, int first, int last);
+// Where the cursor stands, and the selected rows, such as "3 to 5, 8". Failure when the table shows
+// another one than the screen's rules hold.
+std::string CursorRow(Stage& stage);
+std::string SelectedRows(Stage& stage);
 // Puts `text` on the clipboard and pastes it from the current row on.
 void PasteRows(Stage& stage, const std::string& text);
 // What the table shows there. Failure when it differs from what the screen's rules say.

@@ -9,8 +9,8 @@ namespace drive {
 namespace {
 
 const Action* Known(const std::string& name) {
-  for (const CommandTable* table :
-       {&WindowCommands(), &FieldCommands(), &AnswerCommands(), &RecordCommands()}) {
+  for (const CommandTable* table : {&WindowCommands(), &FieldCommands(), &AnswerCommands(),
+                                    &RecordCommands(), &TableCommands()}) {
     const auto found = table->find(name);
     if (found != table->end()) return &found->second;
   }

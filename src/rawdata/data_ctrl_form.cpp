@@ -1,6 +1,7 @@
 #include "rawdata/data_ctrl_form.h"
 
 #include "catalog/catalog.h"
+#include "rawdata/rows.h"
 
 namespace rawdata {
 namespace {
@@ -59,7 +60,11 @@ void DataCtrlForm::Activate() {
   const bool inRange = RangeCheck();
   WindnrLbl.text = "15";
   Rebind();
-  if (inRange) return;
+  if (inRange) {
+    DBGridVkr.GoTo(FirstToFill(Outcomes()));
+    SetFocus(DBGridVkr);
+    return;
+  }
   rangeCheck_ = 0;
   Complain(session.MsgText, session.MsgTitle);
   desk.CloseAllData();

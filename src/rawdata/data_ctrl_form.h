@@ -66,8 +66,13 @@ struct DataCtrlForm final : navigation::SessionForm {
   void DetectionOff();
   void DetectionOn();
   void LeaveDetectionLimit(screen::Control& field);
-  // Changes what was given, and tells what the checks of the range had to say.
+  // Changes what was given, and tells what the checks of the range had to say. The cursor and the
+  // selection, which mean rows as the change leaves them, go with their outcomes to where the order
+  // puts those.
   void ChangeSeries(const std::function<void(Given&)>& change);
+
+  void FollowOrder(const std::vector<double>& edited);
+  std::vector<double> Outcomes() const;
 
   std::string CellText(int row, int column);
   std::string OperatorOf(double value) const;
@@ -75,7 +80,7 @@ struct DataCtrlForm final : navigation::SessionForm {
   bool HasRoomFor(int rows);
   bool WriteCell(int row, int column, const std::string& text);
   bool AddRow(const std::string& text);
-  void DeleteRow(int row);
+  void DeleteRows(const std::vector<int>& selected);
   void CommitRow();
   void PasteRows(int row, const std::string& text);
   // Asks when another program has changed the file at `path` since the series was read from it or

@@ -4,6 +4,8 @@
 #include "catalog/own_texts.h"
 #include "files/safe_writer.h"
 #include "rawdata/data_ctrl_form.h"
+#include "rawdata/rows.h"
+#include "session/derivation.h"
 
 // The grid of the data control screen: its cells, and what editing them does to the series.
 namespace rawdata {
@@ -52,15 +54,12 @@ void DataCtrlForm::WireGrid() {
     return WriteCell(row, column, text);
   };
   DBGridVkr.AddRow = [this](const std::string& text) { return AddRow(text); };
-  DBGridVkr.DeleteRow = [this](int row) { DeleteRow(row); };
+  DBGridVkr.DeleteRows = [this](const std::vector<int>& rows) { DeleteRows(rows); };
   DBGridVkr.CommitRow = [this] { CommitRow(); };
   DBGridVkr.Paste = [this](int row, const std::string& text) { PasteRows(row, text); };
   // The empty line behind the last row takes the new outcome.
-  MenuAddRow.Click = [this] {
-    DBGridVkr.currentRow = DBGridVkr.rowCount;
-    ++DBGridVkr.revision;
-  };
-  MenuDeleteRow.Click = [this] { DeleteRow(DBGridVkr.currentRow); };
+  MenuAddRow.Click = [this] { DBGridVkr.GoTo(DBGridVkr.rowCount); };
+  MenuDeleteRow.Click = [this] { DeleteRows(DBGridVkr.selectedRows); };
 }
 
 void DataCtrlForm::Rebind() {
@@ -70,6 +69,10 @@ void DataCtrlForm::Rebind() {
   SampSzLbl.text = ShownTrimmed(session.M);
   flow.GridData.resize(static_cast<std::size_t>(DBGridVkr.rowCount));
   ++DBGridVkr.revision;
+}
+
+std::vector<double> DataCtrlForm::Outcomes() const {
+  return {session.C.begin() + 1, session.C.begin() + 1 + DBGridVkr.rowCount};
 }
 
 std::string DataCtrlForm::CellText(int row, int column) {
@@ -126,17 +129,17 @@ bool DataCtrlForm::AddRow(const std::string& text) {
   return true;
 }
 
-void DataCtrlForm::DeleteRow(int row) {
-  if (session.M <= 2 || row < 0 || row >= SampleCount(session)) {
-    ChangeSeries(CutSeries);
-    return;
-  }
-  ChangeSeries([&](Given& given) {
+// The cursor goes to what has moved up into the place of the first deleted row.
+void DataCtrlForm::DeleteRows(const std::vector<int>& selected) {
+  const std::vector<int> rows = RowsToDelete(selected, SampleCount(session));
+  ChangeSeries([&rows](Given& given) {
     CutSeries(given);
-    given.C.erase(given.C.begin() + row + 1);
-    given.M -= 1;
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+      given.C.erase(given.C.begin() + 1 + *row);
+    given.M -= static_cast<double>(rows.size());
   });
-  DBGridVkr.currentRow = std::min(row, SampleCount(session) - 1);
+  if (rows.empty()) return;
+  DBGridVkr.GoTo(std::min(rows.front(), SampleCount(session) - 1));
   CommitRow();
 }
 
@@ -153,8 +156,24 @@ void DataCtrlForm::CommitRow() {
 }
 
 void DataCtrlForm::ChangeSeries(const std::function<void(Given&)>& change) {
-  const LimitComplaint complaint = record.Change(change);
+  std::vector<double> edited;
+  const LimitComplaint complaint = record.Change([&](Given& given) {
+    change(given);
+    edited.assign(given.C.begin() + 1, given.C.end());
+  });
+  if (CompleteSeries(session)) FollowOrder(edited);
   if (!complaint.MsgText.empty()) Complain(complaint.MsgText, complaint.MsgTitle);
+}
+
+void DataCtrlForm::FollowOrder(const std::vector<double>& edited) {
+  const std::vector<int> places = PlacesInOrder(edited);
+  const int count = static_cast<int>(places.size());
+  const auto follow = [&](int& row) {
+    if (row >= 0 && row < count) row = places[static_cast<std::size_t>(row)];
+  };
+  follow(DBGridVkr.currentRow);
+  for (int& row : DBGridVkr.selectedRows) follow(row);
+  std::sort(DBGridVkr.selectedRows.begin(), DBGridVkr.selectedRows.end());
 }
 
 // All lines or none: a refused line would shift the rows behind it.

@@ -130,16 +130,22 @@ struct Grid : Control {
   Grid(Form& form, std::string gridName) : Control(form, Kind::Grid, std::move(gridName)) {}
   std::vector<Column> columns;
   int rowCount = 0;
-  int currentRow = 0;
+  int currentRow = 0;             // that of the cursor; rowCount is the empty line behind the last
+  std::vector<int> selectedRows;  // ascending; what a command for several rows acts on
   // Raised whenever rows or cells may have changed, so that a view asks again.
   int revision = 0;
   std::function<std::string(int row, int column)> Cell;
   std::function<bool(int row, int column, const std::string& text)> Write;
   std::function<bool(const std::string& text)> AddRow;
-  std::function<void(int row)> DeleteRow;
+  std::function<void(const std::vector<int>& rows)> DeleteRows;
   std::function<void()> CommitRow;
   // Fills rows from `row` on with the lines of `text`.
   std::function<void(int row, const std::string& text)> Paste;
+
+  // Selects `count` rows from `first` on; the cursor stays where it is.
+  void SelectRows(int first, int count);
+  // Puts the cursor into the row, which alone is selected then.
+  void GoTo(int row);
 };
 
 }  // namespace screen

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <numeric>
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
@@ -15,6 +16,17 @@ Control::Control(Form& form, Kind controlKind, std::string controlName)
 }
 
 void Control::Refresh() { form_.ports.surface.RepaintControl(form_, *this); }
+
+void Grid::SelectRows(int first, int count) {
+  selectedRows.resize(static_cast<std::size_t>(count));
+  std::iota(selectedRows.begin(), selectedRows.end(), first);
+  ++revision;
+}
+
+void Grid::GoTo(int row) {
+  currentRow = row;
+  SelectRows(row, 1);
+}
 
 Control* Form::Find(const std::string& controlName) const {
   auto found = std::find_if(controls.begin(), controls.end(),

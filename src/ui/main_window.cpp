@@ -186,7 +186,12 @@ void MainWindow::Private::Choose(const QString& key) {
   gate_.RunLate();
   focus_.Follow();
   const screen::TabStrip* strip = program_.Shown().strip;
-  if (strip && strip->Choose) gate_.Run([strip, &key] { strip->Choose(Typed(key)); });
+  if (!strip || !strip->Choose) return;
+  gate_.Run([this, strip, &key] {
+    strip->Choose(Typed(key));
+    // Who walks along the tabs by their keys goes on doing so.
+    if (strip_->ByKey() && strip != program_.Shown().strip) program_.Shown().focusWanted = nullptr;
+  });
 }
 
 MainWindow::MainWindow(start::Program& program, screen::Ports& ports)

@@ -1,5 +1,6 @@
 #include "ui/strip_view.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionTab>
@@ -78,6 +79,12 @@ QSize StripView::tabSizeHint(int index) const {
   const int twoLines = 2 * fontMetrics().lineSpacing();
   return style()->sizeFromContents(QStyle::CT_TabBarTab, &option,
                                    QSize(text.width(), twoLines) + space, this);
+}
+
+void StripView::keyPressEvent(QKeyEvent* event) {
+  byKey_ = true;
+  QTabBar::keyPressEvent(event);
+  byKey_ = false;
 }
 
 QSize StripView::minimumTabSizeHint(int index) const { return tabSizeHint(index); }

@@ -15,6 +15,8 @@ class StripView : public QTabBar {
 
   // Shows the strip of the shown screen; null for a screen without one.
   void Push(const screen::TabStrip* strip);
+  // The user is walking along the strip by its own keys.
+  bool ByKey() const { return byKey_; }
 
  signals:
   void Chosen(const QString& key);
@@ -23,12 +25,14 @@ class StripView : public QTabBar {
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
   void initStyleOption(QStyleOptionTab* option, int index) const override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Fill(const screen::TabStrip& strip);
   QString Folded(const QString& caption) const;
 
   std::vector<screen::Tab> shown_;
+  bool byKey_ = false;
 };
 
 }  // namespace ui

@@ -12,6 +12,24 @@
 #include "ui/vkr_grid_model.h"
 
 namespace ui {
+namespace {
+
+constexpr QItemSelectionModel::SelectionFlags kThisRowAlone =
+    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+
+int StepBehind(QAbstractItemDelegate::EndEditHint hint) {
+  switch (hint) {
+    case QAbstractItemDelegate::EditNextItem:
+    case QAbstractItemDelegate::SubmitModelCache:
+      return 1;
+    case QAbstractItemDelegate::EditPreviousItem:
+      return -1;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
 
 VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
   verticalHeader()->hide();
@@ -19,7 +37,8 @@ VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
   horizontalHeader()->setHighlightSections(false);
   setAlternatingRowColors(true);
   setTabKeyNavigation(false);
-  setSelectionMode(QAbstractItemView::ContiguousSelection);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setSelectionBehavior(QAbstractItemView::SelectRows);
   setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                   QAbstractItemView::EditKeyPressed);
   setAccessibleName(tr("Outcomes"));
@@ -39,15 +58,52 @@ void VkrGridView::SetCaption(const QString& caption) {
   caption_->setToolTip(TipText(Typed(caption)));
 }
 
+// Rows that go take the cursor and the selection with them: the rules know where both belong.
 void VkrGridView::Refresh() {
+  refreshing_ = true;
   model_->Refresh();
   SpreadColumns();
-  if (currentIndex().row() != grid_->currentRow) GoTo(grid_->currentRow);
+  if (currentIndex().row() != grid_->currentRow)
+    GoTo(grid_->currentRow, QItemSelectionModel::NoUpdate);
+  ShowSelection();
+  refreshing_ = false;
+  TellSelection();
 }
 
-void VkrGridView::GoTo(int row) {
+// Not by the view's own way, which asks the keyboard whether Ctrl or Shift is held: a shortcut that
+// ends here would add to the selection.
+void VkrGridView::GoTo(int row, QItemSelectionModel::SelectionFlags selection) {
   const int last = model_->rowCount() - 1;
-  if (last >= 0) setCurrentIndex(model_->index(std::clamp(row, 0, last), model_->EditableColumn()));
+  if (last < 0) return;
+  const QModelIndex cell = model_->index(std::clamp(row, 0, last), model_->EditableColumn());
+  selectionModel()->setCurrentIndex(cell, selection);
+  scrollTo(cell);
+}
+
+void VkrGridView::ShowSelection() {
+  if (SelectedRows() == grid_->selectedRows) return;
+  const std::vector<int>& rows = grid_->selectedRows;
+  QItemSelection wanted;
+  for (std::size_t first = 0, next = 0; first < rows.size(); first = next) {
+    while (next < rows.size() && rows[next] - rows[first] == static_cast<int>(next - first)) ++next;
+    wanted.append({model_->index(rows[first], 0), model_->index(rows[next - 1], 0)});
+  }
+  selectionModel()->select(wanted, kThisRowAlone);
+}
+
+std::vector<int> VkrGridView::SelectedRows() const {
+  std::vector<int> rows;
+  for (const QItemSelectionRange& range : selectionModel()->selection())
+    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
+  std::sort(rows.begin(), rows.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+  return rows;
+}
+
+void VkrGridView::TellSelection() {
+  if (refreshing_ || !currentIndex().isValid()) return;
+  grid_->currentRow = currentIndex().row();
+  grid_->selectedRows = SelectedRows();
 }
 
 void VkrGridView::CommitEditor() {
@@ -74,18 +130,26 @@ void VkrGridView::CopySelection() const {
 
 void VkrGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  if (current.isValid()) grid_->currentRow = current.row();
+  TellSelection();
 }
 
-// The row behind the one just typed need not be there yet: an outcome in the empty row makes it.
+void VkrGridView::selectionChanged(const QItemSelection& selected,
+                                   const QItemSelection& deselected) {
+  QTableView::selectionChanged(selected, deselected);
+  TellSelection();
+}
+
+// Only the keys that end an entry lead on from it: a click has gone where it wanted to. The row
+// behind the one just typed need not be there yet: an outcome in the empty row makes it.
 void VkrGridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
   QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-  const bool refused = hint == QAbstractItemDelegate::RevertModelCache;
-  if (refused || QApplication::focusWidget() != this) return;
-  const int step = hint == QAbstractItemDelegate::EditPreviousItem ? -1 : 1;
+  const int step = StepBehind(hint);
+  if (step == 0 || QApplication::focusWidget() != this) return;
   const int row = currentIndex().row() + step;
-  GoTo(row);
-  if (row >= 0) grid_->currentRow = row;
+  if (row < 0) return;
+  GoTo(row, kThisRowAlone);
+  grid_->currentRow = row;
+  grid_->selectedRows = {row};
 }
 
 bool VkrGridView::TakesKey(const QKeyEvent& event) {
@@ -97,7 +161,7 @@ bool VkrGridView::TakesKey(const QKeyEvent& event) {
   } else if (event.matches(QKeySequence::Paste)) {
     PasteClipboard();
   } else if (event.key() == Qt::Key_Delete && row >= 0) {
-    gate_->Later([this, row] { grid_->DeleteRow(row); });
+    gate_->Later([this] { grid_->DeleteRows(grid_->selectedRows); });
   } else if (state() != EditingState && row >= 0 &&
              (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)) {
     edit(model_->index(row, model_->EditableColumn()));
@@ -113,7 +177,7 @@ void VkrGridView::keyPressEvent(QKeyEvent* event) {
   const bool typing = !event->text().isEmpty() && event->text()[0].isPrint();
   const QModelIndex current = currentIndex();
   if (typing && current.isValid() && current.column() != model_->EditableColumn())
-    GoTo(current.row());
+    GoTo(current.row(), kThisRowAlone);
   QTableView::keyPressEvent(event);
 }
 

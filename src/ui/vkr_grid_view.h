@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QTableView>
+
+#include <vector>
 
 #include "screen/control.h"
 #include "ui/event_gate.h"
@@ -11,7 +14,7 @@ namespace ui {
 class VkrGridModel;
 
 // The editable table of outcomes. Enter and Tab take a typed outcome and go on to the next row;
-// Delete deletes the current row; columns of numbers are copied and pasted.
+// Delete deletes the selected rows; columns of numbers are copied and pasted.
 class VkrGridView : public QTableView {
   Q_OBJECT
 
@@ -21,7 +24,7 @@ class VkrGridView : public QTableView {
   // `caption`: the label that shows the table's caption, if there is one.
   void Attach(screen::Grid& grid, EventGate& gate, QLabel* caption);
   void SetCaption(const QString& caption);
-  // Shows the cells anew and goes to the row that the screen's rules have made the current one.
+  // Shows the cells anew, and the cursor and the selection where the screen's rules have put them.
   void Refresh();
   // Takes what stands in an open editor.
   void CommitEditor();
@@ -30,6 +33,7 @@ class VkrGridView : public QTableView {
   void PasteClipboard();
 
  protected:
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -37,7 +41,10 @@ class VkrGridView : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void GoTo(int row);
+  void GoTo(int row, QItemSelectionModel::SelectionFlags selection);
+  void ShowSelection();
+  std::vector<int> SelectedRows() const;
+  void TellSelection();
   void CopySelection() const;
   void FitRows();
   void SpreadColumns();
@@ -48,6 +55,7 @@ class VkrGridView : public QTableView {
   EventGate* gate_ = nullptr;
   VkrGridModel* model_ = nullptr;
   QLabel* caption_ = nullptr;
+  bool refreshing_ = false;  // what moves now, moves as the rules have said
 };
 
 }  // namespace ui

@@ -143,7 +143,7 @@ TEST(AddedRow, TheMenuLeadsToTheEmptyLineAtTheEnd) {
 TEST(DeletedRow, LeavesTheOthersInTheirOrder) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4, 8});
-  GridOf(user).currentRow = 1;
+  GridOf(user).GoTo(1);
   user.Click("MenuDeleteRow");
   EXPECT_EQ(user.Record().M, 3);
   EXPECT_EQ(user.Record().C, (std::vector<double>{4, 1, 4, 8}));
@@ -155,7 +155,7 @@ TEST(DeletedRow, LeavesTheOthersInTheirOrder) {
 TEST(DeletedRow, OfTwoRowsNoneGoes) {
   ProgramSession user;
   user.OpenSeries({1, 2});
-  GridOf(user).DeleteRow(0);
+  GridOf(user).DeleteRows({0});
   EXPECT_EQ(user.Record().M, 2);
   EXPECT_THAT(user.Record().C, ElementsAre(1.5, 1, 2));
   EXPECT_EQ(GridOf(user).rowCount, 2);
@@ -175,7 +175,7 @@ TEST(DeletedRow, AnUnfilledOneCompletesTheSeries) {
   for (int row : {0, 1}) ASSERT_TRUE(GridOf(user).Write(row, 2, row == 0 ? "4" : "2"));
   GridOf(user).CommitRow();
   EXPECT_TRUE(user.Record().RawIncomplete);
-  GridOf(user).DeleteRow(2);
+  GridOf(user).DeleteRows({2});
   EXPECT_FALSE(user.Record().RawIncomplete);
   EXPECT_EQ(user.Record().C, (std::vector<double>{3, 2, 4}));
 }

@@ -71,7 +71,7 @@ class Model {
   void Edited(const Scene& scene);
   void SetCell(int row, const std::string& text, int count);
   void Append(const std::string& text, int count);
-  void Delete(int row, int count);
+  void Delete(const std::vector<int>& rows, int count);
   void Paste(int row, const std::string& text, int count);
   double ExpectedSize(const Scene& scene) const;
   void CheckSeries(const Scene& scene);

@@ -72,8 +72,8 @@ void Model::Edited(const Scene& scene) {
   const std::string command = scene.step.Command();
   const Outcomes before = outcomes_;
   if (command == "addrow") Append(drive::TextArgument(rest), count);
-  if (command == "delrow") Delete(drive::IntOf(rest), count);
-  if (scene.Chosen("MenuDeleteRow")) Delete(scene.before.gridRow + 1, count);
+  if (command == "delrow") Delete({drive::IntOf(rest) - 1}, count);
+  if (scene.Chosen("MenuDeleteRow")) Delete(scene.before.gridRows, count);
   if (command == "cell") {
     const int row = drive::IntOf(drive::TakeWord(rest));
     SetCell(row, drive::TextArgument(rest), count);
@@ -104,12 +104,14 @@ void Model::Append(const std::string& text, int count) {
   edited_ = true;
 }
 
-// Two rows stay, but what lies beyond them goes as with every edit.
-void Model::Delete(int row, int count) {
+// From the last row up, until two are left; what lies beyond them goes as with every edit.
+void Model::Delete(const std::vector<int>& rows, int count) {
   outcomes_.resize(At(count));
-  if (count <= 2 || row > count) return;
-  outcomes_.erase(outcomes_.begin() + row - 1);
-  edited_ = true;
+  for (auto row = rows.rbegin(); row != rows.rend() && outcomes_.size() > 2; ++row) {
+    if (*row >= count) continue;
+    outcomes_.erase(outcomes_.begin() + *row);
+    edited_ = true;
+  }
 }
 
 // All lines or none.

@@ -105,7 +105,7 @@ Seen Look(drive::Stage& stage) {
   seen.scale = TickedScale(stage);
   seen.unsaved = stage.Program().Unsaved();
   const auto* table = stage.Program().FormByName("DataCtrlForm")->Find("DBGridVkr");
-  seen.gridRow = static_cast<const screen::Grid*>(table)->currentRow;
+  seen.gridRows = static_cast<const screen::Grid*>(table)->selectedRows;
   const Reader record(stage.Session());
   ReadTexts(record, seen);
   ReadFlags(record, seen);

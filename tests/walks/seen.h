@@ -11,9 +11,9 @@ namespace walks {
 // What of the record, and which screen, a step has left: read through the names that scripts use.
 struct Seen {
   std::string form;
-  std::string focus;  // the control that has it
-  int gridRow = 0;    // the current row of the raw data table, 0-based
-  std::string scale;  // the ticked scale of the plot: the name of its menu
+  std::string focus;          // the control that has it
+  std::vector<int> gridRows;  // the selected ones of the raw data table, 0-based
+  std::string scale;          // the ticked scale of the plot: the name of its menu
 
   std::string Mode, Name, TestTag, PlotKind, CompareMode, GSDChoice;
   std::string Unit, Duration, RefPeriod, RegressionLabel, CurrentTab;
