@@ -1,11 +1,24 @@
+#include <vector>
+
 #include "drive/failure.h"
 #include "drive/grid_hands.h"
+#include "drive/hands.h"
 #include "drive/player.h"
 #include "drive/text.h"
 
-// The table's cursor and selection.
+// What the user takes back, and the table's cursor and selection.
 namespace drive {
 namespace {
+
+void Undo(Play& play, std::string) { ChooseMenu(play.stage, play.stage.Find("MenuUndo")); }
+void Redo(Play& play, std::string) { ChooseMenu(play.stage, play.stage.Find("MenuRedo")); }
+
+void Drag(Play& play, std::string rest) {
+  const Target bar = play.stage.Find(TakeWord(rest));
+  std::vector<int> places;
+  while (!rest.empty()) places.push_back(IntOf(TakeWord(rest)));
+  DragBar(play.stage, bar, places);
+}
 
 void SelectThem(Play& play, std::string rest) {
   const int first = IntOf(TakeWord(rest));
@@ -30,6 +43,9 @@ void ExpectSelection(Play& play, std::string rest) {
 
 const CommandTable& TableCommands() {
   static const CommandTable table = {
+      {"undo", Undo},
+      {"redo", Redo},
+      {"drag", Drag},
       {"select", SelectThem},
       {"cursor", Cursor},
       {"selection", Selection},

@@ -37,6 +37,16 @@ QLineEdit& EditOf(Stage& stage, const Target& target) {
   return *edit;
 }
 
+// The usable bar, if it has that place.
+QScrollBar& BarOf(Stage& stage, const Target& bar, int value) {
+  NeedUsable(stage, bar);
+  auto* widget = qobject_cast<QScrollBar*>(&stage.WidgetOf(bar));
+  if (!widget) throw Failure(bar.control->name + " is no scroll bar");
+  if (value < widget->minimum() || value > widget->maximum())
+    throw Failure(bar.control->name + " has no place " + IntText(value));
+  return *widget;
+}
+
 // The pair that names the field as its own.
 Target PairOf(Stage& stage, const Target& target) {
   if (target.control->kind == screen::Kind::UpDown) return target;
@@ -164,12 +174,18 @@ void ChooseMenu(Stage& stage, const Target& item) {
 }
 
 void MoveBar(Stage& stage, const Target& bar, int value) {
-  NeedUsable(stage, bar);
-  auto* widget = qobject_cast<QScrollBar*>(&stage.WidgetOf(bar));
-  if (!widget) throw Failure(bar.control->name + " is no scroll bar");
-  if (value < widget->minimum() || value > widget->maximum())
-    throw Failure(bar.control->name + " has no place " + IntText(value));
-  widget->setValue(value);
+  BarOf(stage, bar, value).setValue(value);
+  stage.Settle();
+}
+
+void DragBar(Stage& stage, const Target& bar, const std::vector<int>& places) {
+  for (const int place : places) {
+    QScrollBar& widget = BarOf(stage, bar, place);
+    widget.setSliderDown(true);
+    widget.setSliderPosition(place);
+    stage.Settle();
+  }
+  if (!places.empty()) BarOf(stage, bar, places.back()).setSliderDown(false);
   stage.Settle();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "drive/stage.h"
 
@@ -23,6 +24,8 @@ void Step(Stage& stage, const Target& target, Arrow arrow);
 void ChooseMenu(Stage& stage, const Target& item);
 // Sets a scroll bar to the place in one move.
 void MoveBar(Stage& stage, const Target& bar, int value);
+// Drags its slide over those places, and lets it go.
+void DragBar(Stage& stage, const Target& bar, const std::vector<int>& places);
 // Clicks the picture of the shown screen at these fractions of its width and height.
 void ClickPicture(Stage& stage, double x, double y);
 void ClickTab(Stage& stage, const std::string& key);

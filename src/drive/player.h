@@ -29,7 +29,7 @@ const CommandTable& WindowCommands();  // queued answers, menus, tabs, the windo
 const CommandTable& FieldCommands();   // buttons, fields, the table
 const CommandTable& AnswerCommands();  // get, expect, dump, box
 const CommandTable& RecordCommands();  // set, eval, mask
-const CommandTable& TableCommands();   // the cursor and the selection of the table
+const CommandTable& TableCommands();   // undo, redo, the cursor and the selection of the table
 
 // Plays one command; throws what ends a script.
 void PlayCommand(Play& play, const Command& command);

@@ -202,7 +202,9 @@ void GrenzenForm::LeaveLimit() {
 
 void GrenzenForm::LeaveText(screen::Control& combo, std::string Given::*field) {
   if (!combo.touched) return;
-  record.Change([&](Given& given) { given.*field = combo.text; });
+  // Of these texts the unit is a part of the series: changing it can be taken back.
+  Edit(OwnText(Own::StepUnit, {combo.text}),
+       [&] { record.Change([&](Given& given) { given.*field = combo.text; }); });
   combo.touched = false;
   DimLbl2.text = session.Unit;
   ColourLabels();

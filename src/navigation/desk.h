@@ -41,6 +41,17 @@ class Desk {
   virtual bool Unsaved() const = 0;
   // The series now in the record is what its file holds.
   virtual void MarkSaved() = 0;
+  // The user has done something, which `words` name in a menu; `before` is the series in front of
+  // it. `goesOn`: with the movement of the step before.
+  virtual void Done(const std::string& words, const GivenSeries& before, bool goesOn) = 0;
+  // Takes the last step back, or does it again, and shows what has become of it.
+  virtual void Undo() = 0;
+  virtual void Redo() = 0;
+  // The words of those steps; empty when there is none, or not now.
+  virtual std::string ToUndo() const = 0;
+  virtual std::string ToRedo() const = 0;
+  // Another series: nothing of the one before can be taken back.
+  virtual void ForgetSteps() = 0;
   // Asks about unsaved changes; true when the series may go.
   virtual bool MayDropSeries() = 0;
   // "Close all data": asks about unsaved changes, shows the start screen, ends the session. False

@@ -11,8 +11,19 @@
 
 namespace navigation {
 
+struct SessionForm;
+
 // What a box shows of an estimate that there is not.
 inline constexpr char kUnknown[] = "   unknown";
+
+// The items of the Edit menu that take the user's last step back, and do it again.
+struct StepMenus {
+  explicit StepMenus(SessionForm& form);
+
+  screen::Control MenuEdit;
+  screen::Control MenuUndo;
+  screen::Control MenuRedo;
+};
 
 // What the working screens have in common: the record, the tab strip, the menus that lead to
 // other screens, and the label with the window number.
@@ -76,8 +87,20 @@ struct SessionForm : screen::Form {
   // not.
   void OfferPicture();
 
+  // One step of the user, which can be taken back: `edit` changes the series or its range, `words`
+  // name it in a menu. `goesOn`: with the movement of the step before.
+  void Edit(const std::string& words, const screen::Handler& edit, bool goesOn = false);
+  // Names the steps that stand to be taken back or done again.
+  void OfferSteps();
+  // The series stands as it stood before, or behind, one of the user's steps.
+  virtual void Restored() { Activate(); }
+
   // Brings the status line up to date; `note` tells what the last action did.
   void ShowStatus(const std::string& note = {});
+
+ protected:
+  // On the screens where the user edits.
+  std::optional<StepMenus> stepMenus;
 
  private:
   void AddExtrapolationMenus();

@@ -23,6 +23,7 @@ PlotForm::PlotForm(Record& sessionRecord, navigation::Desk& programDesk, screen:
                   formPorts) {
   for (const std::string& label : PlotWBas::AnnexLabelNames())
     annexLabels_.emplace_back(*this, screen::Kind::PictureLabel, label);
+  stepMenus.emplace(*this);
   ConnectMenus();
   ConnectLimits();
   PicPlot.Resized = [this] {

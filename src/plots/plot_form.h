@@ -124,6 +124,9 @@ struct PlotForm final : navigation::SessionForm {
   void PlaceBars();
   void FollowLimits(const PlotWBas::LimitMark& LOQ, const PlotWBas::LimitMark& URR);
   void BarMoved(const screen::Control& bar, double from, double sign, Check check);
+  Check PickedLimit(double value) const;
+  // What a step that sets the limit of `check` to `value` is called.
+  std::string StepWords(Check check, double value) const;
   void TellComplaint();
 
   std::deque<screen::Control> annexLabels_;  // controls keep their place

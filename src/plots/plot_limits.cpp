@@ -5,6 +5,7 @@
 
 #include "analysis/transformations.h"
 #include "base/fault.h"
+#include "catalog/own_texts.h"
 #include "plots/plot_form.h"
 #include "plots/regression_line.h"
 #include "session/limit_checks.h"
@@ -28,9 +29,14 @@ int BarValue(double fraction) {
 }  // namespace
 
 void PlotForm::ConnectLimits() {
-  MenuLowLim.Click = [this] { MenuLowLim_Click(); };
-  MenuUpLim.Click = [this] { MenuUpLim_Click(); };
-  MenuRemDetec.Click = [this] { MenuRemDetec_Click(); };
+  const auto step = [this](screen::Control& menu, Own words, void (PlotForm::*click)()) {
+    menu.Click = [this, words, click] {
+      Edit(OwnText(words), [this, click] { (this->*click)(); });
+    };
+  };
+  step(MenuLowLim, Own::StepRangeOn, &PlotForm::MenuLowLim_Click);
+  step(MenuUpLim, Own::StepRangeOn, &PlotForm::MenuUpLim_Click);
+  step(MenuRemDetec, Own::StepRangeOff, &PlotForm::MenuRemDetec_Click);
   const auto highest = [this] {
     return state.CTransf.at(static_cast<std::size_t>(SampleCount(session)));
   };
@@ -135,9 +141,17 @@ void PlotForm::BarMoved(const screen::Control& bar, double from, double sign, Ch
   const double t = from + sign * (bar.value * PlotSpan / 100);
   const std::optional<double> value = OutcomeAt(state.Transformation, t);
   if (!value) return;
-  CheckLimit(check, *value);
-  TellComplaint();
-  PlotStatus();
+  const auto move = [&] {
+    CheckLimit(check, *value);
+    TellComplaint();
+    PlotStatus();
+  };
+  Edit(StepWords(check, *value), move, bar.held);
+}
+
+std::string PlotForm::StepWords(Check check, double value) const {
+  const Own words = check == Check{ControleOndergrens} ? Own::StepLOQ : Own::StepURR;
+  return OwnText(words, {ShownTrimmed(value)});
 }
 
 void PlotForm::CheckLimit(Check check, double value) {
@@ -155,17 +169,27 @@ void PlotForm::PicPlot_MouseDown(double y) {
   const double below = (y / PicPlot.drawing.ScaleHeight() - 0.2) * 5 / 3;
   const int M = SampleCount(session);
   const double t = state.CTransf.at(static_cast<std::size_t>(M)) - below * PlotSpan;
-  if (const auto value = OutcomeAt(state.Transformation, t)) {
-    LimitValue = *value;
-    const bool fitsLOQ = DefaultLOQ(session) <= *value && *value < NearestOutcome(session, M - 2);
-    const bool fitsURR = *value > NearestOutcome(session, 3) && *value < NearestOutcome(session, M);
-    if (LOQActive && fitsLOQ)
-      CheckLimit(ControleOndergrens, *value);
-    else if (!LOQActive && URRActive && fitsURR)
-      CheckLimit(ControleBovengrens, *value);
-  }
-  TellComplaint();
-  Activate();
+  const auto value = OutcomeAt(state.Transformation, t);
+  const Check check = value ? PickedLimit(*value) : nullptr;
+  if (value) LimitValue = *value;
+  const auto pick = [&] {
+    if (check) CheckLimit(check, *value);
+    TellComplaint();
+    Activate();
+  };
+  if (check)
+    Edit(StepWords(check, *value), pick);
+  else
+    pick();
+}
+
+// The limit that a click at this outcome means; null for neither.
+PlotForm::Check PlotForm::PickedLimit(double value) const {
+  const int M = SampleCount(session);
+  const bool fitsLOQ = DefaultLOQ(session) <= value && value < NearestOutcome(session, M - 2);
+  const bool fitsURR = value > NearestOutcome(session, 3) && value < NearestOutcome(session, M);
+  if (LOQActive && fitsLOQ) return ControleOndergrens;
+  return !LOQActive && URRActive && fitsURR ? Check{ControleBovengrens} : nullptr;
 }
 
 // What a check has put in place of a refused limit shows at once.

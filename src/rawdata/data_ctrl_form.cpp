@@ -1,6 +1,9 @@
 #include "rawdata/data_ctrl_form.h"
 
+#include <algorithm>
+
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "rawdata/rows.h"
 
 namespace rawdata {
@@ -16,16 +19,14 @@ DataCtrlForm::DataCtrlForm(Record& sessionRecord, navigation::Desk& programDesk,
                            screen::Ports& formPorts)
     : SessionForm("DataCtrlForm", navigation::ScreenId::DataCtrl, "TabRaw", sessionRecord,
                   programDesk, formPorts) {
+  stepMenus.emplace(*this);
   MenuSave.Click = [this] { VkrSave(); };
   DimCbo.Click = [this] {
-    record.Change([this](Given& given) { given.Unit = DimCbo.text; });
+    LeaveUnit();
     WindnrLbl.text = "3b";
-    Rebind();
   };
   DimCbo.LostFocus = DimCbo.EnterKey = [this] {
-    if (!DimCbo.touched) return;
-    record.Change([this](Given& given) { given.Unit = DimCbo.text; });
-    Rebind();
+    if (DimCbo.touched) LeaveUnit();
   };
   WireGrid();
   WireDetection();
@@ -70,6 +71,20 @@ void DataCtrlForm::Activate() {
   desk.CloseAllData();
 }
 
+// The estimates that were in force then are so again. What has come, or come back, is selected.
+void DataCtrlForm::Restored() {
+  EnterOwnTab();
+  Flags();
+  ShowSeries();
+  const std::vector<double> before = shown_;
+  Rebind();
+  DBGridVkr.selectedRows = RowsThatCame(before, shown_);
+  if (DBGridVkr.selectedRows.empty())
+    DBGridVkr.GoTo(std::min(DBGridVkr.currentRow, DBGridVkr.rowCount));
+  else
+    DBGridVkr.currentRow = DBGridVkr.selectedRows.front();
+}
+
 // Whether the series has a range that a lognormal distribution can be fitted to; the complaint is
 // left in MsgText.
 bool DataCtrlForm::RangeCheck() {
@@ -98,6 +113,14 @@ void DataCtrlForm::ShowRange() {
   CnLbl.text = Shown(session.C[static_cast<std::size_t>(SampleCount(session))]);
 }
 
+void DataCtrlForm::LeaveUnit() {
+  Edit(OwnText(Own::StepUnit, {DimCbo.text}), [this] {
+    record.Change([this](Given& given) { given.Unit = DimCbo.text; });
+    Rebind();
+  });
+  DimCbo.touched = false;
+}
+
 void DataCtrlForm::TakeUnit() {
   if (session.Unit.empty())
     record.Change([](Given& given) { given.Unit = LoadResString(kDefaultUnit); });
@@ -106,13 +129,17 @@ void DataCtrlForm::TakeUnit() {
 
 void DataCtrlForm::DataCtrlStatus() {
   Flags();
+  if (!session.RawIncomplete) SampleStatistics();
+  ShowSeries();
+}
+
+void DataCtrlForm::ShowSeries() {
   flow.TestTag = Extrapolation::None;
   TakeUnit();
   MenuSave.enabled = !session.RawIncomplete;
   if (session.RawIncomplete) {
     for (screen::Control* control : {&FrmDetec, &RangeFrame, &DetecChB}) control->Hide();
   } else {
-    SampleStatistics();
     ShowDetection();
     ShowRange();
     record.AcceptSeries();
@@ -138,10 +165,16 @@ void DataCtrlForm::StatusStrip() {
 }
 
 void DataCtrlForm::DetecChB_Click() {
-  if (DetecChB.ticked)
-    DetectionOn();
-  else
-    DetectionOff();
+  Edit(OwnText(DetecChB.ticked ? Own::StepRangeOn : Own::StepRangeOff), [this] {
+    if (DetecChB.ticked)
+      DetectionOn();
+    else
+      DetectionOff();
+    ShowNewRange();
+  });
+}
+
+void DataCtrlForm::ShowNewRange() {
   ShowDetection();
   record.AcceptSeries();
   StatusStrip();
@@ -166,8 +199,13 @@ void DataCtrlForm::DetectionOn() {
 void DataCtrlForm::LeaveDetectionLimit(screen::Control& field) {
   // Looking at a limit changes nothing, and what was refused has been told.
   if (!field.touched) return;
-  const bool lower = &field == &DetecLTxb;
   const double entered = GlobalBAS::ReadNumber(field.text);
+  const Own words = &field == &DetecLTxb ? Own::StepLOQ : Own::StepURR;
+  Edit(OwnText(words, {ShownTrimmed(entered)}), [&] { TakeDetectionLimit(field, entered); });
+}
+
+void DataCtrlForm::TakeDetectionLimit(screen::Control& field, double entered) {
+  const bool lower = &field == &DetecLTxb;
   LimitComplaint complaint;
   record.Change([&](Given& given) {
     complaint = lower ? ControleOndergrens(given, entered) : ControleBovengrens(given, entered);
@@ -179,10 +217,7 @@ void DataCtrlForm::LeaveDetectionLimit(screen::Control& field) {
     Complain(session.MsgText, session.MsgTitle);
     SetFocus(field);
   }
-  ShowDetection();
-  record.AcceptSeries();
-  StatusStrip();
-  Rebind();
+  ShowNewRange();
 }
 
 }  // namespace rawdata

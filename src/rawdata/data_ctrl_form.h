@@ -10,7 +10,6 @@ struct DataCtrlForm final : navigation::SessionForm {
   DataCtrlForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
   screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
-  screen::Control MenuEdit{*this, screen::Kind::Menu, "MenuEdit"};
   screen::Control MenuAddRow{*this, screen::Kind::Menu, "MenuAddRow"};
   screen::Control MenuDeleteRow{*this, screen::Kind::Menu, "MenuDeleteRow"};
   screen::Control MenuPaste{*this, screen::Kind::Menu, "MenuPaste"};
@@ -42,6 +41,7 @@ struct DataCtrlForm final : navigation::SessionForm {
 
   void Load() override;
   void Activate() override;
+  void Restored() override;
 
   void DataCtrlStatus();
   void VkrSave();
@@ -54,9 +54,11 @@ struct DataCtrlForm final : navigation::SessionForm {
   void WireGrid();
   void WireDetection();
 
+  void ShowSeries();
   bool RangeCheck();
   void ShowRange();
   void TakeUnit();
+  void LeaveUnit();
   // Puts the whole sample's GM, GSD and df in force again.
   void SampleStatistics();
   void ShowDetection();
@@ -66,11 +68,15 @@ struct DataCtrlForm final : navigation::SessionForm {
   void DetectionOff();
   void DetectionOn();
   void LeaveDetectionLimit(screen::Control& field);
+  void TakeDetectionLimit(screen::Control& field, double entered);
+  void ShowNewRange();
   // Changes what was given, and tells what the checks of the range had to say. The cursor and the
   // selection, which mean rows as the change leaves them, go with their outcomes to where the order
   // puts those.
   void ChangeSeries(const std::function<void(Given&)>& change);
 
+  // The same as one step of the user, which `words` name, with all that a committed row brings.
+  void EditRows(const std::string& words, const std::function<void(Given&)>& change);
   void FollowOrder(const std::vector<double>& edited);
   std::vector<double> Outcomes() const;
 
@@ -90,7 +96,8 @@ struct DataCtrlForm final : navigation::SessionForm {
   // The file that holds the series, as it was when this program last read or wrote it.
   std::optional<files::FileMark> mark_;
   std::string markedPath_;
-  int rangeCheck_ = 0;  // 0 none, 4 range too small, 5 range too large
+  std::vector<double> shown_;  // the outcomes that the table was last told of
+  int rangeCheck_ = 0;         // 0 none, 4 range too small, 5 range too large
 };
 
 }  // namespace rawdata

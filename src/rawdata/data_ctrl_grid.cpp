@@ -55,7 +55,6 @@ void DataCtrlForm::WireGrid() {
   };
   DBGridVkr.AddRow = [this](const std::string& text) { return AddRow(text); };
   DBGridVkr.DeleteRows = [this](const std::vector<int>& rows) { DeleteRows(rows); };
-  DBGridVkr.CommitRow = [this] { CommitRow(); };
   DBGridVkr.Paste = [this](int row, const std::string& text) { PasteRows(row, text); };
   // The empty line behind the last row takes the new outcome.
   MenuAddRow.Click = [this] { DBGridVkr.GoTo(DBGridVkr.rowCount); };
@@ -69,6 +68,7 @@ void DataCtrlForm::Rebind() {
   SampSzLbl.text = ShownTrimmed(session.M);
   flow.GridData.resize(static_cast<std::size_t>(DBGridVkr.rowCount));
   ++DBGridVkr.revision;
+  shown_ = Outcomes();
 }
 
 std::vector<double> DataCtrlForm::Outcomes() const {
@@ -110,7 +110,10 @@ bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
   if (column != kConcentration || row < 0 || row >= DBGridVkr.rowCount) return false;
   const double value = GlobalBAS::ReadNumber(text);
   if (Refuses(value)) return false;
-  ChangeSeries([&](Given& given) {
+  const std::string number = GlobalBAS::GeneralText(row + 1);
+  const std::string words = value > 0 ? OwnText(Own::StepTyped, {ShownTrimmed(value), number})
+                                      : OwnText(Own::StepEmptied, {number});
+  EditRows(words, [&](Given& given) {
     CutSeries(given);
     given.C[static_cast<std::size_t>(row) + 1] = value;
   });
@@ -120,27 +123,35 @@ bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
 bool DataCtrlForm::AddRow(const std::string& text) {
   const double value = GlobalBAS::ReadNumber(text);
   if (!HasRoomFor(SampleCount(session) + 1) || Refuses(value)) return false;
-  ChangeSeries([&](Given& given) {
+  EditRows(OwnText(Own::StepAdded, {ShownTrimmed(value)}), [&](Given& given) {
     CutSeries(given);
     given.M += 1;
     given.C.push_back(value);
   });
-  CommitRow();
   return true;
 }
 
-// The cursor goes to what has moved up into the place of the first deleted row.
+// The cursor goes to what has moved up into the place of the first deleted row. Where nothing may
+// go, what lies beyond the sample size does.
 void DataCtrlForm::DeleteRows(const std::vector<int>& selected) {
   const std::vector<int> rows = RowsToDelete(selected, SampleCount(session));
-  ChangeSeries([&rows](Given& given) {
-    CutSeries(given);
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row)
-      given.C.erase(given.C.begin() + 1 + *row);
-    given.M -= static_cast<double>(rows.size());
+  const int count = static_cast<int>(rows.size());
+  const std::string number = GlobalBAS::GeneralText(count == 1 ? rows.front() + 1 : count);
+  if (count > 0) DBGridVkr.GoTo(std::min(rows.front(), SampleCount(session) - count - 1));
+  EditRows(OwnText(count == 1 ? Own::StepDeletedOne : Own::StepDeleted, {number}),
+           [&](Given& given) {
+             CutSeries(given);
+             for (auto row = rows.rbegin(); row != rows.rend(); ++row)
+               given.C.erase(given.C.begin() + 1 + *row);
+             given.M -= count;
+           });
+}
+
+void DataCtrlForm::EditRows(const std::string& words, const std::function<void(Given&)>& change) {
+  Edit(words, [&] {
+    ChangeSeries(change);
+    CommitRow();
   });
-  if (rows.empty()) return;
-  DBGridVkr.GoTo(std::min(rows.front(), SampleCount(session) - 1));
-  CommitRow();
 }
 
 // With a detection range its degrees of freedom hold again behind an edit.
@@ -192,13 +203,16 @@ void DataCtrlForm::PasteRows(int row, const std::string& text) {
   }
   const int rows = std::max(SampleCount(session), row + static_cast<int>(values.size()));
   if (!HasRoomFor(rows)) return;
-  ChangeSeries([&](Given& given) {
-    CutSeries(given);
-    given.M = rows;
-    given.C.resize(static_cast<std::size_t>(rows) + 1);
-    std::copy(values.begin(), values.end(), given.C.begin() + 1 + row);
-  });
-  CommitRow();
+  const int count = static_cast<int>(values.size());
+  DBGridVkr.SelectRows(row, count);
+  EditRows(
+      OwnText(count == 1 ? Own::StepPastedOne : Own::StepPasted, {GlobalBAS::GeneralText(count)}),
+      [&](Given& given) {
+        CutSeries(given);
+        given.M = rows;
+        given.C.resize(static_cast<std::size_t>(rows) + 1);
+        std::copy(values.begin(), values.end(), given.C.begin() + 1 + row);
+      });
 }
 
 void DataCtrlForm::TellReading(const ReadingNotes* notes) {

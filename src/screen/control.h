@@ -84,6 +84,8 @@ struct Control : ControlState {
   bool touched = false;
   // Select the whole text at the next showing of the state.
   bool selectAll = false;
+  // The scroll bar is still held since the place before: one movement goes on.
+  bool held = false;
   // Page of the manual that explains the control.
   int helpContext = 0;
 
@@ -138,7 +140,6 @@ struct Grid : Control {
   std::function<bool(int row, int column, const std::string& text)> Write;
   std::function<bool(const std::string& text)> AddRow;
   std::function<void(const std::vector<int>& rows)> DeleteRows;
-  std::function<void()> CommitRow;
   // Fills rows from `row` on with the lines of `text`.
   std::function<void(int row, const std::string& text)> Paste;
 

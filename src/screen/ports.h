@@ -4,6 +4,7 @@
 
 #include "drawing/drawing.h"
 #include "screen/clock.h"
+#include "screen/history.h"
 
 // What the screens need of the system around them. The window toolkit has the real ones, tests
 // have recording ones.
@@ -76,6 +77,7 @@ struct Ports {
   Clock& clock;
   PictureFile& pictureFile;
   PrinterSurface& printer;
+  History& history;
 };
 
 }  // namespace screen

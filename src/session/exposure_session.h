@@ -54,22 +54,16 @@ struct Original {
   bool operator==(const Original&) const = default;
 };
 
-// What the user gave, and which estimates are in force. Everything else follows from it.
-struct Given {
-  DataMode Mode = DataMode::None;
-
-  // Identification
-  std::string Name;
+// A series and the range that is laid over it: what an edit changes, and what is put back when the
+// user takes it back.
+struct GivenSeries {
   double M = 0;
   std::string Unit;
-  std::string RefPeriod;
-  std::string Duration;
 
   // Raw data. C(1) to C(M) ascending once the series is complete; C(0) is the median. Outcomes
   // beyond M are kept until the next edit or save.
   std::vector<double> C;
-  bool newSeries = false;    // a series is being typed whose sample size may still be missing
-  bool refusedFile = false;  // Name and M are those of a file that was refused: there is no series
+  bool newSeries = false;  // a series is being typed whose sample size may still be missing
 
   // Detection range: what the checks of the limits made of the entered ones
   bool DetecOn = false;
@@ -81,9 +75,23 @@ struct Given {
   bool LOQStated = false;  // by somebody; otherwise it stands where the series has put it
   bool URRStated = false;
 
-  // Estimates
   Estimates inForce = Estimates::WholeSample;
   std::optional<RegressionEstimates> regression;
+
+  bool operator==(const GivenSeries&) const = default;
+};
+
+// What the user gave, and which estimates are in force. Everything else follows from it.
+struct Given : GivenSeries {
+  DataMode Mode = DataMode::None;
+
+  // Identification
+  std::string Name;
+  std::string RefPeriod;
+  std::string Duration;
+  bool refusedFile = false;  // Name and M are those of a file that was refused: there is no series
+
+  // Estimates
   double TypedGM = 0;
   double TypedGSD = 0;
   std::int16_t typedWidth = 0;       // of the longest GM or GSD that was typed

@@ -73,6 +73,13 @@ LimitComplaint Record::Change(const std::function<void(Given&)>& change) {
   return complaint;
 }
 
+void Record::Restore(const GivenSeries& series) {
+  Given next = now_;
+  static_cast<GivenSeries&>(next) = series;
+  Consequences all = ConsequencesOf(std::move(next));
+  Take(std::move(all.given), std::move(all.derived));
+}
+
 void Record::Take(Given given, Derived derived) {
   const TestBasis basis = BasisOf(now_);
   static_cast<Given&>(now_) = std::move(given);

@@ -20,6 +20,9 @@ class Record {
   // A fault leaves everything as it was.
   LimitComplaint Change(const std::function<void(Given&)>& change);
 
+  // Puts a series and its range back as they stood; nothing is checked anew.
+  void Restore(const GivenSeries& series);
+
   // Puts these estimates in force and derives everything anew. Where the outcomes have no spread,
   // or too much, InputState says so.
   void Evaluate(Estimates estimates);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "stats/coefficient_status.h"
 
 namespace start {
@@ -17,6 +18,7 @@ constexpr int kReset = 730;
 BasisForm::BasisForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts)
     : SessionForm("BasisForm", navigation::ScreenId::Basis, "TabBasis", sessionRecord, programDesk,
                   formPorts) {
+  stepMenus.emplace(*this);
   WireMenus();
   WireFields();
 }
@@ -192,6 +194,7 @@ void BasisForm::OriModiCmd_Click() {
   else
     Modify();
   BasisStatus();
+  OfferSteps();
 }
 
 // Other values are tried on top of the data, which stay as they are.
@@ -253,9 +256,12 @@ void BasisForm::StepSampleSize(double step) {
 // A series is evaluated anew for its first M outcomes, by the degrees of freedom of its range.
 void BasisForm::TakeSampleSize(double M) {
   if (M == session.M) return;
-  const LimitComplaint complaint = record.Change([M](Given& given) {
-    given.M = M;
-    if (given.inForce != Estimates::Typed) given.inForce = Estimates::RangeDegrees;
+  LimitComplaint complaint;
+  Edit(OwnText(Own::StepSampleSize, {GlobalBAS::GeneralText(M)}), [&] {
+    complaint = record.Change([M](Given& given) {
+      given.M = M;
+      if (given.inForce != Estimates::Typed) given.inForce = Estimates::RangeDegrees;
+    });
   });
   if (!complaint.MsgText.empty()) Complain(complaint.MsgText, complaint.MsgTitle);
 }

@@ -135,6 +135,7 @@ void BasisForm::Sluiten() {
   DescriptFrame.Hide();
   for (screen::Control* box : {&DegreesLbl, &GMTxB, &GSDTxB}) box->text.clear();
   desk.MarkSaved();
+  desk.ForgetSteps();
   OpeningMessage();
   menuTools.Hide();
   MenuPlot.Hide();

@@ -10,6 +10,7 @@
 #include "compliance/compliance_tests.h"
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
+#include "navigation/series_step.h"
 #include "plots/density_view.h"
 #include "plots/plot_form.h"
 #include "plots/verdeling_form.h"
@@ -47,6 +48,7 @@ struct Program::Parts {
   const std::vector<std::string> coefficientFolders;
   Record record;
   const ExposureSession& session = record.Now();
+  navigation::Steps steps{record, ports.history};
   BasisForm basis;
   rawdata::DataCtrlForm dataCtrl;
   limits::GrenzenForm grenzen;
@@ -82,6 +84,16 @@ struct Program::Parts {
   bool NothingTyped() const {
     const std::vector<double> series = Series();
     return std::none_of(series.begin(), series.end(), [](double c) { return c > 0; });
+  }
+
+  void OfferSteps() const {
+    for (navigation::SessionForm* form : forms) form->OfferSteps();
+  }
+
+  // Where the series can be looked at on this screen.
+  bool Stands(const navigation::SessionForm& form) const {
+    return form.id == ScreenId::Basis || form.id == ScreenId::DataCtrl ||
+           workflow::GateOpen(session, ScreenId::DataCtrl, form.id);
   }
 
   void StartExtrapolation(Extrapolation tag) {
@@ -140,6 +152,7 @@ void Program::Start() {
   step([&] { StatFWinBAS::LoadCoefficients(p.coefficientFolders); });
   step([&] { p.basis.Load(); });
   step([&] { p.basis.EnterOwnTab(); });
+  step([&] { p.OfferSteps(); });
 }
 
 screen::Form& Program::Shown() const { return *parts_->shown; }
@@ -158,6 +171,43 @@ bool Program::Unsaved() const {
 }
 
 void Program::MarkSaved() { parts_->savedSeries = parts_->Series(); }
+
+void Program::Done(const std::string& words, const GivenSeries& before, bool goesOn) {
+  parts_->steps.Done(words, before, goesOn);
+  parts_->OfferSteps();
+}
+
+void Program::Undo() {
+  if (parts_->steps.Undo()) ShowRestored();
+}
+
+void Program::Redo() {
+  if (parts_->steps.Redo()) ShowRestored();
+}
+
+// A screen to which the series has closed the way gives way to the table, where it can be mended.
+// Nothing is checked there as on an arrival: the series has stood before.
+void Program::ShowRestored() {
+  Parts& p = *parts_;
+  auto* form = static_cast<navigation::SessionForm*>(p.shown);
+  if (!p.Stands(*form)) {
+    p.shown = form = &p.dataCtrl;
+    if (onShow) onShow(*form);
+    form->SetFocus(p.dataCtrl.DBGridVkr);
+  }
+  form->Restored();
+  if (form != &p.dataCtrl) p.dataCtrl.Rebind();
+  p.OfferSteps();
+}
+
+std::string Program::ToUndo() const { return parts_->steps.ToUndo(); }
+
+std::string Program::ToRedo() const { return parts_->steps.ToRedo(); }
+
+void Program::ForgetSteps() {
+  parts_->steps.Forget();
+  parts_->OfferSteps();
+}
 
 bool Program::MayUnload() {
   using namespace screen;

@@ -53,11 +53,19 @@ class Program final : public navigation::Desk {
   void ShowPicture() override;
   void ClosePicture() override;
   bool ShowsPicture() const override;
+  void Done(const std::string& words, const GivenSeries& before, bool goesOn) override;
+  void Undo() override;
+  void Redo() override;
+  std::string ToUndo() const override;
+  std::string ToRedo() const override;
+  void ForgetSteps() override;
   bool MayDropSeries() override;
   bool CloseAllData() override;
   void Exit() override;
 
  private:
+  void ShowRestored();
+
   struct Parts;
   std::unique_ptr<Parts> parts_;
 };

@@ -89,6 +89,7 @@ void BasisForm::TakeSeries(const std::string& path, const rawdata::FileValues& f
   flow.GridData.assign(file.values.size(), {});
   if (tellReading) tellReading(&file.notes);
   desk.MarkSaved();
+  desk.ForgetSteps();
   desk.Open(navigation::ScreenId::DataCtrl);
 }
 

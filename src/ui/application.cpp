@@ -9,6 +9,7 @@
 #include "ui/picture_font.h"
 #include "ui/splash.h"
 #include "ui/text.h"
+#include "ui/undo_history.h"
 #include "ui/vector_registers.h"
 
 namespace ui {
@@ -76,7 +77,7 @@ struct Application::Parts {
   explicit Parts(const Surroundings& around)
       : box(around.messageBox),
         fileDialog(around.fileDialog),
-        ports{box, fileDialog, surface, around.clock, pictureFile, around.printer},
+        ports{box, fileDialog, surface, around.clock, pictureFile, around.printer, history},
         program(ports, DataFolders()) {
     window = std::make_unique<MainWindow>(program, ports);
     surface.SetWindow(window.get());
@@ -87,6 +88,7 @@ struct Application::Parts {
   FileDialogOverWindow fileDialog;
   WindowSurface surface;
   PictureFile pictureFile;
+  UndoHistory history;
   screen::Ports ports;
   start::Program program;
   std::unique_ptr<MainWindow> window;

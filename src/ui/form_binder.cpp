@@ -97,6 +97,10 @@ void FormBinder::Connect(ControlView& view) {
 void FormBinder::ConnectAction(ControlView& view) {
   QAction* action = view.Action();
   if (action->menu()) return;
+  // The designer knows one key to an item.
+  if (view.Control().name == "MenuRedo")
+    action->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
   connect(action, &QAction::triggered, this, [this, &view] { TriggerMenu(view.Control()); });
 }
 
@@ -114,6 +118,7 @@ void FormBinder::ConnectList(ControlView& view) {
   auto* box = qobject_cast<QComboBox*>(view.Widget());
   box->setCompleter(nullptr);
   box->setFocusPolicy(Qt::StrongFocus);
+  box->lineEdit()->installEventFilter(this);
   connect(box->lineEdit(), &QLineEdit::textEdited, this,
           [&view](const QString& t) { view.Typed(t); });
   connect(box->lineEdit(), &QLineEdit::returnPressed, this, [this, &view] { Enter(view); });
@@ -209,6 +214,21 @@ bool FormBinder::StepKey(const Control& field, int key) {
   return false;
 }
 
+// In a field in which something is being typed, the keys of undo and redo are the field's own.
+bool FormBinder::LeavesStepsToMenu(const QWidget* widget, const QEvent& event) const {
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  const QKeySequence pressed(key.keyCombination());
+  const bool steps = StepKeys(QStringLiteral("MenuUndo")).contains(pressed) ||
+                     StepKeys(QStringLiteral("MenuRedo")).contains(pressed);
+  const Control* field = steps ? ControlOf(widget) : nullptr;
+  return field && !field->touched;
+}
+
+QList<QKeySequence> FormBinder::StepKeys(const QString& item) const {
+  const QAction* action = page_.FindAction(item);
+  return action ? action->shortcuts() : QList<QKeySequence>();
+}
+
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   auto* widget = qobject_cast<QWidget*>(watched);
   // The wheel turns the page, not the list that happens to lie under the pointer.
@@ -216,7 +236,14 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
     event->ignore();
     return true;
   }
+  if (event->type() == QEvent::ShortcutOverride && LeavesStepsToMenu(widget, *event)) {
+    event->ignore();
+    return true;
+  }
   const auto view = byWidget_.find(widget);
+  // A press on a bar begins another movement.
+  if (event->type() == QEvent::MouseButtonPress && view != byWidget_.end())
+    view->second->Control().held = false;
   if (event->type() == QEvent::Resize && view != byWidget_.end()) view->second->PushTip();
   if (event->type() != QEvent::KeyPress) return false;
   gate_.RunLate();

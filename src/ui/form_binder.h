@@ -65,6 +65,8 @@ class FormBinder : public QObject {
   bool TabOut(screen::Control& control, const QKeyEvent& event);
   void Tick(const screen::Control& ticked, bool on);
   void Step(const screen::Handler& handler);
+  bool LeavesStepsToMenu(const QWidget* widget, const QEvent& event) const;
+  QList<QKeySequence> StepKeys(const QString& item) const;
   void TriggerMenu(const screen::Control& menu);
   bool StepKey(const screen::Control& control, int key);
   // Runs `handler` after everything that the user did before.

@@ -26,7 +26,13 @@ void FormBinder::ConnectBar(ControlView& view) {
   auto* bar = qobject_cast<QScrollBar*>(view.Widget());
   connect(bar, &QScrollBar::valueChanged, this, [this, &view, bar](int value) {
     view.Scrolled(value);
-    Act(view.Control().Change);
+    const auto isHeld = [bar] {
+      return bar->isSliderDown() || QGuiApplication::mouseButtons() != Qt::NoButton;
+    };
+    screen::Control& control = view.Control();
+    control.held = control.held && isHeld();
+    Act(control.Change);
+    control.held = isHeld();
     if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
     QMetaObject::invokeMethod(
         bar, [bar] { Release(*bar); }, Qt::QueuedConnection);

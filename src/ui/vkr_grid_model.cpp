@@ -75,8 +75,8 @@ bool VkrGridModel::setData(const QModelIndex& index, const QVariant& value, int 
 void VkrGridModel::Write(int row, int column, const std::string& text) {
   if (row >= grid_.rowCount)
     grid_.AddRow(text);
-  else if (grid_.Write(row, column, text))
-    grid_.CommitRow();
+  else
+    grid_.Write(row, column, text);
 }
 
 void VkrGridModel::Refresh() {

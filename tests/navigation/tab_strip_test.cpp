@@ -62,7 +62,6 @@ TEST(TabStrip, AnUnfilledTableOffersTheLimitsButNoStatistics) {
   user.Record().OELV.reset();
   user.Click("CmdContinu");
   user.Record().OELV.reset();
-  static_cast<screen::Grid&>(user.At("DBGridVkr")).CommitRow();
   EXPECT_THAT(user.TabKeys(), ElementsAre("basis", "raw", "grenzen"));
   EXPECT_FALSE(user.At("MenuPlot").visible);
 }

@@ -22,7 +22,6 @@ rawdata::DataCtrlForm& DataControl(ProgramSession& user) {
 void Edit(ProgramSession& user, int row, const std::string& text) {
   screen::Grid& grid = DataControl(user).DBGridVkr;
   ASSERT_TRUE(grid.Write(row, 2, text));
-  grid.CommitRow();
 }
 
 // The table of a new series of `rows` outcomes.

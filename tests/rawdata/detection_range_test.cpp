@@ -185,7 +185,6 @@ TEST(DetectionRange, AfterAnEditTheOutcomesWithinItAreCountedAnew) {
   user.Type("DetecUTxb", "6.5");
   screen::Grid& grid = DataControl(user).DBGridVkr;
   ASSERT_TRUE(grid.Write(0, 2, "5.5"));
-  grid.CommitRow();
   EXPECT_EQ(user.Record().FirstInRange, 2);
   EXPECT_EQ(user.Record().LastInRange, 6);
   EXPECT_EQ(user.Record().NInRange, 5);

@@ -173,7 +173,6 @@ TEST(DeletedRow, AnUnfilledOneCompletesTheSeries) {
   ProgramSession user;
   OpenTable(user, "3");
   for (int row : {0, 1}) ASSERT_TRUE(GridOf(user).Write(row, 2, row == 0 ? "4" : "2"));
-  GridOf(user).CommitRow();
   EXPECT_TRUE(user.Record().RawIncomplete);
   GridOf(user).DeleteRows({2});
   EXPECT_FALSE(user.Record().RawIncomplete);

@@ -12,7 +12,6 @@ using support::ProgramSession;
 void Edit(ProgramSession& user, int row, const std::string& text) {
   auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
   ASSERT_TRUE(grid.Write(row, 2, text));
-  grid.CommitRow();
 }
 
 void ExpectClosedWith(ProgramSession& user, int text) {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "screen/form.h"
+#include "tests/support/plain_history.h"
 
 // Ports that keep what was asked of them.
 namespace recording {
@@ -46,7 +47,8 @@ struct Ports {
   Clock clock;
   PictureFile pictureFile;
   Printer printer;
-  screen::Ports ports{messageBox, fileDialog, surface, clock, pictureFile, printer};
+  support::PlainHistory history;
+  screen::Ports ports{messageBox, fileDialog, surface, clock, pictureFile, printer, history};
 };
 
 }  // namespace recording

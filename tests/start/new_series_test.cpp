@@ -93,7 +93,6 @@ TEST(NewSeries, TypedToTheEndItHasStatisticsAndGoesByItsName) {
   for (const auto& [row, text] : {std::pair{0, "4"}, {1, "1"}, {2, "2"}}) {
     EXPECT_TRUE(user.Record().RawIncomplete);
     ASSERT_TRUE(grid.Write(row, 2, text));
-    grid.CommitRow();
   }
   EXPECT_FALSE(user.Record().RawIncomplete);
   EXPECT_TRUE(user.Record().DescOk);

@@ -8,6 +8,7 @@
 #include "drawing/drawing.h"
 #include "screen/ports.h"
 #include "start/program.h"
+#include "tests/support/plain_history.h"
 
 namespace support {
 
@@ -79,7 +80,8 @@ struct RecordingPorts {
   FixedClock clock;
   RecordingPictures pictures;
   RecordingPrinter printer;
-  screen::Ports ports{box, dialog, surface, clock, pictures, printer};
+  PlainHistory history;
+  screen::Ports ports{box, dialog, surface, clock, pictures, printer, history};
 };
 
 // The whole program without a window, and the user's hands: what a binder does with the events of

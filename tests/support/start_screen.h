@@ -27,7 +27,6 @@ inline void OpenAndReturn(ProgramSession& user) {
 inline void EditOutcome(ProgramSession& user, int row, const std::string& text) {
   auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
   ASSERT_TRUE(grid.Write(row, 2, text));
-  grid.CommitRow();
 }
 
 // A new series whose table is still empty.
