@@ -7,8 +7,10 @@ namespace {
 
 bool IsSize(double M) { return M >= 2 && M <= kMaxSampleSize; }
 
-// Whose estimates are in force follows the screens: that alone is nothing that a user has done.
+// Whose estimates are in force follows the screens, and so does the count of a range that was
+// refused: these alone are nothing that a user has done.
 bool SameSeries(GivenSeries a, const GivenSeries& b) {
+  a.NInRange = b.NInRange;
   a.inForce = b.inForce;
   a.regression = b.regression;
   return a == b;

@@ -166,6 +166,16 @@ TEST(Undo, AnEntryThatChangesNothingIsNoStep) {
   EXPECT_EQ(user.Text("MenuUndo"), "&Undo detection range on");
 }
 
+// The count of a range that was refused is put right by whatever comes next.
+TEST(Undo, ADeletionOfNothingIsNoStep) {
+  ProgramSession user;
+  user.OpenSeries({0.31, 0.5});
+  user.Click("DetecChB");
+  user.Type("DetecUTxb", "0.5");
+  GridOf(user).DeleteRows({0, 1});
+  EXPECT_EQ(user.Text("MenuUndo"), "&Undo URR 0.5");
+}
+
 TEST(Undo, ANewEditEndsWhatCouldBeDoneAgain) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4, 8});
