@@ -70,6 +70,8 @@ void Generator::OfferWays(std::vector<Offer>& offers) {
                                                                      "1000 900", "820 640"};
                       return Line("size " + random_.Pick(sizes));
                     }});
+  offers.push_back({6, "MenuUndo", [this] { return Line("undo"); }});
+  offers.push_back({6, "MenuRedo", [this] { return Line("redo"); }});
   offers.push_back({2, "", [this] {
                       static const std::vector<std::string> keys = {"Tab", "Shift+Tab"};
                       return Line("key " + random_.Pick(keys));
@@ -83,7 +85,7 @@ void Generator::OfferMenus(std::vector<Offer>& offers) {
     const std::string& name = control->name;
     // These need a file, or what another program has put on the clipboard.
     if (name == "menuopen" || name == "MenuSave" || name == "menuSavePicture" ||
-        name == "MenuPaste")
+        name == "MenuPaste" || name == "MenuUndo" || name == "MenuRedo")
       continue;
     const bool rare =
         name == "MenuExit" || name == "Menuclose" || name == "MenuLand" || name == "MenuDevMode";

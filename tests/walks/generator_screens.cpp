@@ -93,6 +93,9 @@ void Generator::OfferEdits(std::vector<Offer>& offers) {
   offers.push_back({3, "DBGridVkr", [this] { return Line(LineWith("addrow", Outcome())); }});
   offers.push_back({4, "DBGridVkr", [this, row] { return Line("delrow " + row(0)); }});
   offers.push_back({3, "DBGridVkr", [this] { return PasteRows(); }});
+  offers.push_back({2, "DBGridVkr", [this, row] {
+                      return Step{{"select " + row(1) + " " + row(1), "key Delete"}};
+                    }});
 }
 
 // Mostly numbers; now and then one that is none, or a column of equal ones.
@@ -124,6 +127,13 @@ void Generator::OfferPlot(std::vector<Offer>& offers) {
     offers.push_back({12, bar, [this, bar] {
                         return Line(std::string("bar ") + bar + " " +
                                     drive::IntText(random_.Below(101)));
+                      }});
+  for (const char* bar : {"VScLowLimit", "VScUplimit"})
+    offers.push_back({3, bar, [this, bar] {
+                        std::string line = std::string("drag ") + bar;
+                        for (int i = 0; i < 3; ++i)
+                          line += " " + drive::IntText(random_.Below(101));
+                        return Line(line);
                       }});
   offers.push_back({5, "", [this] {
                       return Line("plotclick 0." + drive::IntText(1 + random_.Below(9)) + " 0." +

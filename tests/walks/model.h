@@ -11,6 +11,7 @@
 #include "tests/walks/seen.h"
 #include "tests/walks/series.h"
 #include "tests/walks/step.h"
+#include "tests/walks/steps.h"
 
 namespace walks {
 
@@ -35,6 +36,8 @@ struct Scene {
   int Stepped(const std::string& field) const;
   bool Clicked(const std::string& name) const;
   bool Chosen(const std::string& menu) const;
+  // The user takes a step back, or does it again.
+  bool StepsBack() const;
 };
 
 // The tolerance limit of the last test, and what it rests on.
@@ -78,6 +81,9 @@ class Model {
   void TakeSeries(const Seen& after);
   void CheckDigits(const Scene& scene);
 
+  // model_steps.cpp
+  bool FollowSteps(const Scene& scene);
+
   // model_estimates.cpp
   void AdvanceEstimates(const Scene& scene);
   void FollowModify(const Scene& scene);
@@ -98,6 +104,7 @@ class Model {
   void AdvanceClose(const Scene& scene);
 
   Folder& folder_;
+  StepList steps_;
   Outcomes outcomes_;  // all elements, those beyond M included, in the record's order
   Outcomes series_;
   bool complete_ = false;

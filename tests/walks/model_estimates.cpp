@@ -130,7 +130,10 @@ void Model::FollowForce(const Scene& scene) {
   const bool onRaw = scene.On("DataCtrlForm");
   std::string text;
   if (force_.empty() || force_.contains(Typed)) force_ = {Whole, ByRange};
+  // What was in force then is so again.
+  if (scene.StepsBack()) force_ = {Whole, ByRange, Line};
   if (after.form == "PlotForm") return FollowPlot(scene);
+  if (scene.StepsBack()) return;
   const bool edited = onRaw && (edited_ || scene.Clicked("DetecChB") ||
                                 scene.Typed("DetecLTxb", text) || scene.Typed("DetecUTxb", text));
   const bool resized =

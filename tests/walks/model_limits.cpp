@@ -20,7 +20,8 @@ bool OnRange(const Scene& scene) {
   std::string text;
   const std::string command = scene.step.Command();
   return scene.Typed("DetecLTxb", text) || scene.Typed("DetecUTxb", text) || command == "bar" ||
-         command == "plotclick" || command == "key" || !scene.step.boxes.empty();
+         command == "drag" || command == "plotclick" || command == "key" ||
+         !scene.step.boxes.empty();
 }
 
 // What the checks of both limits make of those of before for another series.
@@ -112,7 +113,7 @@ double GivenReference(const Scene& scene, const ReferenceRule& rule) {
 // Which outcomes lie in range follows from the limits; only a refused limit leaves both at odds.
 void Model::AdvanceRange(const Scene& scene) {
   const Seen& after = scene.after;
-  if (!complete_ || after.ModifyMode || after.Count() == 0) return;
+  if (!complete_ || after.ModifyMode || after.Count() == 0 || scene.StepsBack()) return;
   const Range held = RangeOf(after);
   // Fewer than two are refused, and their count is told all the same.
   if (after.NInRange != held.Count() && after.NInRange >= 2)

@@ -41,10 +41,20 @@ std::vector<std::string> Lines(const std::string& text) {
   return lines;
 }
 
+// Of `select FIRST LAST`, counted from 0.
+std::vector<int> SelectedRows(std::string line) {
+  drive::TakeWord(line);
+  const int one = drive::IntOf(drive::TakeWord(line));
+  const int other = drive::IntOf(line);
+  std::vector<int> rows;
+  for (int row = std::min(one, other); row <= std::max(one, other); ++row) rows.push_back(row - 1);
+  return rows;
+}
+
 }  // namespace
 
 void Model::AdvanceSeries(const Scene& scene) {
-  edited_ = false;
+  edited_ = FollowSteps(scene);
   if (scene.On("DataCtrlForm") && !scene.before.ModifyMode) Edited(scene);
   if (scene.Chosen("menuopen")) Opened(scene);
   if (scene.Chosen("MenuSave") && scene.step.asked && !scene.step.file.empty()) {
@@ -74,6 +84,8 @@ void Model::Edited(const Scene& scene) {
   if (command == "addrow") Append(drive::TextArgument(rest), count);
   if (command == "delrow") Delete({drive::IntOf(rest) - 1}, count);
   if (scene.Chosen("MenuDeleteRow")) Delete(scene.before.gridRows, count);
+  if (command == "key" && rest == "Delete" && scene.step.lines.size() == 2)
+    Delete(SelectedRows(scene.step.lines.front()), count);
   if (command == "cell") {
     const int row = drive::IntOf(drive::TakeWord(rest));
     SetCell(row, drive::TextArgument(rest), count);
@@ -131,6 +143,7 @@ void Model::Paste(int row, const std::string& text, int count) {
 // M as the step leaves it.
 double Model::ExpectedSize(const Scene& scene) const {
   const double old = scene.before.M;
+  if (scene.StepsBack()) return scene.after.M;
   std::string text;
   if (scene.On("BasisForm") && scene.Typed("SampSizTxB", text)) {
     const double typed = TypedNumber(text);
