@@ -132,6 +132,22 @@ constexpr Row kRows[] = {
     {Own::ReferenceTooLarge, "A Sample size M of more than thirty thousand is too large"},
     {Own::StepUp, "One step up"},
     {Own::StepDown, "One step down"},
+    {Own::TypedNotKept, "What was typed is not kept in any file."},
+    {Own::ChangesNotSaved, "Changes of this series are not saved."},
+    {Own::SaveChanges, "Save the changes of {0}?"},
+    {Own::DontSave, "Do&n't save"},
+    {Own::IncompleteNotSaved,
+     "A series with empty rows can't be saved. Fill these rows or delete them."},
+    {Own::AllowedRange, "Allowed: {0} to {1}."},
+    {Own::NowStands, "{0} now stands."},
+    {Own::NothingStands, "No valid value stands now."},
+    {Own::NoNameStands, "No name stands now."},
+    {Own::NoTabsWithoutName, "There are no tabs here: the data have no name."},
+    {Own::NoTabsWithoutSize,
+     "There are no tabs here: the sample size is no whole number from 2 to 2000."},
+    {Own::NoTabsForGM, "There are no tabs here: GM {0} lies outside 0.0001 to 10000."},
+    {Own::NoTabsForGSD, "There are no tabs here: GSD {0} lies outside 1.001 to 1000."},
+    {Own::ContinueToRawData, "Continue leads to the raw data, and from there to the others."},
 };
 
 }  // namespace

@@ -105,6 +105,20 @@ enum class Own {
   ReferenceTooLarge,
   StepUp,
   StepDown,
+  TypedNotKept,
+  ChangesNotSaved,
+  SaveChanges,
+  DontSave,
+  IncompleteNotSaved,
+  AllowedRange,
+  NowStands,
+  NothingStands,
+  NoNameStands,
+  NoTabsWithoutName,
+  NoTabsWithoutSize,
+  NoTabsForGM,
+  NoTabsForGSD,
+  ContinueToRawData,
 };
 
 const char* OwnText(Own id);

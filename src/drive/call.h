@@ -43,8 +43,9 @@ class Call {
     return words_[i] == "empty" ? std::nullopt : std::optional(Number(i));
   }
   GlobalBAS::Notify Notify() {
-    return [this](const std::string& text, const std::string& title) {
-      messageBox_.Show({text, title, screen::Icon::Exclamation});
+    return [this](const GlobalBAS::Complaint& complaint) {
+      messageBox_.Show({complaint.text, complaint.title, screen::Icon::Exclamation,
+                        screen::Buttons::Ok, screen::Answer::Ok, complaint.advice});
     };
   }
 

@@ -148,6 +148,13 @@ void ExpectNoBox(Play& play, std::string) {
   if (!boxes.empty()) throw Failure("met " + Line(boxes.front()));
 }
 
+void Advice(Play& play, std::string) { play.Say("advice = " + Quoted(play.boxes.Advice())); }
+
+void ExpectAdvice(Play& play, std::string rest) {
+  const std::string& advice = play.boxes.Advice();
+  if (advice != TextArgument(rest)) throw Failure("the last box advised " + Quoted(advice));
+}
+
 void Printed(Play& play, std::string) {
   for (const std::string& line : play.printer.Take()) play.Say("printed " + Quoted(line));
 }
@@ -196,6 +203,8 @@ const CommandTable& AnswerCommands() {
       {"box", Box},
       {"expect-box", ExpectBox},
       {"expect-no-box", ExpectNoBox},
+      {"advice", Advice},
+      {"expect-advice", ExpectAdvice},
       {"printed", Printed},
       {"dump", Dump},
   };

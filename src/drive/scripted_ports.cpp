@@ -22,6 +22,10 @@ const char* Name(Answer answer) {
       return "yes";
     case Answer::No:
       return "no";
+    case Answer::Save:
+      return "save";
+    case Answer::Discard:
+      return "discard";
   }
   return "?";
 }
@@ -36,6 +40,8 @@ const char* Name(Buttons buttons) {
       return "yes-no";
     case Buttons::YesNoCancel:
       return "yes-no-cancel";
+    case Buttons::SaveDiscardCancel:
+      return "save-discard-cancel";
   }
   return "?";
 }
@@ -59,10 +65,14 @@ bool Offers(Buttons buttons, Answer answer) {
     case Answer::Ok:
       return buttons == Buttons::Ok || buttons == Buttons::OkCancel;
     case Answer::Cancel:
-      return buttons == Buttons::OkCancel || buttons == Buttons::YesNoCancel;
+      return buttons == Buttons::OkCancel || buttons == Buttons::YesNoCancel ||
+             buttons == Buttons::SaveDiscardCancel;
     case Answer::Yes:
     case Answer::No:
       return buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel;
+    case Answer::Save:
+    case Answer::Discard:
+      return buttons == Buttons::SaveDiscardCancel;
   }
   return false;
 }
@@ -82,6 +92,7 @@ Answer ScriptedMessageBox::Show(const screen::Message& message) {
     }
   }
   shown_.push_back({message, answer});
+  advice_ = message.advice;
   return answer;
 }
 
@@ -107,7 +118,8 @@ bool ScriptedPrinter::PrintPage(const drawing::DrawingRecord& drawing) {
 std::vector<std::string> ScriptedPrinter::Take() { return std::exchange(lines_, {}); }
 
 Answer AnswerByName(const std::string& name) {
-  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
+  for (const Answer answer :
+       {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No, Answer::Save, Answer::Discard})
     if (name == Name(answer)) return answer;
   throw Failure("no such answer: " + Quoted(name));
 }

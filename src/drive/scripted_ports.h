@@ -22,12 +22,15 @@ class ScriptedMessageBox final : public screen::MessageBox {
 
   // The boxes since the last call.
   std::vector<Shown> Take();
+  // What stood below the text of the last box.
+  const std::string& Advice() const { return advice_; }
   // Why a queued answer could not be given since the last call; empty when all could.
   std::string TakeTrouble();
 
  private:
   std::deque<screen::Answer> queue_;
   std::vector<Shown> shown_;
+  std::string advice_;
   std::string trouble_;
 };
 

@@ -104,7 +104,9 @@ GlobalBAS::Entry SessionForm::EntryOf(const screen::Control& field) const {
 }
 
 GlobalBAS::Notify SessionForm::Notifier() {
-  return [this](const std::string& text, const std::string& title) { Complain(text, title); };
+  return [this](const GlobalBAS::Complaint& complaint) {
+    Complain(complaint.text, complaint.title, complaint.advice);
+  };
 }
 
 std::string RegressionWords(const ExposureSession& session, const std::string& estimate) {

@@ -36,8 +36,8 @@ Control* Form::Find(const std::string& controlName) const {
 
 void Form::Refresh() { ports.surface.Repaint(*this); }
 
-void Form::Complain(const std::string& text, const std::string& title) {
-  ports.messageBox.Show({text, title, Icon::Exclamation});
+void Form::Complain(const std::string& text, const std::string& title, const std::string& advice) {
+  ports.messageBox.Show({text, title, Icon::Exclamation, Buttons::Ok, Answer::Ok, advice});
 }
 
 void Guarded(Ports& ports, const Handler& handler) {

@@ -37,7 +37,7 @@ struct Form {
   void Refresh();
 
   // A message box with the exclamation icon and one OK button.
-  void Complain(const std::string& text, const std::string& title);
+  void Complain(const std::string& text, const std::string& title, const std::string& advice = {});
 };
 
 // A small window beside the main one, which tells of work in progress: it is never the shown

@@ -14,8 +14,8 @@ struct Control;
 struct Form;
 
 enum class Icon { None, Exclamation, Question, Information };
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
-enum class Answer { Ok, Cancel, Yes, No };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, SaveDiscardCancel };
+enum class Answer { Ok, Cancel, Yes, No, Save, Discard };
 
 struct Message {
   std::string text;
@@ -23,6 +23,7 @@ struct Message {
   Icon icon = Icon::None;
   Buttons buttons = Buttons::Ok;
   Answer defaultAnswer = Answer::Ok;
+  std::string advice = {};  // told below the text: what is at stake, or what can be entered
 };
 
 class MessageBox {

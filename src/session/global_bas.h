@@ -11,8 +11,20 @@
 // becomes a text. Every numeric field of every screen goes through these routines.
 namespace GlobalBAS {
 
-// Shows `text` under `title` with the exclamation icon and one OK button.
-using Notify = std::function<void(const std::string& text, const std::string& title)>;
+// What a validator has to say: what is wrong, in which field, and below it what can be entered and
+// what now stands.
+struct Complaint {
+  std::string text;
+  std::string title;
+  std::string advice;
+};
+// Shows a complaint with the exclamation icon and one OK button.
+using Notify = std::function<void(const Complaint& complaint)>;
+
+// What takes the place of a limit that is missing.
+inline constexpr double kDefaultOELV = 1;
+inline constexpr double kDefaultU = 95;
+inline constexpr double kDefaultD = 70;
 
 // What a field hands to its validator: the text that the user typed, or, when the field was left
 // untouched, the value it stands for (so that looking at a rounded text never changes a value).
@@ -42,7 +54,8 @@ void CheckGM(Workflow& s, const Entry& entry, double& value, const Notify& notif
 void CheckGSD(Workflow& s, const Entry& entry, double& value, const Notify& notify);
 void CheckM(Workflow& s, const Entry& entry, double& value, const Notify& notify);
 void CheckMRef(Workflow& s, const Entry& entry, double& value, const Notify& notify);
-// `text` is the text of the name field; `name` the record's name, changed in place.
+// `text` is the text of the name field; `name` the record's name, changed in place. A name begins
+// with a letter, or as the one does that it takes the place of: a file's path may begin otherwise.
 void CheckName(Workflow& s, const std::string& text, std::string& name, const Notify& notify);
 
 bool InRangeOELV(const std::optional<double>& value);

@@ -6,9 +6,6 @@ namespace {
 
 constexpr int kEightHours = 334;
 constexpr double kLeastPercent = 0.01;
-constexpr double kDefaultU = 95;
-constexpr double kDefaultD = 70;
-constexpr double kDefaultOELV = 1;
 
 }  // namespace
 

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -23,16 +26,17 @@ struct Bounds {
   int tooSmall;
   int tooLarge;
   int hint;
+  std::optional<double> standIn = {};  // what stands where nothing valid does
 };
 
 constexpr int kReferenceTooLarge = 381;  // the one text that is ours and not the catalogue's
 
-constexpr Bounds kU = {0.01, 99.99, true, 2120, 2125, 2130, 2135};
-constexpr Bounds kD = {0.01, 99.99, true, 2140, 2145, 2150, 2155};
+constexpr Bounds kU = {0.01, 99.99, true, 2120, 2125, 2130, 2135, kDefaultU};
+constexpr Bounds kD = {0.01, 99.99, true, 2140, 2145, 2150, 2155, kDefaultD};
 // GM keeps a refused value and relies on StatusFlags to mark it; GSD is pulled to its limit.
 constexpr Bounds kGM = {0.0001, 10000, false, 770, 775, 780, 785};
 constexpr Bounds kGSD = {1.001, 1000, true, 790, 795, 800, 805};
-constexpr Bounds kOELV = {1E-10, 1E+10, true, 810, 815, 820, 825};
+constexpr Bounds kOELV = {1E-10, 1E+10, true, 810, 815, 820, 825, kDefaultOELV};
 constexpr Bounds kM = {2, 2000, false, 370, 375, 380, 385};
 constexpr Bounds kMRef = {2, 30000, true, 370, 375, kReferenceTooLarge, 385};
 
@@ -47,8 +51,34 @@ void Begin(Workflow& s, const Bounds& limits) {
   s.InputState = kAccepted;
 }
 
-void Complain(Workflow& s, const Notify& notify) {
-  if (s.InputState > kAccepted) notify(s.MsgText, s.MsgTitle);
+bool Within(double value, const Bounds& limits) {
+  return value >= limits.lower && value <= limits.upper;
+}
+
+// 0.01 with its zero, but 1E-10 and 1E+10 without ten of them.
+std::string AdviceNumber(double value) {
+  constexpr double kManyZeros = 1E-4;
+  constexpr double kManyDigits = 1E+6;
+  if (value >= kManyZeros && value < kManyDigits) return FileText(value);
+  std::array<char, 32> digits{};
+  const auto end =
+      std::to_chars(digits.begin(), digits.end(), value, std::chars_format::scientific);
+  std::string text(digits.begin(), end.ptr);
+  std::ranges::replace(text, 'e', 'E');
+  return text;
+}
+
+// What can be entered, and what stands once the entry has been refused.
+std::string AdviceOf(const Bounds& limits, double value) {
+  const std::optional<double> stands =
+      Within(value, limits) ? std::optional(value) : limits.standIn;
+  return OwnText(Own::AllowedRange, {AdviceNumber(limits.lower), AdviceNumber(limits.upper)}) +
+         " " +
+         (stands ? OwnText(Own::NowStands, {AdviceNumber(*stands)}) : OwnText(Own::NothingStands));
+}
+
+void Complain(const Workflow& s, const std::string& advice, const Notify& notify) {
+  if (s.InputState > kAccepted) notify({s.MsgText, s.MsgTitle, advice});
 }
 
 void CheckLimits(Workflow& s, const Bounds& limits, double& value) {
@@ -91,14 +121,15 @@ void Check(Workflow& s, const Bounds& limits, const Entry& entry, double& value,
     JudgeValue(s, limits, value, whole);
   }
   if (s.InputState == kEmpty || s.InputState == kZero) s.MsgText = LoadResString(limits.hint);
-  Complain(s, notify);
+  Complain(s, AdviceOf(limits, value), notify);
+}
+
+bool BeginsWithLetter(const std::string& text) {
+  const char first = text.front();
+  return (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
 }
 
 Entry Trimmed(const Entry& entry) { return {Trim(entry.text), entry.touched}; }
-
-bool Within(double value, const Bounds& limits) {
-  return value >= limits.lower && value <= limits.upper;
-}
 
 }  // namespace
 
@@ -134,9 +165,10 @@ void CheckM(Workflow& s, const Entry& entry, double& value, const Notify& notify
 void CheckMRef(Workflow& s, const Entry& entry, double& value, const Notify& notify) {
   const Entry trimmed = Trimmed(entry);
   if (trimmed.text.empty()) return;
-  const Notify afterPull = [&](const std::string& text, const std::string& title) {
+  const Notify afterPull = [&](Complaint complaint) {
     if (s.InputState == kZero) value = kMRef.lower;
-    notify(text, title);
+    complaint.advice = AdviceOf(kMRef, value);
+    notify(complaint);
   };
   Check(s, kMRef, trimmed, value, true, afterPull);
 }
@@ -151,15 +183,14 @@ void CheckName(Workflow& s, const std::string& text, std::string& name, const No
     s.InputState = kEmpty;
     s.MsgText = LoadResString(401);
   } else {
-    const char first = trimmed.front();
-    const bool letter = (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
-    if (!letter) {
+    const bool asBefore = !name.empty() && name.front() == trimmed.front();
+    if (!asBefore && !BeginsWithLetter(trimmed)) {
       s.InputState = kZero;
       s.MsgText = LoadResString(390);
     }
   }
   name = s.InputState > kAccepted ? std::string() : trimmed;
-  Complain(s, notify);
+  Complain(s, OwnText(Own::NoNameStands), notify);
 }
 
 bool InRangeOELV(const std::optional<double>& value) { return value && Within(*value, kOELV); }

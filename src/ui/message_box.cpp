@@ -1,8 +1,13 @@
 #include "ui/message_box.h"
 
 #include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 
+#include "catalog/own_texts.h"
 #include "ui/text.h"
 
 namespace ui {
@@ -30,6 +35,8 @@ QMessageBox::StandardButtons ButtonsOf(screen::Buttons buttons) {
       return QMessageBox::Yes | QMessageBox::No;
     case screen::Buttons::YesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case screen::Buttons::SaveDiscardCancel:
+      return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     case screen::Buttons::Ok:
       break;
   }
@@ -44,6 +51,10 @@ QMessageBox::StandardButton ButtonOf(screen::Answer answer) {
       return QMessageBox::Yes;
     case screen::Answer::No:
       return QMessageBox::No;
+    case screen::Answer::Save:
+      return QMessageBox::Save;
+    case screen::Answer::Discard:
+      return QMessageBox::Discard;
     case screen::Answer::Ok:
       break;
   }
@@ -58,6 +69,10 @@ screen::Answer AnswerOf(int button) {
       return screen::Answer::Yes;
     case QMessageBox::No:
       return screen::Answer::No;
+    case QMessageBox::Save:
+      return screen::Answer::Save;
+    case QMessageBox::Discard:
+      return screen::Answer::Discard;
     default:
       return screen::Answer::Ok;
   }
@@ -68,6 +83,7 @@ QMessageBox::StandardButton EscapeOf(screen::Buttons buttons) {
   switch (buttons) {
     case screen::Buttons::OkCancel:
     case screen::Buttons::YesNoCancel:
+    case screen::Buttons::SaveDiscardCancel:
       return QMessageBox::Cancel;
     case screen::Buttons::YesNo:
       return QMessageBox::No;
@@ -77,17 +93,51 @@ QMessageBox::StandardButton EscapeOf(screen::Buttons buttons) {
   return QMessageBox::Ok;
 }
 
+// A complaint names what it is about once more above its text: the title bar of a small window may
+// be cut, and some desktops show none.
+void Fill(QMessageBox& box, const screen::Message& message) {
+  const QString text = Lines(message.text);
+  const QString advice = Lines(message.advice);
+  if (message.icon != screen::Icon::Exclamation) {
+    box.setText(text);
+    box.setInformativeText(advice);
+    return;
+  }
+  box.setText(box.windowTitle());
+  box.setInformativeText(advice.isEmpty() ? text : text + QStringLiteral("\n\n") + advice);
+  auto* heading = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (!heading) return;
+  QFont font = heading->font();
+  font.setBold(true);
+  heading->setFont(font);
+}
+
+// At least as wide as its title, with the icon and the button that stand in a title bar.
+void Widen(QMessageBox& box) {
+  constexpr int kBesideTitle = 120;
+  QFont font = QApplication::font("QMdiSubWindowTitleBar");
+  font.setBold(true);
+  const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + kBesideTitle;
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (!grid) return;
+  auto* space = new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+  grid->addItem(space, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 screen::Answer MessageBox::Show(const screen::Message& message) {
   QMessageBox box(QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
-  box.setText(Lines(message.text));
   box.setWindowTitle(Lines(message.title).simplified());
+  Fill(box, message);
   box.setIcon(IconOf(message.icon));
   box.setStandardButtons(ButtonsOf(message.buttons));
   box.setDefaultButton(ButtonOf(message.defaultAnswer));
   box.setEscapeButton(EscapeOf(message.buttons));
+  if (QAbstractButton* discard = box.button(QMessageBox::Discard))
+    discard->setText(Lines(OwnText(Own::DontSave)));
+  Widen(box);
   return AnswerOf(box.exec());
 }
 

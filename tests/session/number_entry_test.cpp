@@ -13,7 +13,7 @@ constexpr int kSigDigits = 6;
 
 // Runs the validator of `field` on `text` typed over `value`.
 void Enter(ExposureSession& s, const std::string& field, const std::string& text, double& value) {
-  const Notify quiet = [](const std::string&, const std::string&) {};
+  const Notify quiet = [](const Complaint&) {};
   if (field == "U") return CheckU(s, {text}, value, quiet);
   if (field == "D") return CheckD(s, {text}, value, quiet);
   if (field == "GM") return CheckGM(s, {text}, value, quiet);

@@ -27,10 +27,12 @@ struct Field {
   ExposureSession s;
   double value = 0;
   std::vector<Box> boxes;
+  std::string advice;  // of the last box
 
   Notify Port() {
-    return [this](const std::string& text, const std::string& title) {
-      boxes.push_back({text, title});
+    return [this](const Complaint& complaint) {
+      boxes.push_back({complaint.text, complaint.title});
+      advice = complaint.advice;
     };
   }
 
@@ -92,6 +94,50 @@ TEST(Validators, EveryEntryOfTheTableIsJudgedAsItStandsThere) {
     EXPECT_EQ(field.s.InputState, StateOf(row)) << where;
     CheckMessages(row, field, where);
   }
+}
+
+// Below the complaint stands what can be entered, and what the field is left with.
+TEST(Validators, AComplaintTellsTheAllowedRangeAndTheValueThatNowStands) {
+  struct Case {
+    const char* routine;
+    double before;
+    const char* entry;
+    const char* advice;
+  };
+  constexpr Case kCases[] = {
+      {"CheckU", 95, "0.001", "Allowed: 0.01 to 99.99. 0.01 now stands."},
+      {"CheckU", 90, "", "Allowed: 0.01 to 99.99. 90 now stands."},
+      {"CheckU", 90, "abc", "Allowed: 0.01 to 99.99. 95 now stands."},
+      {"CheckD", 80, "0", "Allowed: 0.01 to 99.99. 70 now stands."},
+      {"CheckD", 80, "100", "Allowed: 0.01 to 99.99. 99.99 now stands."},
+      {"CheckOELV", 5, "1e11", "Allowed: 1E-10 to 1E+10. 1E+10 now stands."},
+      {"CheckOELV", 5, "abc", "Allowed: 1E-10 to 1E+10. 1 now stands."},
+      {"CheckGM", 2, "20000", "Allowed: 0.0001 to 10000. No valid value stands now."},
+      {"CheckGM", 2, "", "Allowed: 0.0001 to 10000. 2 now stands."},
+      {"CheckGSD", 2, "1", "Allowed: 1.001 to 1000. 1.001 now stands."},
+      {"CheckGSD", 2, "abc", "Allowed: 1.001 to 1000. No valid value stands now."},
+      {"CheckM", 12, "1", "Allowed: 2 to 2000. No valid value stands now."},
+      {"CheckM", 12, "12.5", "Allowed: 2 to 2000. 12 now stands."},
+      {"CheckMRef", 12, "abc", "Allowed: 2 to 30000. 2 now stands."},
+      {"CheckMRef", 12, "40000", "Allowed: 2 to 30000. 30000 now stands."}};
+  for (const Case& one : kCases) {
+    Field field;
+    field.value = one.before;
+    field.Run(one.routine, {one.entry});
+    ASSERT_EQ(field.boxes.size(), 1U) << one.routine << " " << one.entry;
+    EXPECT_EQ(field.advice, one.advice) << one.routine << " " << one.entry;
+  }
+}
+
+TEST(Validators, ANameMayBeginAsTheOneDidThatItTakesThePlaceOf) {
+  Field field;
+  std::string name = "/home/hygiene/welders.vkr";
+  CheckName(field.s, "/home/hygiene/welders, night.vkr", name, field.Port());
+  EXPECT_EQ(name, "/home/hygiene/welders, night.vkr");
+  EXPECT_TRUE(field.boxes.empty());
+  CheckName(field.s, "-welders", name, field.Port());
+  EXPECT_EQ(name, "");
+  EXPECT_EQ(field.advice, "No name stands now.");
 }
 
 TEST(Validators, AWordReadsAsZeroAndBringsTheHint) {
@@ -198,7 +244,7 @@ TEST(Validators, LeavingAFieldUntouchedStillJudgesTheValueBehindIt) {
 
 TEST(Validators, ALimitThatWasNeverSetIsReadFromItsFieldAndStaysAbsentWhenEmpty) {
   ExposureSession s;
-  const Notify quiet = [](const std::string&, const std::string&) {};
+  const Notify quiet = [](const Complaint&) {};
   std::optional<double> limit;
   CheckOELV(s, {""}, limit, quiet);
   EXPECT_FALSE(limit.has_value());

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontMetrics>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QtTest/QTest>
 
@@ -42,6 +45,61 @@ TEST(MessageBox, EscapeIsTheAnswerThatChangesNothing) {
   EXPECT_EQ(AnswerTo(Qt::Key_Escape, Buttons::YesNoCancel, Answer::No), Answer::Cancel);
 }
 
+TEST(MessageBox, SaveDontSaveAndCancelAnswerWhatTheySay) {
+  const screen::Message question = {"text", "title", screen::Icon::Question,
+                                    Buttons::SaveDiscardCancel, Answer::Save};
+  EXPECT_EQ(AnswerTo(Qt::Key_Return, question), Answer::Save);
+  EXPECT_EQ(AnswerTo(Qt::Key_Escape, question), Answer::Cancel);
+  QString caption;
+  const auto byKey = AnswerTo(Qt::Key_Shift, question, [&](const QMessageBox& box) {
+    caption = box.button(QMessageBox::Discard)->text();
+    box.button(QMessageBox::Discard)->click();
+  });
+  EXPECT_EQ(byKey, Answer::Discard);
+  EXPECT_EQ(caption.remove(QLatin1Char('&')), "Don't save");
+}
+
+// A title bar that is wider than the box would be cut, and with it the name of the field.
+TEST(MessageBox, IsAtLeastAsWideAsItsTitle) {
+  for (const char* title : {"Geometric Standard Deviation",
+                            "Loading  the *.VKR file /home/hygiene/measurements/welders.vkr"}) {
+    int width = 0;
+    int needed = 0;
+    AnswerTo(Qt::Key_Escape, {"x", title, screen::Icon::Exclamation}, [&](const QMessageBox& box) {
+      width = box.width();
+      QFont font = box.font();
+      font.setBold(true);
+      needed = QFontMetrics(font).horizontalAdvance(box.windowTitle());
+    });
+    EXPECT_GT(width, needed + 100) << title;
+  }
+}
+
+// What the box is about, what is wrong, and what can be entered.
+TEST(MessageBox, AComplaintRepeatsTheNameOfTheFieldAsItsHeading) {
+  AnswerTo(Qt::Key_Escape,
+           {"GM value too large", "Geometric Mean", screen::Icon::Exclamation, Buttons::Ok,
+            Answer::Ok, "Allowed: 0.0001 to 10000."},
+           [](const QMessageBox& box) {
+             EXPECT_EQ(box.text(), "Geometric Mean");
+             EXPECT_EQ(box.informativeText(), "GM value too large\n\nAllowed: 0.0001 to 10000.");
+             EXPECT_EQ(box.textFormat(), Qt::PlainText);
+             const auto* heading = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+             ASSERT_NE(heading, nullptr);
+             EXPECT_TRUE(heading->font().bold());
+           });
+}
+
+TEST(MessageBox, AQuestionKeepsItsTextAndTellsTheRestBelow) {
+  AnswerTo(Qt::Key_Escape,
+           {"Are you sure?", "Exit", screen::Icon::Question, Buttons::OkCancel, Answer::Ok,
+            "Changes of this series are not saved."},
+           [](const QMessageBox& box) {
+             EXPECT_EQ(box.text(), "Are you sure?");
+             EXPECT_EQ(box.informativeText(), "Changes of this series are not saved.");
+           });
+}
+
 TEST(MessageBox, EnterIsTheDefaultAnswer) {
   for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel})
     EXPECT_EQ(AnswerTo(Qt::Key_Return, Buttons::YesNoCancel, answer), answer);
@@ -55,7 +113,8 @@ TEST(MessageBox, OffersExactlyItsButtons) {
       {Buttons::Ok, Box::Ok},
       {Buttons::OkCancel, Box::Ok | Box::Cancel},
       {Buttons::YesNo, Box::Yes | Box::No},
-      {Buttons::YesNoCancel, Box::Yes | Box::No | Box::Cancel}};
+      {Buttons::YesNoCancel, Box::Yes | Box::No | Box::Cancel},
+      {Buttons::SaveDiscardCancel, Box::Save | Box::Discard | Box::Cancel}};
   for (const auto& [buttons, wanted] : boxes) {
     Box::StandardButtons offered;
     const screen::Message message = {"text", "title", screen::Icon::None, buttons, Answer::Ok};
