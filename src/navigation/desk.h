@@ -52,8 +52,10 @@ class Desk {
   virtual std::string ToRedo() const = 0;
   // Another series: nothing of the one before can be taken back.
   virtual void ForgetSteps() = 0;
-  // Asks about unsaved changes; true when the series may go.
+  // Asks about what is typed or unsaved and would be lost; true when it may go.
   virtual bool MayDropSeries() = 0;
+  // Asks for a file and writes the series to it; true when that is done.
+  virtual bool SaveSeries() = 0;
   // "Close all data": asks about unsaved changes, shows the start screen, ends the session. False
   // when the user kept the session; the screen then stays.
   virtual bool CloseAllData() = 0;

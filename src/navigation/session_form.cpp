@@ -2,6 +2,7 @@
 
 #include "catalog/catalog.h"
 #include "navigation/status_text.h"
+#include "session/derivation.h"
 
 namespace navigation {
 
@@ -16,6 +17,8 @@ SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string st
       Tabs(*this, std::move(stripName)) {
   strip = &Tabs;
   Tabs.Choose = [this](const std::string& key) { Tab_Click(key); };
+  MenuSave.Click = [this] { desk.SaveSeries(); };
+  MenuSave.enabled = false;
   Menuclose.Click = [this] { desk.CloseAllData(); };
   MenuExit.Click = [this] { desk.Exit(); };
   MenuPlot.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::Plot).key); };
@@ -94,7 +97,18 @@ void SessionForm::OfferPicture() {
   MenuVerd.enabled = MenuVerd.tip.empty();
 }
 
+void SessionForm::FollowSave(const std::string& note) {
+  for (const char* place : {"NameTxB", "NameLbl"}) {
+    screen::Control* shown = Find(place);
+    if (!shown) continue;
+    shown->text = session.Name;
+    break;  // beside the field the label is the field's caption
+  }
+  ShowStatus(note);
+}
+
 void SessionForm::ShowStatus(const std::string& note) {
+  MenuSave.enabled = CompleteSeries(session);
   const std::string state = StatusText(session);
   StatusLbl.text = note + (note.empty() || state.empty() ? "" : " ") + state;
 }

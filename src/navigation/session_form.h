@@ -38,6 +38,7 @@ struct SessionForm : screen::Form {
   const ScreenId id;
 
   screen::Control MenuFile{*this, screen::Kind::Menu, "MenuFile"};
+  screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
   screen::Control Menuclose{*this, screen::Kind::Menu, "Menuclose"};
   screen::Control MenuExit{*this, screen::Kind::Menu, "MenuExit"};
   screen::Control menuTools{*this, screen::Kind::Menu, "menuTools"};
@@ -94,6 +95,8 @@ struct SessionForm : screen::Form {
   void OfferSteps();
   // The series stands as it stood before, or behind, one of the user's steps.
   virtual void Restored() { Activate(); }
+  // The series has been saved, or could not be, as `note` says; its name may be another one.
+  virtual void FollowSave(const std::string& note);
 
   // Brings the status line up to date; `note` tells what the last action did.
   void ShowStatus(const std::string& note = {});

@@ -47,11 +47,27 @@ std::string InForce(const ExposureSession& s) {
   return {};
 }
 
+// Why the start screen has no tabs. Before anything was entered its message says what is to be.
+std::string NoTabs(const ExposureSession& s) {
+  const bool begun = s.M != 0 || !s.Name.empty();
+  if (s.CurrentTab != ScreenId::Basis || workflow::StripVisible(s) || !begun) return {};
+  if (s.Mode == DataMode::None || s.refusedFile) return {};
+  if (s.Name.empty()) return OwnText(Own::NoTabsWithoutName);
+  if (!GlobalBAS::Identified(s)) return OwnText(Own::NoTabsWithoutSize);
+  const bool ofGM = !GlobalBAS::InRangeGM(s.GM);
+  const double out = ofGM ? s.GM : s.GSD;
+  if (out == 0) return {};  // not entered yet
+  const std::string why =
+      OwnText(ofGM ? Own::NoTabsForGM : Own::NoTabsForGSD, {GlobalBAS::ShownTrimmed(s, out)});
+  const bool table = s.Mode == DataMode::Raw && !s.ModifyMode;
+  return table ? why + " " + OwnText(Own::ContinueToRawData) : why;
+}
+
 }  // namespace
 
 std::string StatusText(const ExposureSession& s) {
   std::string text;
-  for (const std::string& part : {LeftOut(s), NoEstimates(s), InForce(s)})
+  for (const std::string& part : {NoTabs(s), LeftOut(s), NoEstimates(s), InForce(s)})
     if (!part.empty()) text += (text.empty() ? "" : " ") + part;
   return text;
 }

@@ -89,6 +89,12 @@ void PlotForm::PlotStatus() {
   ShowStatus(note);
 }
 
+// The name stands in the headline.
+void PlotForm::FollowSave(const std::string& told) {
+  PlotStatus();
+  SessionForm::FollowSave(told);
+}
+
 void PlotForm::DrawCumulative(PlotWBas::Labels& labels) {
   using namespace PlotWBas;
   drawing::DrawSurface& surface = PicPlot.drawing;

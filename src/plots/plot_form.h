@@ -75,6 +75,7 @@ struct PlotForm final : navigation::SessionForm {
 
   void Load() override;
   void Activate() override;
+  void FollowSave(const std::string& told) override;
 
   // Draws the picture afresh; the line gives its statistics to the record.
   void PlotStatus();

@@ -5,6 +5,7 @@
 #include "catalog/own_texts.h"
 #include "plots/density_view.h"
 #include "plots/labels.h"
+#include "session/derivation.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
 
@@ -13,6 +14,7 @@ namespace plots {
 VerdelingForm::VerdelingForm(Record& sessionRecord, navigation::Desk& programDesk,
                              screen::Ports& formPorts)
     : Form("VerdelingForm", formPorts), record(sessionRecord), desk(programDesk) {
+  MenuSave.Click = [this] { desk.SaveSeries(); };
   menuSavePicture.Click = [this] { SavePicture(); };
   Menuclose.Click = [this] { desk.ClosePicture(); };
   MenuExit.Click = [this] { desk.Exit(); };
@@ -21,7 +23,10 @@ VerdelingForm::VerdelingForm(Record& sessionRecord, navigation::Desk& programDes
   };
 }
 
-void VerdelingForm::Activate() { Draw(); }
+void VerdelingForm::Activate() {
+  MenuSave.enabled = CompleteSeries(record.Now());
+  Draw();
+}
 
 // Where the numbers can't be drawn the way here is closed, and a resize draws nothing.
 void VerdelingForm::Draw() {

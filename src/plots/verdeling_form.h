@@ -16,6 +16,7 @@ struct VerdelingForm final : screen::Form {
   navigation::Desk& desk;
 
   screen::Control MenuFile{*this, screen::Kind::Menu, "MenuFile"};
+  screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
   screen::Control menuSavePicture{*this, screen::Kind::Menu, "menuSavePicture"};
   screen::Control Menuclose{*this, screen::Kind::Menu, "Menuclose"};
   screen::Control MenuExit{*this, screen::Kind::Menu, "MenuExit"};

@@ -20,7 +20,6 @@ DataCtrlForm::DataCtrlForm(Record& sessionRecord, navigation::Desk& programDesk,
     : SessionForm("DataCtrlForm", navigation::ScreenId::DataCtrl, "TabRaw", sessionRecord,
                   programDesk, formPorts) {
   stepMenus.emplace(*this);
-  MenuSave.Click = [this] { VkrSave(); };
   DimCbo.Click = [this] {
     LeaveUnit();
     WindnrLbl.text = "3b";
@@ -136,7 +135,6 @@ void DataCtrlForm::DataCtrlStatus() {
 void DataCtrlForm::ShowSeries() {
   flow.TestTag = Extrapolation::None;
   TakeUnit();
-  MenuSave.enabled = !session.RawIncomplete;
   if (session.RawIncomplete) {
     for (screen::Control* control : {&FrmDetec, &RangeFrame, &DetecChB}) control->Hide();
   } else {
@@ -214,7 +212,8 @@ void DataCtrlForm::TakeDetectionLimit(screen::Control& field, double entered) {
   flow.MsgText = complaint.MsgText;
   flow.MsgTitle = complaint.MsgTitle;
   if (!GlobalBAS::Trim(session.MsgText).empty()) {
-    Complain(session.MsgText, session.MsgTitle);
+    const double stands = lower ? session.LOQ : session.URR;
+    Complain(session.MsgText, session.MsgTitle, OwnText(Own::NowStands, {ShownTrimmed(stands)}));
     SetFocus(field);
   }
   ShowNewRange();

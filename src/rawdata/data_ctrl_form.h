@@ -9,7 +9,6 @@ namespace rawdata {
 struct DataCtrlForm final : navigation::SessionForm {
   DataCtrlForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
-  screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
   screen::Control MenuAddRow{*this, screen::Kind::Menu, "MenuAddRow"};
   screen::Control MenuDeleteRow{*this, screen::Kind::Menu, "MenuDeleteRow"};
   screen::Control MenuPaste{*this, screen::Kind::Menu, "MenuPaste"};
@@ -44,7 +43,8 @@ struct DataCtrlForm final : navigation::SessionForm {
   void Restored() override;
 
   void DataCtrlStatus();
-  void VkrSave();
+  // Asks for a file and writes the series to it; true when that is done.
+  bool VkrSave();
   // Lets the grid ask for its rows anew.
   void Rebind();
   // Tells how the opened file was understood; a typed series has no notes.

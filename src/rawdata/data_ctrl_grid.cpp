@@ -31,7 +31,7 @@ std::string LineList(const std::vector<int>& lines) {
 }
 
 // Outcomes beyond the sample size go with the first edit or save.
-void CutSeries(Given& given) { given.C.resize(static_cast<std::size_t>(SampleCount(given)) + 1); }
+void CutSeries(Given& given) { given.C.resize(static_cast<std::size_t>(SeriesCount(given)) + 1); }
 
 std::vector<std::string> Lines(const std::string& text) {
   std::vector<std::string> lines(1);
@@ -230,16 +230,17 @@ void DataCtrlForm::TellReading(const ReadingNotes* notes) {
     ReadingLbl.text += OwnText(Own::CommaAndPoint, {LineList(notes->commaAndPoint)});
 }
 
-void DataCtrlForm::VkrSave() {
+bool DataCtrlForm::VkrSave() {
   flow.MsgText = LoadResString(1320);
   flow.MsgTitle = LoadResString(1324);
-  const std::string path = GlobalBAS::Trim(ports.fileDialog.Ask(
-      {true, LoadResString(94), OwnText(Own::SeriesFiles), session.Name, "Valkowin.chm", 100260}));
+  const std::string path =
+      GlobalBAS::Trim(ports.fileDialog.Ask({true, LoadResString(94), OwnText(Own::SeriesFiles),
+                                            SeriesName(session), "Valkowin.chm", 100260}));
   if (path.empty()) {
     ports.messageBox.Show({session.MsgText, session.MsgTitle});
-    return;
+    return false;
   }
-  if (!MayOverwrite(path)) return;
+  if (!MayOverwrite(path)) return false;
   std::string bytes;
   bool written = false;
   {
@@ -253,14 +254,16 @@ void DataCtrlForm::VkrSave() {
   }
   if (!written) {
     ReadingLbl.text = OwnText(Own::SeriesNotWritten, {path});
-    return;
+    return false;
   }
-  record.Change([&path](Given& given) { given.Name = path; });
+  record.Change(
+      [&path](Given& given) { (given.original ? given.original->Name : given.Name) = path; });
   mark_ = files::MarkOfBytes(bytes);
   markedPath_ = path;
   desk.MarkSaved();
-  ReadingLbl.text = OwnText(Own::OutcomesSaved, {ShownTrimmed(session.M)});
+  ReadingLbl.text = OwnText(Own::OutcomesSaved, {ShownTrimmed(SeriesCount(session))});
   Rebind();
+  return true;
 }
 
 }  // namespace rawdata

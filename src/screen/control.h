@@ -93,7 +93,7 @@ struct Control : ControlState {
   Handler GotFocus;
   Handler LostFocus;  // also by the Tab key
   Handler EnterKey;
-  Handler TabKey;  // of a field, before the focus leaves it; it stays if the handler asks for it
+  Handler TabKey;  // of a field, before the focus leaves it; the handler may say where it goes
   Handler StepUp;  // of an UpDown, or of a field that has one
   Handler StepDown;
   Handler Change;  // the user moved the scroll bar, whose place is `value`, or typed in the field

@@ -102,6 +102,10 @@ std::vector<double> Logarithms(const Given& g) {
 
 int SeriesCount(const Given& given) { return SampleCount(SeriesM(given)); }
 
+const std::string& SeriesName(const Given& given) {
+  return given.original ? given.original->Name : given.Name;
+}
+
 bool CompleteSeries(const Given& given) {
   return given.Mode == DataMode::Raw && !given.refusedFile && ValidSampleSize(SeriesM(given)) &&
          given.C.size() > static_cast<std::size_t>(SeriesCount(given)) && !HasUnfilled(given);

@@ -17,3 +17,5 @@ bool CompleteSeries(const Given& given);
 
 // The number of outcomes of the series itself, also while another M is tried on top of it.
 int SeriesCount(const Given& given);
+// Its name, which Modify sets aside for another.
+const std::string& SeriesName(const Given& given);

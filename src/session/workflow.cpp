@@ -136,6 +136,11 @@ bool StripVisible(const ExposureSession& s) {
   return s.DescOk || (s.IdentOk && (s.RawIncomplete || s.noEstimates));
 }
 
+bool SeriesBegun(const Given& given) {
+  if (given.Mode != DataMode::Raw || given.refusedFile) return false;
+  return given.newSeries || given.C.size() > 1 || given.M != 0 || !given.Name.empty();
+}
+
 bool PlotMenuVisible(const ExposureSession& s, ScreenId shown) {
   const std::vector<ScreenId> tabs = TabSet(s, shown);
   return std::find(tabs.begin(), tabs.end(), Plot) != tabs.end();

@@ -27,6 +27,9 @@ std::vector<ScreenId> TabSet(const ExposureSession& s, ScreenId shown);
 
 // Whether the tab strip of the start screen is visible.
 bool StripVisible(const ExposureSession& s);
+// Whether there is a raw series, if only a name or a size for one: the choice of raw data alone,
+// and a file that was refused, begin none.
+bool SeriesBegun(const Given& given);
 
 // Whether MenuPlot is visible: exactly when the Check distribution tab exists.
 bool PlotMenuVisible(const ExposureSession& s, ScreenId shown);

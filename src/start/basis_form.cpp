@@ -1,10 +1,6 @@
 #include "start/basis_form.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "catalog/catalog.h"
-#include "catalog/own_texts.h"
 #include "stats/coefficient_status.h"
 
 namespace start {
@@ -20,6 +16,7 @@ BasisForm::BasisForm(Record& sessionRecord, navigation::Desk& programDesk, scree
                   formPorts) {
   stepMenus.emplace(*this);
   WireMenus();
+  WireButtons();
   WireFields();
 }
 
@@ -33,27 +30,11 @@ void BasisForm::WireMenus() {
   MenuNewVkrFil.Click = [this] { MenuNewVkrFil_Click(); };
 }
 
-void BasisForm::WireFields() {
+void BasisForm::WireButtons() {
   RawOpt.Click = [this] { RawOpt_Click(); };
-  DesOpt.GotFocus = [this] { DesOpt_GotFocus(); };
   DesOpt.Click = [this] { DesOpt_Click(); };
   CmdContinu.Click = [this] { CmdContinu_Click(); };
   OriModiCmd.Click = [this] { OriModiCmd_Click(); };
-
-  auto field = [this](screen::Control& box, const char* window, screen::Handler leave) {
-    box.GotFocus = [this, &box, window] {
-      ShowFieldNumber(box, window);
-      box.selectAll = true;
-    };
-    box.LostFocus = leave;
-    box.EnterKey = leave;
-  };
-  field(NameTxB, "4", [this] { LeaveName(); });
-  field(SampSizTxB, "3a", [this] { LeaveSampleSize(); });
-  field(GMTxB, "14", [this] { LeaveStatistic(GMTxB); });
-  field(GSDTxB, "20", [this] { LeaveStatistic(GSDTxB); });
-  SampSize_UpD.StepUp = [this] { StepSampleSize(1); };
-  SampSize_UpD.StepDown = [this] { StepSampleSize(-1); };
 }
 
 void BasisForm::Load() {
@@ -99,13 +80,19 @@ void BasisForm::ShowMessage(const std::string& text) {
 void BasisForm::RawOpt_Click() {
   if (session.Mode != DataMode::None) {
     if (!desk.MayDropSeries()) {
-      RawOpt.ticked = session.Mode == DataMode::Raw;
-      DesOpt.ticked = session.Mode == DataMode::Statistics;
+      KeepKindOfData();
       return;
     }
     Menuclose_Click();
   }
   ChooseRaw();
+}
+
+// The user has declined the other kind.
+void BasisForm::KeepKindOfData() {
+  RawOpt.ticked = session.Mode == DataMode::Raw;
+  DesOpt.ticked = session.Mode == DataMode::Statistics;
+  SetFocus(RawOpt.ticked ? RawOpt : DesOpt);
 }
 
 void BasisForm::ChooseRaw() {
@@ -120,24 +107,11 @@ void BasisForm::ChooseRaw() {
   IdentFrame.Hide();
 }
 
-// Coming back to the option by keyboard is no new choice: in mode "D" nothing is chosen again.
-// A mouse click gives the focus first and clicks then: a refusal holds for both. The focus goes
-// back to the other option, so that the next wish for mode "D" is asked about anew.
-void BasisForm::DesOpt_GotFocus() {
-  if (session.Mode == DataMode::Statistics) return;
-  keptSession_ = false;
-  DesOpt_Click();
-  keptSession_ = session.Mode != DataMode::Statistics;
-  if (keptSession_) SetFocus(RawOpt);
-}
-
+// Choosing it again keeps what was entered.
 void BasisForm::DesOpt_Click() {
-  const bool declinedJustNow = keptSession_;
-  keptSession_ = false;
   if (session.Mode != DataMode::None && session.Mode != DataMode::Statistics) {
-    if (declinedJustNow || !desk.MayDropSeries()) {
-      DesOpt.ticked = false;
-      RawOpt.ticked = true;
+    if (!desk.MayDropSeries()) {
+      KeepKindOfData();
       return;
     }
     Menuclose_Click();
@@ -223,75 +197,6 @@ void BasisForm::Reset() {
     given.typedWidth = original.typedWidth;
     given.inForce = original.inForce;
   });
-}
-
-void BasisForm::LeaveName() {
-  if (NameTxB.locked) return;
-  std::string typed = session.Name;
-  GlobalBAS::CheckName(flow, NameTxB.text, typed, Notifier());
-  record.Change([&typed](Given& given) { given.Name = typed; });
-  const bool refused = session.InputState != 0;
-  BasisStatus();
-  if (refused) SetFocus(NameTxB);
-}
-
-void BasisForm::LeaveSampleSize() {
-  if (SampSizTxB.locked) return;
-  const bool typed = SampSizTxB.touched;
-  double M = session.M;
-  GlobalBAS::CheckM(flow, EntryOf(SampSizTxB), M, Notifier());
-  const bool refused = session.InputState != 0;
-  // A number beyond all numbers is no sample size that could be kept.
-  if (std::isfinite(M)) TakeSampleSize(M);
-  BasisStatus();
-  KeepFocus(SampSizTxB, refused, typed);
-}
-
-void BasisForm::StepSampleSize(double step) {
-  if (SampSizTxB.locked) return;
-  TakeSampleSize(std::clamp(session.M + step, 2.0, static_cast<double>(kMaxSampleSize)));
-  BasisStatus();
-}
-
-// A series is evaluated anew for its first M outcomes, by the degrees of freedom of its range.
-void BasisForm::TakeSampleSize(double M) {
-  if (M == session.M) return;
-  LimitComplaint complaint;
-  Edit(OwnText(Own::StepSampleSize, {GlobalBAS::GeneralText(M)}), [&] {
-    complaint = record.Change([M](Given& given) {
-      given.M = M;
-      if (given.inForce != Estimates::Typed) given.inForce = Estimates::RangeDegrees;
-    });
-  });
-  if (!complaint.MsgText.empty()) Complain(complaint.MsgText, complaint.MsgTitle);
-}
-
-void BasisForm::LeaveStatistic(screen::Control& field) {
-  if (field.locked) return;
-  const bool typed = field.touched;
-  const bool isGM = &field == &GMTxB;
-  double value = isGM ? session.TypedGM : session.TypedGSD;
-  const auto check = isGM ? GlobalBAS::CheckGM : GlobalBAS::CheckGSD;
-  check(flow, EntryOf(field), value, Notifier());
-  const bool refused = session.InputState != 0;
-  record.Change([&](Given& given) {
-    (isGM ? given.TypedGM : given.TypedGSD) = value;
-    if (refused || !typed) return;
-    const auto width = static_cast<std::int16_t>(GlobalBAS::GeneralText(value).size());
-    given.typedWidth = std::max(given.typedWidth, width);
-  });
-  BasisStatus();
-  KeepFocus(field, refused, typed);
-}
-
-// A refused entry keeps the focus. A field in which nothing was typed lets the user go wherever
-// the user goes: who wants to mend the sample size first is not held in an empty GM.
-void BasisForm::KeepFocus(screen::Control& field, bool refused, bool typed) {
-  if (!refused) return;
-  if (typed)
-    SetFocus(field);
-  else
-    focusWanted = nullptr;
 }
 
 }  // namespace start

@@ -66,12 +66,13 @@ struct BasisForm final : navigation::SessionForm {
 
  private:
   void WireMenus();
+  void WireButtons();
   void WireFields();
 
   void RawOpt_Click();
   void ChooseRaw();
-  void DesOpt_GotFocus();
   void DesOpt_Click();
+  void KeepKindOfData();
   void ChooseStatistics();
   void MenuNewVkrFil_Click();
   void CmdContinu_Click();
@@ -86,9 +87,11 @@ struct BasisForm final : navigation::SessionForm {
   void Modify();
   void Reset();
   void LeaveStatistic(screen::Control& field);
+  void TabFrom(screen::Control& field, screen::Control& next);
   void KeepFocus(screen::Control& field, bool refused, bool typed);
 
   void StatusRaw();
+  void StatusRawChosen();
   void StatusKnown();
   void ShowStatistics();
   void ShowDegrees();
@@ -98,7 +101,8 @@ struct BasisForm final : navigation::SessionForm {
   void TellRefusal(const std::string& path, const rawdata::FileCheck& check);
   void TakeSeries(const std::string& path, const rawdata::FileValues& file);
 
-  bool keptSession_ = false;  // the user has just declined to give up the series for mode "D"
+  // The field whose entry the Tab key has taken: leaving it takes it no second time.
+  const screen::Control* taken_ = nullptr;
 };
 
 }  // namespace start

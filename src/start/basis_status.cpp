@@ -15,11 +15,20 @@ void BasisForm::BasisStatus() {
     menuTools.Hide();
     return;
   }
-  if (session.Mode == DataMode::Raw)
+  if (session.Mode != DataMode::Raw)
+    StatusKnown();
+  else if (workflow::SeriesBegun(session))
     StatusRaw();
   else
-    StatusKnown();
+    StatusRawChosen();
   StatusStrip();
+}
+
+// There is no series to name yet; the message says what can be done.
+void BasisForm::StatusRawChosen() {
+  for (screen::Control* control :
+       {&IdentFrame, &DescriptFrame, &OriModiCmd, &CmdContinu, &menuTools})
+    control->Hide();
 }
 
 void BasisForm::StatusRaw() {

@@ -61,10 +61,13 @@ class Program final : public navigation::Desk {
   void ForgetSteps() override;
   bool MayDropSeries() override;
   bool CloseAllData() override;
+  bool SaveSeries() override;
   void Exit() override;
 
  private:
   void ShowRestored();
+  std::string ExitAdvice() const;
+  bool SeriesMayGo();
 
   struct Parts;
   std::unique_ptr<Parts> parts_;

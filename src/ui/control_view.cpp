@@ -77,7 +77,7 @@ void ControlView::Scrolled(int value) {
 
 void ControlView::Push(bool onPage) {
   if (action_) {
-    PushAction(control_.visible && onPage);
+    PushAction(onPage);
     return;
   }
   if (auto* view = qobject_cast<VkrGridView*>(widget_)) {
@@ -188,11 +188,13 @@ void ControlView::PushValue() {
   bar->setValue(shown_->value);
 }
 
-void ControlView::PushAction(bool visible) {
+void ControlView::PushAction(bool onPage) {
   // The toolkit turns the tick of a chosen item by itself.
   if (action_->isCheckable()) action_->setChecked(control_.ticked);
   screen::ControlState now = control_;
-  now.visible = visible;
+  now.visible = control_.visible && onPage;
+  // The bar keeps the access keys of what it hides, and they would be another one's as well.
+  if (!onPage) now.text.clear();
   if (shown_ && *shown_ == now) return;
   shown_ = std::move(now);
   action_->setText(Shown(shown_->text));

@@ -49,7 +49,7 @@ class ControlView {
   void PushValue();
   void PushLook();
   void PushFace(QPushButton& button);
-  void PushAction(bool visible);
+  void PushAction(bool onPage);
   void SelectAll();
   void NameForReaders();
 

@@ -128,16 +128,6 @@ void FormBinder::ConnectList(ControlView& view) {
   });
 }
 
-void FormBinder::ConnectButton(ControlView& view) {
-  auto* button = qobject_cast<QAbstractButton*>(view.Widget());
-  connect(button, &QAbstractButton::clicked, this, [this, &view, button] {
-    gate_.RunLate();
-    focus_->Follow();
-    if (button->isCheckable()) Tick(view.Control(), button->isChecked());
-    gate_.Run(view.Control().Click);
-  });
-}
-
 void FormBinder::ConnectSteps(ControlView& view) {
   auto* pair = qobject_cast<UpDownPair*>(view.Widget());
   Control& control = view.Control();
@@ -161,30 +151,17 @@ void FormBinder::Enter(ControlView& view) {
   });
 }
 
-// True when the focus is to stay.
+// True when the handler has said where the focus goes, or that it stays.
 bool FormBinder::TabOut(Control& control, const QKeyEvent& event) {
   if (event.key() != Qt::Key_Tab || event.modifiers() != Qt::NoModifier || !control.TabKey)
     return false;
-  bool stays = false;
-  Act([this, &control, &stays] {
+  bool decided = false;
+  Act([this, &control, &decided] {
     control.TabKey();
     control.touched = false;
-    stays = form_.focusWanted == &control;
+    decided = form_.focusWanted != nullptr;
   });
-  return stays;
-}
-
-void FormBinder::Tick(const Control& ticked, bool on) {
-  const QWidget* group = WidgetOf(ticked)->parentWidget();
-  for (ControlView& view : views_) {
-    const bool other = ticked.kind == Kind::OptionButton && view.Widget() &&
-                       view.Control().kind == Kind::OptionButton &&
-                       view.Widget()->parentWidget() == group;
-    if (&view.Control() == &ticked)
-      view.Ticked(on);
-    else if (other)
-      view.Ticked(false);
-  }
+  return decided;
 }
 
 void FormBinder::Step(const screen::Handler& handler) {
@@ -245,19 +222,16 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonPress && view != byWidget_.end())
     view->second->Control().held = false;
   if (event->type() == QEvent::Resize && view != byWidget_.end()) view->second->PushTip();
-  if (event->type() != QEvent::KeyPress) return false;
-  gate_.RunLate();
-  focus_->Follow();
-  const QKeyEvent& press = *static_cast<QKeyEvent*>(event);
-  const int key = press.key();
-  if (auto* button = qobject_cast<QPushButton*>(widget);
-      button && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-    button->click();
-    return true;
+  if (event->type() == QEvent::KeyPress) {
+    gate_.RunLate();
+    focus_->Follow();
   }
+  if (auto* button = qobject_cast<QAbstractButton*>(widget)) return ButtonEvent(*button, *event);
+  if (event->type() != QEvent::KeyPress) return false;
+  const QKeyEvent& press = *static_cast<QKeyEvent*>(event);
   if (view == byWidget_.end() || view->second->Control().kind != Kind::TextBox) return false;
   Control& field = view->second->Control();
-  return TabOut(field, press) || StepKey(field, key);
+  return TabOut(field, press) || StepKey(field, press.key());
 }
 
 const ControlView* FormBinder::ViewOf(const Control& control) const {

@@ -13,6 +13,9 @@
 #include "ui/focus_watch.h"
 #include "ui/page.h"
 
+class QAbstractButton;
+class QShortcutEvent;
+
 namespace ui {
 
 // Ties a screen to the widgets of its page by name: what the user does calls the handlers, and
@@ -69,6 +72,9 @@ class FormBinder : public QObject {
   QList<QKeySequence> StepKeys(const QString& item) const;
   void TriggerMenu(const screen::Control& menu);
   bool StepKey(const screen::Control& control, int key);
+  bool ButtonEvent(QAbstractButton& button, QEvent& event);
+  bool AccessKey(QAbstractButton& button, const QShortcutEvent& event);
+  static bool LookAtOption(const QWidget& option, int key);
   // Runs `handler` after everything that the user did before.
   void Act(const screen::Handler& handler);
 

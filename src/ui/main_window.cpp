@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
+#include <QSessionManager>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -126,7 +127,8 @@ void MainWindow::Private::Push() {
   window_.setWindowTitle(Shown(program_.Title()) + QLatin1String("[*]"));
   window_.setWindowModified(program_.Unsaved());
   PushPointer(shown.busyPointer);
-  if (window_.focusWidget() != before) focus_.Adopt();
+  const bool hidden = before && !before->isVisibleTo(&window_);
+  if (window_.focusWidget() != before || hidden) focus_.Adopt();
 }
 
 // The small window alone: painting the whole one at each step of a search would cost more than the
@@ -177,7 +179,7 @@ void MainWindow::Private::PlaceFocus() {
   for (const auto& binder : binders_) {
     screen::Control* wanted = std::exchange(binder->Form().focusWanted, nullptr);
     if (!wanted || &binder->Form() != &shown) continue;
-    QWidget* widget = binder->WidgetOf(*wanted);
+    QWidget* widget = wanted == shown.strip ? strip_ : binder->WidgetOf(*wanted);
     if (widget && widget->isVisible() && widget->isEnabled()) widget->setFocus();
   }
 }
@@ -202,6 +204,9 @@ MainWindow::MainWindow(start::Program& program, screen::Ports& ports)
     setGeometry(ContentPlace(kSize, where->availableGeometry(), frame));
   else
     resize(kSize);
+  connect(
+      qApp, &QGuiApplication::commitDataRequest, this,
+      [this](QSessionManager& session) { EndSession(session); }, Qt::DirectConnection);
 }
 
 MainWindow::~MainWindow() = default;
@@ -265,11 +270,29 @@ void MainWindow::KeepOnScreen() {
   setGeometry(ContentPlace(size(), available, frame));
 }
 
+bool MainWindow::MayEnd() {
+  start::Program& program = private_->program_;
+  bool mayEnd = program.EndRequested();
+  if (!mayEnd) private_->gate_.Run([&] { mayEnd = program.MayUnload(); });
+  return mayEnd;
+}
+
+// A picture stands in place of a screen, and its close button means the picture.
 void MainWindow::closeEvent(QCloseEvent* event) {
   start::Program& program = private_->program_;
-  bool mayClose = program.EndRequested();
-  if (!mayClose) private_->gate_.Run([&] { mayClose = program.MayUnload(); });
-  event->setAccepted(mayClose);
+  if (program.ShowsPicture() && !program.EndRequested()) {
+    private_->gate_.Run([&] { program.ClosePicture(); });
+    event->ignore();
+    return;
+  }
+  event->setAccepted(MayEnd());
+}
+
+// The toolkit closes no window by itself when the desktop ends the session.
+void MainWindow::EndSession(QSessionManager& session) {
+  if (!session.allowsInteraction()) return;
+  if (!MayEnd()) session.cancel();
+  session.release();
 }
 
 }  // namespace ui

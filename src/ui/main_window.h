@@ -9,6 +9,7 @@
 #include "ui/pace.h"
 
 class QAction;
+class QSessionManager;
 class QTabBar;
 
 namespace ui {
@@ -47,6 +48,9 @@ class MainWindow : public QMainWindow, public screen::Surface {
 
  private:
   void KeepOnScreen();
+  // Asks whether the program may end.
+  bool MayEnd();
+  void EndSession(QSessionManager& session);
 
   class Private;
   std::unique_ptr<Private> private_;

@@ -71,6 +71,7 @@ TEST_F(DescriptiveScreenTabs, TheTestsOpenWithValidStatisticsAndLimitsOnly) {
 
 TEST_F(DescriptiveScreenTabs, ClosingFromItsMenuEndsTheSessionOnTheStartScreen) {
   Enter("10");
+  p.box.answers = {screen::Answer::Yes};
   p.Click("Menuclose");
   EXPECT_EQ(p.Shown().name, "BasisForm");
   EXPECT_EQ(p.Record().Name, "");

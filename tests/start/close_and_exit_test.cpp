@@ -64,6 +64,7 @@ TEST(CloseAllData, EndsASeriesWithNoKindOfDataChosen) {
 TEST(CloseAllData, EndsKnownStatisticsWithRawDataChosen) {
   ProgramSession user;
   user.EnterStatistics("Welders", "12", "1.5", "2.5");
+  user.box.answers = {Answer::Yes};
   user.Click("Menuclose");
   EXPECT_EQ(user.Record().Mode, DataMode::Raw);
   EXPECT_EQ(user.Text("WindnrLbl"), "8");
@@ -77,6 +78,7 @@ TEST(CloseAllData, KeepsTheLimitsForTheNextData) {
   user.Record().OELV = 25;
   user.Record().U = 90;
   user.Record().D = 80;
+  user.box.answers = {Answer::Yes};
   user.Click("Menuclose");
   EXPECT_EQ(user.Record().OELV, 25);
   EXPECT_FALSE(user.Record().LimitsOk);
@@ -159,6 +161,102 @@ TEST(Exit, ClosingTheWindowAsksWithOkAndCancel) {
   EXPECT_FALSE(user.program.EndRequested());
   user.box.answers = {Answer::Ok};
   EXPECT_TRUE(user.program.MayUnload());
+}
+
+// An edited series, and the three ways on from the question about it.
+class ExitUnsaved : public testing::Test {
+ protected:
+  ExitUnsaved() {
+    user.OpenSeries({1, 2, 4, 8});
+    auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
+    grid.Write(0, 2, "1.5");
+    grid.CommitRow();
+  }
+  // Exit by its menu, or by the window's button.
+  void Leave(bool byMenu, Answer behind) {
+    user.box.shown.clear();
+    user.box.answers = {byMenu ? Answer::Yes : Answer::Ok, behind};
+    if (byMenu)
+      user.Click("MenuExit");
+    else
+      user.program.MayUnload();
+  }
+  ProgramSession user;
+};
+
+TEST_F(ExitUnsaved, TheQuestionSaysThatChangesAreNotSaved) {
+  user.Click("MenuExit");
+  EXPECT_EQ(user.LastBox().advice, "Changes of this series are not saved.");
+  EXPECT_EQ(user.LastBox().title, "Exit");
+  user.box.answers = {Answer::Cancel};
+  user.program.MayUnload();
+  EXPECT_EQ(user.LastBox().advice, "Changes of this series are not saved.");
+}
+
+TEST_F(ExitUnsaved, NothingOfThatIsSaidOfASavedSeries) {
+  user.dialog.answers = {support::WriteTemporary("saved.vkr", "")};
+  user.Click("MenuSave");
+  user.Click("MenuExit");
+  EXPECT_EQ(user.LastBox().advice, "");
+  user.box.answers = {Answer::Yes};
+  user.Click("MenuExit");
+  EXPECT_TRUE(user.program.EndRequested());
+}
+
+TEST_F(ExitUnsaved, YesOrOkBringsSaveDontSaveAndCancel) {
+  for (const bool byMenu : {true, false}) {
+    Leave(byMenu, Answer::Cancel);
+    ASSERT_EQ(user.box.shown.size(), 2u);
+    EXPECT_EQ(user.LastBox().text, "Save the changes of " + user.Record().Name + "?");
+    EXPECT_EQ(user.LastBox().buttons, screen::Buttons::SaveDiscardCancel);
+    EXPECT_EQ(user.LastBox().defaultAnswer, Answer::Save);
+  }
+}
+
+TEST_F(ExitUnsaved, CancelStaysWhereTheUserIs) {
+  for (const bool byMenu : {true, false}) {
+    Leave(byMenu, Answer::Cancel);
+    EXPECT_FALSE(user.program.EndRequested());
+    EXPECT_EQ(user.Shown().name, "DataCtrlForm");
+    EXPECT_TRUE(user.program.Unsaved());
+  }
+}
+
+TEST_F(ExitUnsaved, DontSaveEndsAndLeavesTheFile) {
+  Leave(true, Answer::Discard);
+  EXPECT_TRUE(user.program.EndRequested());
+  EXPECT_TRUE(user.program.Unsaved());
+  EXPECT_TRUE(user.program.MayUnload());
+  EXPECT_EQ(user.box.shown.size(), 2u) << "asked once";
+}
+
+TEST_F(ExitUnsaved, SaveWritesTheSeriesAndEnds) {
+  user.dialog.answers = {support::WriteTemporary("saved.vkr", "")};
+  Leave(false, Answer::Save);
+  EXPECT_TRUE(user.program.EndRequested());
+  EXPECT_FALSE(user.program.Unsaved());
+}
+
+TEST_F(ExitUnsaved, ASaveThatIsCancelledOrFailsStays) {
+  for (const std::string& path : {std::string(), support::WriteTemporary("x", "") + "/y.vkr"}) {
+    user.dialog.answers = {path};
+    Leave(true, Answer::Save);
+    EXPECT_FALSE(user.program.EndRequested());
+    EXPECT_TRUE(user.program.Unsaved());
+  }
+}
+
+TEST_F(ExitUnsaved, SaveOfASeriesWithAnEmptyRowLeadsToItsRows) {
+  auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
+  grid.Write(1, 2, "0");
+  grid.CommitRow();
+  user.Tab("basis");
+  Leave(true, Answer::Save);
+  EXPECT_FALSE(user.program.EndRequested());
+  EXPECT_EQ(user.Shown().name, "DataCtrlForm");
+  EXPECT_EQ(user.LastBox().text,
+            "A series with empty rows can't be saved. Fill these rows or delete them.");
+  EXPECT_TRUE(user.dialog.asked.size() == 1) << "none but that of the open";
 }
 
 }  // namespace

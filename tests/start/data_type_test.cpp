@@ -21,6 +21,15 @@ void MouseClick(ProgramSession& user, const std::string& name) {
   user.Click(name);
 }
 
+void ExpectTypedQuestion(const screen::Message& box) {
+  EXPECT_EQ(box.text, "Are you sure you want stop analyzing Welders ?");
+  EXPECT_EQ(box.title, "Descriptive statistics");
+  EXPECT_EQ(box.icon, screen::Icon::Question);
+  EXPECT_EQ(box.buttons, screen::Buttons::YesNo);
+  EXPECT_EQ(box.defaultAnswer, Answer::No);
+  EXPECT_EQ(box.advice, "What was typed is not kept in any file.");
+}
+
 TEST(DataType, RawDataAsksForTheFile) {
   ProgramSession user;
   user.Click("RawOpt");
@@ -48,23 +57,82 @@ TEST(DataType, KnownStatisticsAskForNameAndSampleSize) {
   EXPECT_EQ(Focus(user), "NameTxB");
 }
 
-TEST(DataType, TheFocusAloneChoosesKnownStatistics) {
-  ProgramSession user;
-  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
-  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
-  EXPECT_EQ(Focus(user), "NameTxB");
+// The Tab key and the arrows pass by.
+TEST(DataType, TheFocusAloneChoosesNothing) {
+  for (const char* option : {"RawOpt", "DesOpt"}) {
+    ProgramSession user;
+    OpenAndEdit(user);
+    screen::Guarded(user.ports, user.At(option).GotFocus);
+    screen::Guarded(user.ports, user.At(option).LostFocus);
+    EXPECT_EQ(user.Record().Mode, DataMode::Raw) << option;
+    EXPECT_EQ(user.Record().M, 4) << option;
+    EXPECT_TRUE(user.box.shown.empty()) << option;
+  }
 }
 
-TEST(DataType, RawDataEndsEnteredStatisticsWithoutAQuestion) {
+TEST(DataType, RawDataAsksOnceBeforeTypedStatisticsGo) {
   ProgramSession user;
   user.EnterStatistics("Welders", "12", "1.5", "2.5");
   user.Click("RawOpt");
+  ASSERT_EQ(user.box.shown.size(), 1u);
+  ExpectTypedQuestion(user.LastBox());
+  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
+  EXPECT_EQ(user.Record().GM, 1.5);
+  EXPECT_TRUE(user.At("DesOpt").ticked);
+  EXPECT_FALSE(user.At("RawOpt").ticked);
+  user.box.answers = {Answer::Yes};
+  user.Click("RawOpt");
+  EXPECT_EQ(user.box.shown.size(), 2u);
   EXPECT_EQ(user.Record().Mode, DataMode::Raw);
+  EXPECT_EQ(user.Record().Name, "");
   EXPECT_EQ(user.Record().GM, 0);
   EXPECT_EQ(user.Text("WindnrLbl"), "8");
   EXPECT_THAT(user.Text("BoodschLbl"), testing::StartsWith("Analyze a series"));
   EXPECT_FALSE(user.At("TabBasis").visible);
+}
+
+TEST(DataType, ANameAloneIsTypedToo) {
+  ProgramSession user;
+  user.Click("DesOpt");
+  user.Type("NameTxB", "Welders");
+  user.Click("Menuclose");
+  ASSERT_EQ(user.box.shown.size(), 1u);
+  ExpectTypedQuestion(user.LastBox());
+  EXPECT_EQ(user.Record().Name, "Welders");
+}
+
+TEST(DataType, WhereNothingWasTypedNothingIsAsked) {
+  ProgramSession user;
+  user.Click("DesOpt");
+  user.Click("RawOpt");
+  EXPECT_EQ(user.Record().Mode, DataMode::Raw);
+  user.Click("DesOpt");
+  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
+  user.Click("Menuclose");
   ExpectNoSeries(user);
+}
+
+// The name field is left by the click, and tells what is missing; the choice takes it away.
+TEST(DataType, GoingBackToRawDataTellsOnceThatTheNameIsMissing) {
+  ProgramSession user;
+  user.Click("DesOpt");
+  screen::Guarded(user.ports, user.At("NameTxB").LostFocus);
+  EXPECT_EQ(user.box.shown.size(), 1u);
+  user.Click("RawOpt");
+  EXPECT_FALSE(user.At("IdentFrame").visible);
+  screen::Guarded(user.ports, user.At("NameTxB").LostFocus);
+  EXPECT_EQ(user.box.shown.size(), 1u);
+  EXPECT_FALSE(user.At("IdentFrame").visible);
+}
+
+TEST(DataType, RawDataWithoutASeriesShowsNoNameAndNoSizeAlsoBehindADeclinedExit) {
+  ProgramSession user;
+  user.Click("RawOpt");
+  user.Click("MenuExit");
+  EXPECT_FALSE(user.program.EndRequested());
+  EXPECT_FALSE(user.At("IdentFrame").visible);
+  EXPECT_TRUE(user.At("BoodschFrame").visible);
+  EXPECT_THAT(user.Text("BoodschLbl"), testing::StartsWith("Analyze a series"));
 }
 
 TEST(DataType, KnownStatisticsEndASavedSeriesWithoutAQuestion) {
@@ -113,8 +181,7 @@ TEST(DataType, NoKeepsTheUnsavedSeriesAndItsOption) {
   }
 }
 
-// One wish, one question: the focus that a click brings must not ask a second time, and the answer
-// must not stick to the next wish.
+// One wish, one question, and the answer must not stick to the next wish.
 TEST(DataType, AMouseClickOnKnownStatisticsAsksOnceEachTime) {
   ProgramSession user;
   OpenAndEdit(user);
@@ -127,16 +194,6 @@ TEST(DataType, AMouseClickOnKnownStatisticsAsksOnceEachTime) {
   user.box.answers = {Answer::Yes};
   MouseClick(user, "DesOpt");
   EXPECT_EQ(user.box.shown.size(), 3u);
-  EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
-}
-
-TEST(DataType, ComingBackToKnownStatisticsByKeyboardAsksAgain) {
-  ProgramSession user;
-  OpenAndEdit(user);
-  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
-  user.box.answers = {Answer::Yes};
-  screen::Guarded(user.ports, user.At("DesOpt").GotFocus);
-  EXPECT_EQ(user.box.shown.size(), 2u);
   EXPECT_EQ(user.Record().Mode, DataMode::Statistics);
 }
 

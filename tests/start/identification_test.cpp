@@ -118,6 +118,69 @@ TEST(Identification, ANameThatStartsWithADigitIsEmptiedAndAskedForAgain) {
   EXPECT_EQ(Focus(user), "NameTxB");
 }
 
+// A series from a file goes by its path, which may begin with what a typed name may not.
+TEST(Identification, ANameThatTheUserDidNotChangeIsNeverRefused) {
+  ProgramSession user;
+  OpenAndReturn(user);
+  const std::string path = user.Record().Name;
+  ASSERT_EQ(path.front(), '/');
+  user.Visit("NameTxB");
+  user.At("NameTxB").text = "/as/a/field/may/show/it";
+  screen::Guarded(user.ports, user.At("NameTxB").LostFocus);
+  EXPECT_EQ(user.Record().Name, path);
+  EXPECT_EQ(user.Text("NameTxB"), path);
+  EXPECT_TRUE(user.box.shown.empty());
+}
+
+TEST(Identification, APathCanBeEditedWithoutLosingItsBeginning) {
+  ProgramSession user;
+  OpenAndReturn(user);
+  const std::string path = user.Record().Name;
+  user.Type("NameTxB", path + ", night shift");
+  EXPECT_EQ(user.Record().Name, path + ", night shift");
+  EXPECT_TRUE(user.box.shown.empty());
+  user.Type("NameTxB", "3 welders");
+  EXPECT_EQ(user.LastBox().text, "Start exposure name with a letter");
+}
+
+// The next field that is needed, not the next of those that were there before the entry.
+TEST(NextField, BehindTheSizeOfANewSeriesIsContinue) {
+  ProgramSession user;
+  user.Click("MenuNewVkrFil");
+  user.Type("NameTxB", "Solvent");
+  Focus(user);
+  user.Type("SampSizTxB", "3");
+  EXPECT_EQ(Focus(user), "CmdContinu");
+}
+
+TEST(NextField, BehindARefusedSizeIsTheSizeAgain) {
+  ProgramSession user;
+  user.Click("MenuNewVkrFil");
+  user.Type("NameTxB", "Solvent");
+  Focus(user);
+  user.Type("SampSizTxB", "1");
+  EXPECT_EQ(Focus(user), "SampSizTxB");
+  EXPECT_EQ(user.box.shown.size(), 1u);
+}
+
+TEST(NextField, BehindTheFirstValidGSDAreTheTabs) {
+  ProgramSession user;
+  user.EnterStatistics("Welders", "12", "1.5", "abc");
+  EXPECT_EQ(Focus(user), "GSDTxB");
+  user.Type("GSDTxB", "2.5");
+  EXPECT_EQ(Focus(user), "TabBasis");
+}
+
+TEST(NextField, BehindOneThatIsOnlyLookedAtIsThatOfTheEye) {
+  ProgramSession user;
+  user.EnterStatistics("Welders", "12", "1.5", "2.5");
+  for (const char* field : {"NameTxB", "SampSizTxB", "GMTxB", "GSDTxB"}) {
+    Focus(user);
+    user.Visit(field);
+    EXPECT_EQ(Focus(user), "") << field;
+  }
+}
+
 TEST(Identification, TheSampleSizeRunsFromTwoToTwoThousand) {
   const std::tuple<const char*, bool, const char*> entries[] = {
       {"1", false, "A Sample size M of less than two is too small"},

@@ -170,6 +170,29 @@ TEST(OpenFile, TheStartScreenStaysUsableAfterARefusal) {
   EXPECT_TRUE(user.Record().DescOk);
 }
 
+// Its path and the number of its lines are not the beginning of another series.
+TEST(OpenFile, ARefusedFileIsNoBaseForANewSeriesAndNoFileToSaveTo) {
+  ProgramSession user;
+  user.OpenFile(support::WriteTemporary("refused.vkr", "1\r\n2\r\nabc\r\n"));
+  user.Click("MenuExit");
+  EXPECT_EQ(user.LastBox().text, "Are you sure you want  to close and quit VALKORIN ?");
+  EXPECT_FALSE(user.At("IdentFrame").visible);
+  EXPECT_FALSE(user.At("CmdContinu").visible);
+  EXPECT_FALSE(user.At("MenuSave").enabled);
+  EXPECT_THAT(user.Text("BoodschLbl"), testing::HasSubstr("Line 3 "));
+  EXPECT_THAT(user.program.Title(), testing::Not(testing::HasSubstr("refused")));
+  user.Click("MenuNewVkrFil");
+  EXPECT_EQ(user.Text("NameTxB"), "");
+  user.Type("NameTxB", "Solvent");
+  user.Type("SampSizTxB", "2");
+  user.Click("CmdContinu");
+  auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
+  for (const int row : {0, 1}) grid.Write(row, 2, row == 0 ? "1" : "2");
+  grid.CommitRow();
+  user.Click("MenuSave");
+  EXPECT_EQ(user.dialog.asked.back().fileName, "Solvent");
+}
+
 TEST(OpenFile, ClosingEndsTheHalfChangedStateOfARefusal) {
   ProgramSession user;
   user.OpenFile(support::WriteTemporary("refused.vkr", "1\r\n2\r\nabc\r\n"));

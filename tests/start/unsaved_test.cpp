@@ -72,12 +72,23 @@ TEST(Unsaved, ANewSeriesWithNothingTypedHasNothingToLose) {
   EXPECT_TRUE(user.program.Unsaved());
 }
 
-TEST(Unsaved, KnownStatisticsNeverAreForTheyHaveNoFile) {
+TEST(Unsaved, KnownStatisticsNeverAreForTheyHaveNoFileYetClosingThemAsks) {
   ProgramSession user;
   user.EnterStatistics("Welders", "12", "1.5", "2.5");
   EXPECT_FALSE(user.program.Unsaved());
   user.Click("Menuclose");
-  EXPECT_TRUE(user.box.shown.empty());
+  ASSERT_EQ(user.box.shown.size(), 1u);
+  EXPECT_EQ(user.Record().GM, 1.5);
+}
+
+TEST(Unsaved, ClosingANewSeriesThatHasOnlyANameAsks) {
+  ProgramSession user;
+  support::NewSeries(user, "Solvent", "3");
+  user.Click("Menuclose");
+  ASSERT_EQ(user.box.shown.size(), 1u);
+  EXPECT_EQ(user.LastBox().text, "Are you sure you want  to close Solvent ?");
+  EXPECT_EQ(user.LastBox().advice, "What was typed is not kept in any file.");
+  EXPECT_EQ(user.Record().Name, "Solvent");
 }
 
 TEST(UnsavedQuestion, NamesTheSeriesAndOffersNoFirst) {
@@ -134,14 +145,6 @@ TEST(UnsavedQuestion, YesAndThenACancelledDialogStillKeepsTheSeries) {
   EXPECT_EQ(user.LastBox().text, "No file loaded!");
   EXPECT_EQ(user.Record().M, 4);
   EXPECT_TRUE(user.program.Unsaved());
-}
-
-TEST(UnsavedQuestion, LeavingTheProgramAsksItsOwnQuestionOnly) {
-  ProgramSession user;
-  OpenAndEdit(user);
-  user.Click("MenuExit");
-  ASSERT_EQ(user.box.shown.size(), 1u);
-  EXPECT_EQ(user.LastBox().title, "Exit");
 }
 
 TEST(WindowTitle, CarriesTheNameOfTheData) {

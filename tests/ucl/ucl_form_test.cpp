@@ -96,6 +96,7 @@ TEST_F(MeanScreen, StatisticsHaveNoTabForOutcomesASeriesHas) {
                                                 "mean", "Compare"));
   EXPECT_FALSE(form.MenuPlot.visible);
   p.Tab("basis");
+  p.box.answers = {screen::Answer::Yes};
   p.Click("Menuclose");
   p.OpenSeries({0.4, 0.9, 1.3});
   p.Tab("basis");
@@ -187,6 +188,7 @@ TEST_F(MeanScreen, LeavingByAnyWayEmptiesTheTestTag) {
   EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
   p.Tab("mean");
   p.Click("JahrCmb");
+  p.box.answers = {screen::Answer::Yes};
   p.Click("Menuclose");
   EXPECT_EQ(p.Record().TestTag, Extrapolation::None);
 }
