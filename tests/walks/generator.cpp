@@ -1,12 +1,10 @@
 #include "tests/walks/generator.h"
 
-#include "catalog/catalog.h"
+#include "drive/hands.h"
 #include "tests/walks/theatre.h"
 
 namespace walks {
 namespace {
-
-constexpr int kExit = 210;  // title of the question before the program ends
 
 const Offer& ByWeight(const std::vector<Offer>& offers, Random& random) {
   int sum = 0;
@@ -31,11 +29,13 @@ Step Generator::Next() {
   return Line("key Tab");
 }
 
-// The program goes on: every question whether to end it is declined.
 screen::Answer Generator::Choose(const screen::Message& message) {
   using screen::Answer;
-  if (message.title == LoadResString(kExit))
-    return message.buttons == screen::Buttons::OkCancel ? Answer::Cancel : Answer::No;
+  if (const auto staying = StayingAnswer(message)) {
+    const bool asksOn = !message.advice.empty() && random_.Chance(50);
+    if (!asksOn) return *staying;
+    return *staying == Answer::No ? Answer::Yes : Answer::Ok;
+  }
   std::vector<Answer> fitting;
   for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No})
     if (Offers(message.buttons, answer)) fitting.push_back(answer);
@@ -47,6 +47,7 @@ std::vector<Offer> Generator::OffersHere() {
   const std::string& form = page_.Stage().Shown().name;
   OfferWays(offers);
   OfferMenus(offers);
+  OfferOptions(offers);
   if (form == "BasisForm") OfferStart(offers);
   if (form == "DataCtrlForm") OfferRawData(offers);
   if (form == "GrenzenForm") OfferLimits(offers);
@@ -76,6 +77,18 @@ void Generator::OfferWays(std::vector<Offer>& offers) {
                       static const std::vector<std::string> keys = {"Tab", "Shift+Tab"};
                       return Line("key " + random_.Pick(keys));
                     }});
+  if (random_.Chance(12)) offers.push_back({1, "", [this] { return Line("quit"); }});
+}
+
+// The arrows go from option to option; the space bar chooses the one that they have reached.
+void Generator::OfferOptions(std::vector<Offer>& offers) {
+  const std::string focus = drive::Focused(page_.Stage());
+  if (!focus.ends_with("Opt")) return;
+  offers.push_back({20, "", [this] {
+                      static const std::vector<std::string> keys = {
+                          "Left", "Right", "Up", "Down", "Left", "Right", "Space", "Return"};
+                      return Line("key " + random_.Pick(keys));
+                    }});
 }
 
 // Rare: what ends the walk's series, and the slowest calculation.
@@ -84,9 +97,13 @@ void Generator::OfferMenus(std::vector<Offer>& offers) {
     if (!page_.IsMenuItem(*control)) continue;
     const std::string& name = control->name;
     // These need a file, or what another program has put on the clipboard.
-    if (name == "menuopen" || name == "MenuSave" || name == "menuSavePicture" ||
-        name == "MenuPaste" || name == "MenuUndo" || name == "MenuRedo")
+    if (name == "menuopen" || name == "menuSavePicture" || name == "MenuPaste" ||
+        name == "MenuUndo" || name == "MenuRedo")
       continue;
+    if (name == "MenuSave") {
+      offers.push_back({1, name, [this] { return SaveSeries(); }});
+      continue;
+    }
     const bool rare =
         name == "MenuExit" || name == "Menuclose" || name == "MenuLand" || name == "MenuDevMode";
     if (rare && !random_.Chance(12)) continue;
@@ -120,6 +137,11 @@ void Generator::Pick(std::vector<Offer>& offers, int weight, const std::string& 
                       return Line(
                           LineWith("pick " + name, random_.Pick(page_.Control(name).items)));
                     }});
+}
+
+Step Generator::SaveSeries() {
+  static const std::vector<std::string> names = {"saved1.vkr", "saved2.vkr"};
+  return ToSave("MenuSave", random_.Pick(names));
 }
 
 Step Generator::ToSave(const std::string& menu, const std::string& file) {

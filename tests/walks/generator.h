@@ -31,6 +31,7 @@ class Generator {
  private:
   std::vector<Offer> OffersHere();
   void OfferWays(std::vector<Offer>& offers);
+  void OfferOptions(std::vector<Offer>& offers);
   void OfferMenus(std::vector<Offer>& offers);
   void OfferStart(std::vector<Offer>& offers);
   void OfferIdentification(std::vector<Offer>& offers);
@@ -53,6 +54,7 @@ class Generator {
 
   Step Line(const std::string& line) const { return {{line}}; }
   Step OpenFile();
+  Step SaveSeries();
   Step ToSave(const std::string& menu, const std::string& file);
   Step PasteRows();
   Step MenuStep(const std::string& name);

@@ -77,10 +77,7 @@ void Generator::OfferRawData(std::vector<Offer>& offers) {
                       }});
   Pick(offers, 1, "DimCbo");
   Type(offers, 1, "DimCbo", kUnitTexts);
-  offers.push_back({2, "MenuSave", [this] {
-                      static const Texts names = {"saved1.vkr", "saved2.vkr"};
-                      return ToSave("MenuSave", random_.Pick(names));
-                    }});
+  offers.push_back({1, "MenuSave", [this] { return SaveSeries(); }});
 }
 
 void Generator::OfferEdits(std::vector<Offer>& offers) {

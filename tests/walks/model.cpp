@@ -39,6 +39,11 @@ bool Scene::Chosen(const std::string& menu) const {
   return step.Command() == "menu" && step.Rest() == menu;
 }
 
+bool Scene::OptionPressed() const {
+  const std::string key = step.Command() == "key" ? step.Rest() : "";
+  return before.focus.ends_with("Opt") && (key == "Space" || key == "Return");
+}
+
 void Model::Advance(const Scene& scene) {
   AdvanceClose(scene);
   AdvanceSeries(scene);

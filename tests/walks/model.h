@@ -38,6 +38,8 @@ struct Scene {
   bool Chosen(const std::string& menu) const;
   // The user takes a step back, or does it again.
   bool StepsBack() const;
+  // An option that has the focus is chosen by the keys that press it, and by no others.
+  bool OptionPressed() const;
 };
 
 // The tolerance limit of the last test, and what it rests on.

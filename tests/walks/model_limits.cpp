@@ -172,8 +172,9 @@ void Model::AdvanceReference(const Scene& scene) {
 // Nothing of a closed series is left but the limits.
 void Model::AdvanceClose(const Scene& scene) {
   const Seen& after = scene.after;
-  const bool closing = scene.Chosen("Menuclose") || scene.Clicked("RawOpt") ||
-                       scene.Clicked("DesOpt") || scene.Arrived("BasisForm");
+  const bool closing = scene.Chosen("Menuclose") || scene.OptionPressed() ||
+                       scene.Clicked("RawOpt") || scene.Clicked("DesOpt") ||
+                       scene.Arrived("BasisForm");
   if (after.M != 0 || !after.Name.empty() || scene.before.M == 0 || !closing) return;
   lastLimit.reset();
   std::string left;

@@ -21,16 +21,34 @@ bool Accepted(double value) { return value <= 0 || (value >= 1E-10 && value <= 1
 // A name and a size that were refused leave the outcomes that they are to stand for.
 bool Empty(const Seen& seen) { return seen.M == 0 && seen.Name.empty() && seen.C.size() <= 1; }
 
-// The option of the other kind of data is chosen by the focus, too.
-bool OtherKind(const Scene& scene) {
-  return scene.after.Mode != scene.before.Mode && scene.step.Command() == "key";
-}
-
 // What closes a series, asked for or by itself.
 bool MayClose(const Scene& scene) {
-  return OtherKind(scene) || scene.Chosen("Menuclose") || scene.Chosen("MenuNewVkrFil") ||
+  return scene.OptionPressed() || scene.Chosen("Menuclose") || scene.Chosen("MenuNewVkrFil") ||
          scene.Chosen("menuopen") || scene.Clicked("RawOpt") || scene.Clicked("DesOpt") ||
          !scene.step.boxes.empty();
+}
+
+// Typed by hand: nothing but the record has it.
+bool HoldsTyped(const Seen& seen) {
+  return seen.Mode == "D" && (seen.M != 0 || !seen.Name.empty() || seen.GM != 0 || seen.GSD != 0);
+}
+
+bool IsQuestion(const screen::Message& box) {
+  return box.buttons == screen::Buttons::YesNo && box.icon == screen::Icon::Question;
+}
+
+// Keys that go from control to control choose nothing, and what would be lost is asked about once.
+void CheckChoice(const Scene& scene) {
+  const auto questions = std::ranges::count_if(scene.step.boxes, IsQuestion);
+  const bool start = scene.On("BasisForm");
+  if (start && questions > 1) scene.findings.Add("series", "the same is asked twice");
+  const bool gone = HoldsTyped(scene.before) && scene.after.Name.empty() && scene.after.M == 0 &&
+                    scene.after.GM == 0 && !scene.before.Name.empty() && scene.before.M != 0;
+  if (gone && questions == 0)
+    scene.findings.Add("series", "typed statistics are gone without a question");
+  const bool chosen = scene.after.Mode != scene.before.Mode;
+  if (start && chosen && scene.step.Command() == "key" && !scene.OptionPressed())
+    scene.findings.Add("series", scene.step.Rest() + " chooses the other kind of data");
 }
 
 std::vector<std::string> Lines(const std::string& text) {
@@ -58,9 +76,11 @@ void Model::AdvanceSeries(const Scene& scene) {
   if (scene.On("DataCtrlForm") && !scene.before.ModifyMode) Edited(scene);
   if (scene.Chosen("menuopen")) Opened(scene);
   if (scene.Chosen("MenuSave") && scene.step.asked && !scene.step.file.empty()) {
-    outcomes_.resize(At(scene.after.Count()));
+    const double M = scene.after.ModifyMode ? MBeforeModify_ : scene.after.Count();
+    outcomes_.resize(At(static_cast<int>(M)));
     folder_.Saved(scene.step.file, outcomes_);
   }
+  CheckChoice(scene);
   CheckSeries(scene);
   TakeSeries(scene.after);
   CheckDigits(scene);

@@ -15,6 +15,10 @@ const char* NameOf(screen::Answer answer) {
       return "cancel";
     case screen::Answer::Yes:
       return "yes";
+    case screen::Answer::Save:
+      return "save";
+    case screen::Answer::Discard:
+      return "discard";
     default:
       return "no";
   }

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "catalog/catalog.h"
 #include "drive/text.h"
 
 namespace walks {
@@ -17,9 +18,17 @@ bool Offers(Buttons buttons, Answer answer) {
       return answer == Answer::Ok || answer == Answer::Cancel;
     case Buttons::YesNo:
       return answer == Answer::Yes || answer == Answer::No;
+    case Buttons::SaveDiscardCancel:
+      return answer == Answer::Save || answer == Answer::Discard || answer == Answer::Cancel;
     default:
-      return answer != Answer::Ok;
+      return answer == Answer::Yes || answer == Answer::No || answer == Answer::Cancel;
   }
+}
+
+std::optional<Answer> StayingAnswer(const screen::Message& message) {
+  constexpr int kExit = 210;
+  if (message.title != LoadResString(kExit)) return std::nullopt;
+  return message.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
 }
 
 Answer ChosenBox::Show(const screen::Message& message) {

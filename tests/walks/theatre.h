@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -15,6 +16,9 @@ using Chooser = std::function<screen::Answer(const screen::Message&)>;
 
 // Whether a box with these buttons takes the answer.
 bool Offers(screen::Buttons buttons, screen::Answer answer);
+
+// The answer to a question on the way out of the program that keeps it running; none for others.
+std::optional<screen::Answer> StayingAnswer(const screen::Message& message);
 
 // Lets somebody choose the answer while the box is there; the driver's own box keeps it.
 class ChosenBox final : public screen::MessageBox {

@@ -75,8 +75,9 @@ class Again {
     const bool known = at_ < answers_.size() && Offers(message.buttons, answers_[at_]);
     const screen::Answer answer = known ? answers_[at_] : message.defaultAnswer;
     ++at_;
-    const bool ends = answer == screen::Answer::Ok && message.buttons == screen::Buttons::OkCancel;
-    return ends ? screen::Answer::Cancel : answer;
+    // Behind a Yes or OK about unsaved changes another question comes, and keeps the program there.
+    const auto staying = StayingAnswer(message);
+    return staying && message.advice.empty() ? *staying : answer;
   }
 
  private:
