@@ -81,6 +81,12 @@ void BasisForm::TakeSampleSize(double M) {
 
 void BasisForm::LeaveStatistic(screen::Control& field) {
   const bool typed = field.touched;
+  // One message for one error: who was told leaves in silence.
+  if (!typed && told_ == &field) {
+    BasisStatus();
+    focusWanted = nullptr;
+    return;
+  }
   const bool isGM = &field == &GMTxB;
   double value = isGM ? session.TypedGM : session.TypedGSD;
   const auto check = isGM ? GlobalBAS::CheckGM : GlobalBAS::CheckGSD;
@@ -92,6 +98,10 @@ void BasisForm::LeaveStatistic(screen::Control& field) {
     const auto width = static_cast<std::int16_t>(GlobalBAS::GeneralText(value).size());
     given.typedWidth = std::max(given.typedWidth, width);
   });
+  if (refused)
+    told_ = &field;
+  else if (told_ == &field)
+    told_ = nullptr;
   BasisStatus();
   KeepFocus(field, refused, typed);
 }

@@ -103,6 +103,8 @@ struct BasisForm final : navigation::SessionForm {
 
   // The field whose entry the Tab key has taken: leaving it takes it no second time.
   const screen::Control* taken_ = nullptr;
+  // The statistic that was refused last, and that nothing was typed for since.
+  const screen::Control* told_ = nullptr;
 };
 
 }  // namespace start

@@ -127,6 +127,7 @@ void BasisForm::Menuclose_Click() {
 
 void BasisForm::Sluiten() {
   const bool raw = session.Mode == DataMode::Raw;
+  told_ = nullptr;
   record.Close();
   if (raw && tellReading) tellReading(nullptr);
 

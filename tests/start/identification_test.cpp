@@ -52,6 +52,18 @@ TEST(KnownStatistics, WhileGMIsOutOfRangeTheTabsAreHiddenAndTheFocusGoesToGM) {
   EXPECT_EQ(Focus(user), "GMTxB");
 }
 
+TEST(KnownStatistics, WhoWasToldThatGMIsTooLargeMayGoAndMendTheSize) {
+  ProgramSession user;
+  user.EnterStatistics("Welders", "12", "20000", "2.5");
+  ASSERT_EQ(user.LastBox().text, "GM value too large");
+  const std::size_t told = user.box.shown.size();
+  user.Visit("GMTxB");
+  EXPECT_EQ(user.box.shown.size(), told);
+  EXPECT_EQ(Focus(user), "");
+  user.Type("GMTxB", "30000");
+  EXPECT_EQ(user.box.shown.size(), told + 1) << "another error";
+}
+
 TEST(KnownStatistics, ARefusedGSDIsPulledToItsLimitAndKeepsTheFocus) {
   ProgramSession user;
   user.EnterStatistics("Welders", "12", "1.5", "2000");
