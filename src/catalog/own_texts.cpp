@@ -148,6 +148,10 @@ constexpr Row kRows[] = {
     {Own::NoTabsForGM, "There are no tabs here: GM {0} lies outside 0.0001 to 10000."},
     {Own::NoTabsForGSD, "There are no tabs here: GSD {0} lies outside 1.001 to 1000."},
     {Own::ContinueToRawData, "Continue leads to the raw data, and from there to the others."},
+    {Own::PictureSpoken, "{0}. GM {1} {2}, GSD {3}. {4}"},
+    {Own::CellSpoken, "{0}, row {1}"},
+    {Own::CellEmpty, "empty"},
+    {Own::CellNew, "new outcome"},
 };
 
 }  // namespace

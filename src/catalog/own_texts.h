@@ -119,6 +119,10 @@ enum class Own {
   NoTabsForGM,
   NoTabsForGSD,
   ContinueToRawData,
+  PictureSpoken,
+  CellSpoken,
+  CellEmpty,
+  CellNew,
 };
 
 const char* OwnText(Own id);

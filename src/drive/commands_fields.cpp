@@ -1,3 +1,4 @@
+#include "drive/access_key.h"
 #include "drive/failure.h"
 #include "drive/grid_hands.h"
 #include "drive/hands.h"
@@ -36,6 +37,8 @@ void Up(Play& play, std::string rest) { Step(play.stage, TakeTarget(play, rest),
 void Down(Play& play, std::string rest) { Step(play.stage, TakeTarget(play, rest), Arrow::Down); }
 void Key(Play& play, std::string rest) { Press(play.stage, rest); }
 
+void Access(Play& play, std::string rest) { PressAccessKey(play.stage, rest); }
+
 void Cell(Play& play, std::string rest) {
   const int row = IntOf(TakeWord(rest));
   TypeIntoCell(play.stage, row, TextArgument(rest));
@@ -67,6 +70,7 @@ const CommandTable& FieldCommands() {
       {"up", Up},
       {"down", Down},
       {"key", Key},
+      {"access", Access},
       {"bar", Bar},
       {"plotclick", PlotClick},
       {"cell", Cell},

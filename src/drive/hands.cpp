@@ -131,7 +131,8 @@ void TypeInto(Stage& stage, const Target& target, const std::string& text) {
 void Press(Stage& stage, const std::string& keys) {
   const QKeySequence sequence = QKeySequence::fromString(QString::fromStdString(keys));
   if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) throw Failure("no key " + keys);
-  QWidget* widget = QApplication::focusWidget();
+  QWidget* widget = QApplication::activePopupWidget();
+  if (!widget) widget = QApplication::focusWidget();
   QTest::keyClick(widget ? widget : &stage.Window(), sequence[0].key(),
                   sequence[0].keyboardModifiers());
   stage.Settle();

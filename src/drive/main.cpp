@@ -5,8 +5,10 @@
 
 #include <fstream>
 #include <iostream>
+#include <istream>
 #include <string>
 
+#include "drive/live_input.h"
 #include "drive/player.h"
 #include "drive/script.h"
 #include "drive/scripted_ports.h"
@@ -48,7 +50,11 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   const std::string path = arguments[1].toStdString();
-  if (path == "-") return PlayAll(std::cin);
+  if (path == "-") {
+    drive::LiveInput input;
+    std::istream lines(&input);
+    return PlayAll(lines);
+  }
   std::ifstream file(path);
   if (!file) {
     std::cerr << "valkorin-drive: can't read " << path << "\n";

@@ -7,6 +7,7 @@
 #include "catalog/own_texts.h"
 #include "plots/annex_e.h"
 #include "plots/paper_labels.h"
+#include "plots/picture_words.h"
 #include "plots/regression_line.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
@@ -83,6 +84,7 @@ void PlotForm::PlotStatus() {
   // The headline may have had to shorten it.
   const std::string series = GlobalBAS::Trim(session.Name);
   PicPlot.tip = PlotWBas::Shows(PicPlot.drawing, "LblKoptekst", series) ? "" : series;
+  PicPlot.text = PlotWBas::PictureWords(session, LblKoptekst.text, LblShapiro.text);
   TickChoices();
   menuExtrPol.visible = menuExtrPol.enabled = session.LimitsOk;
   OfferPicture();

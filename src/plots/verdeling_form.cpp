@@ -5,6 +5,7 @@
 #include "catalog/own_texts.h"
 #include "plots/density_view.h"
 #include "plots/labels.h"
+#include "plots/picture_words.h"
 #include "session/derivation.h"
 #include "session/global_bas.h"
 #include "stats/estimators.h"
@@ -44,6 +45,7 @@ void VerdelingForm::Draw() {
   // The headline may have had to shorten it.
   const std::string series = GlobalBAS::Trim(s.Name);
   VerdelingPict.tip = PlotWBas::Shows(VerdelingPict.drawing, "LblKoptekst", series) ? "" : series;
+  VerdelingPict.text = PlotWBas::PictureWords(s, data.headline, data.explanation);
   for (const PlotWBas::DensityMark& mark : data.marks) ShowLabel(mark.name, mark.text);
   ShowLabel("XasLbl(0)", data.endText);
   ShowLabel("XasLbl", data.endValue);

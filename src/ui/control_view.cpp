@@ -14,6 +14,7 @@
 
 #include "ui/elided_label.h"
 #include "ui/picture_view.h"
+#include "ui/spoken.h"
 #include "ui/text.h"
 #include "ui/title_frame.h"
 #include "ui/vkr_grid_view.h"
@@ -128,6 +129,8 @@ void ControlView::PushText() {
     frame->SetTitle(text);
   } else if (auto* grid = qobject_cast<VkrGridView*>(widget_)) {
     grid->SetCaption(text);
+  } else if (qobject_cast<PictureView*>(widget_)) {
+    GiveName(*widget_, text);
   }
 }
 
@@ -147,6 +150,10 @@ void ControlView::PushTip() {
   std::string tip = shown_->tip;
   if (CutsOff(widget_, Shown(shown_->text))) tip = shown_->text + (tip.empty() ? "" : "\n") + tip;
   widget_->setToolTip(TipText(tip));
+  // A reader would take the tip as it is written for the screen.
+  const QString plain = Lines(tip).trimmed();
+  if (!qobject_cast<PictureView*>(widget_) && widget_->accessibleDescription() != plain)
+    widget_->setAccessibleDescription(plain);
 }
 
 void ControlView::FontChanged() {
@@ -202,23 +209,26 @@ void ControlView::PushAction(bool onPage) {
   action_->setVisible(shown_->visible);
 }
 
+void ControlView::ShowCaption(const std::string& caption) {
+  const QString text = action_ ? Shown(caption) : Lines(caption);
+  if (action_ && action_->text() != text) action_->setText(text);
+  auto* button = qobject_cast<QAbstractButton*>(widget_);
+  if (button && button->text() != text) button->setText(text);
+}
+
 void ControlView::SelectAll() {
   control_.selectAll = false;
   if (auto* edit = qobject_cast<QLineEdit*>(widget_)) edit->selectAll();
   if (auto* box = qobject_cast<QComboBox*>(widget_)) box->lineEdit()->selectAll();
 }
 
-// A screen reader calls a field by its label; a field that has none, by its tip.
+// A screen reader calls a label by its text. The names of fields are put together by who knows
+// their labels.
 void ControlView::NameForReaders() {
-  if (auto* label = qobject_cast<QLabel*>(widget_)) {
-    if (label->buddy()) label->buddy()->setAccessibleName(label->text().trimmed());
-    return;
-  }
-  if (qobject_cast<PictureView*>(widget_)) return;  // tells its texts itself
-  const QString tip = Lines(shown_->tip).trimmed();
-  if (widget_->accessibleName().isEmpty() && DesignText(widget_).isNull())
-    widget_->setAccessibleName(tip);
-  widget_->setAccessibleDescription(tip);
+  auto* label = qobject_cast<QLabel*>(widget_);
+  if (!label || control_.kind != screen::Kind::Label) return;
+  const QString words = label->text().remove(kBreak).trimmed();
+  GiveName(*label, words == label->text() ? QString() : words);
 }
 
 }  // namespace ui

@@ -26,6 +26,8 @@ class ControlView {
   // Brings the widget up to date. `onPage`: whether the control's screen is the shown one, which
   // the menus of the shared menu bar follow.
   void Push(bool onPage);
+  // The button or item shows this caption, which differs from its state in the access key only.
+  void ShowCaption(const std::string& caption);
   // The desktop has other colours now.
   void PaletteChanged();
   // The widget has another width: the tip of a text that it cuts off begins with the whole text.

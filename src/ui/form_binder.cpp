@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "ui/tab_order.h"
 #include "ui/text.h"
 #include "ui/up_down_pair.h"
 #include "ui/vkr_grid_view.h"
@@ -38,6 +39,8 @@ FormBinder::FormBinder(screen::Form& form, QMenuBar& menuBar, EventGate& gate)
   form_.captionTag = page_.captionTag;
   for (Control* control : form_.controls)
     if (HasOwnWidget(*control)) Add(*control);
+  for (const QLabel* label : page_.content->findChildren<QLabel*>())
+    if (label->buddy()) labels_[label->buddy()] = label;
   page_.sizes->Fit(QFontMetricsF(QApplication::font()));
 }
 
@@ -54,6 +57,7 @@ void FormBinder::Add(Control& control) {
   ControlView& view = views_.emplace_back(control, widget, action);
   if (widget) byWidget_[widget] = &view;
   if (!added) view.ReadDesign();
+  Group(view);
 }
 
 QWidget* FormBinder::TakeContent() {
@@ -65,6 +69,7 @@ QWidget* FormBinder::TakeContent() {
 
 void FormBinder::Connect(FocusWatch& focus) {
   focus_ = &focus;
+  OrderTabs(*page_.content);
   for (ControlView& view : views_) Connect(view);
 }
 
@@ -177,15 +182,25 @@ void FormBinder::TriggerMenu(const Control& menu) {
   Step(menu.Click);
 }
 
+// Wherever the screen would go on to, the next press of the key is for the same field.
+void FormBinder::StepField(Control& field, const screen::Handler& step) {
+  Act([this, &field, &step] {
+    if (field.touched && field.LostFocus) field.LostFocus();
+    field.touched = false;
+    step();
+    form_.focusWanted = nullptr;
+  });
+}
+
 // The arrow keys in a field press the up-down pair that names the field as its own.
-bool FormBinder::StepKey(const Control& field, int key) {
+bool FormBinder::StepKey(Control& field, int key) {
   if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
   const QString name = DesignName(field.name);
   for (ControlView& view : views_) {
     const bool owns =
         view.Control().kind == Kind::UpDown && view.Widget()->property("Field").toString() == name;
     if (!owns || !view.Widget()->isEnabled() || !view.Widget()->isVisible()) continue;
-    Step(key == Qt::Key_Up ? view.Control().StepUp : view.Control().StepDown);
+    StepField(field, key == Qt::Key_Up ? view.Control().StepUp : view.Control().StepDown);
     return true;
   }
   return false;
@@ -262,6 +277,9 @@ Control* FormBinder::ControlOf(const QWidget* widget) const {
 
 void FormBinder::Push(bool onPage) {
   for (ControlView& view : views_) view.Push(onPage);
+  if (!onPage) return;
+  GiveAccessKeys();
+  NameFields();
 }
 
 void FormBinder::PaletteChanged() {

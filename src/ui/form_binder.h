@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QObject>
 
 #include <deque>
+#include <map>
 #include <unordered_map>
+#include <vector>
 
 #include "screen/form.h"
 #include "ui/control_view.h"
@@ -32,6 +35,7 @@ class FormBinder : public QObject {
   void Connect(FocusWatch& focus);
 
   screen::Form& Form() const { return form_; }
+  const std::vector<QAction*>& BarItems() const { return page_.barItems; }
   QWidget* Frame() const { return page_.frame; }
   // The laid-out controls for a window of their own; there is no frame any more.
   QWidget* TakeContent();
@@ -51,6 +55,10 @@ class FormBinder : public QObject {
 
  private:
   void Add(screen::Control& control);
+  void Group(ControlView& view);
+  void GiveAccessKeys();
+  void NameFields();
+  QString UnitOf(const QWidget& field) const;
   // What the layout does not know goes where the control says it stands.
   QWidget* AddWidget(const screen::Control& control);
   QAction* AddItem(const screen::Control& control);
@@ -71,10 +79,11 @@ class FormBinder : public QObject {
   bool LeavesStepsToMenu(const QWidget* widget, const QEvent& event) const;
   QList<QKeySequence> StepKeys(const QString& item) const;
   void TriggerMenu(const screen::Control& menu);
-  bool StepKey(const screen::Control& control, int key);
   bool ButtonEvent(QAbstractButton& button, QEvent& event);
   bool AccessKey(QAbstractButton& button, const QShortcutEvent& event);
   static bool LookAtOption(const QWidget& option, int key);
+  bool StepKey(screen::Control& field, int key);
+  void StepField(screen::Control& field, const screen::Handler& step);
   // Runs `handler` after everything that the user did before.
   void Act(const screen::Handler& handler);
 
@@ -84,6 +93,10 @@ class FormBinder : public QObject {
   FocusWatch* focus_ = nullptr;
   std::deque<ControlView> views_;  // views keep their place
   std::unordered_map<const QWidget*, ControlView*> byWidget_;
+  // What can be seen together and so needs different access keys: the page with the menu bar, and
+  // the items of each menu.
+  std::map<const QMenu*, std::vector<ControlView*>> seenTogether_;
+  std::unordered_map<const QWidget*, const QLabel*> labels_;  // of the fields
 };
 
 }  // namespace ui

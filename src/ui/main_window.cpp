@@ -18,6 +18,7 @@
 #include "ui/form_binder.h"
 #include "ui/side_view.h"
 #include "ui/strip_view.h"
+#include "ui/tab_walk.h"
 #include "ui/text.h"
 #include "ui/window_place.h"
 
@@ -37,6 +38,7 @@ class MainWindow::Private {
   screen::Control* ControlOf(QWidget* widget) const;
   void Add(screen::Form& form);
   void FocusNewPage(QWidget* before);
+  void ShowPage(FormBinder* binder, QWidget* focus);
   void Push();
   bool RepaintSide(const screen::Form& form);
   void Settle();
@@ -50,9 +52,11 @@ class MainWindow::Private {
   EventGate gate_;
   FocusWatch focus_;
   StripView* strip_;
+  TabWalk walk_;
   QStackedWidget* pages_;
   std::vector<std::unique_ptr<FormBinder>> binders_;
   std::vector<SideView*> sides_;  // the window owns them
+  const FormBinder* shownPage_ = nullptr;
   QPointer<QWidget> beforeDetour_;
   bool onDetour_ = false;
   bool pointerBusy_ = false;
@@ -67,6 +71,8 @@ MainWindow::Private::Private(MainWindow& window, start::Program& program, screen
       gate_(ports, [this] { Settle(); }),
       focus_(window, gate_, [this](QWidget* widget) { return ControlOf(widget); }),
       strip_(new StripView),
+      walk_(*strip_, gate_, focus_,
+            [&program]() -> const screen::Form& { return program.Shown(); }),
       pages_(new QStackedWidget) {
   auto* middle = new QWidget;
   auto* column = new QVBoxLayout(middle);
@@ -75,6 +81,7 @@ MainWindow::Private::Private(MainWindow& window, start::Program& program, screen
   column->addWidget(strip_);
   column->addWidget(pages_);
   window.setCentralWidget(middle);
+  walk_.Listen();
   for (screen::Form* form : program.Forms()) Add(*form);
   for (auto& binder : binders_) binder->Connect(focus_);
   connect(strip_, &StripView::Chosen, &window, [this](const QString& key) { Choose(key); });
@@ -113,6 +120,17 @@ void MainWindow::Private::FocusNewPage(QWidget* before) {
   }
 }
 
+// The bar knows an item's access key for as long as the item stands in it, hidden or not: so it
+// holds those of the shown screen only.
+void MainWindow::Private::ShowPage(FormBinder* binder, QWidget* focus) {
+  if (!binder || binder == shownPage_) return;
+  shownPage_ = binder;
+  window_.menuBar()->clear();
+  for (QAction* item : binder->BarItems()) window_.menuBar()->addAction(item);
+  pages_->setCurrentWidget(binder->Frame());
+  FocusNewPage(focus);
+}
+
 // Showing and hiding may move the focus; that is no event for the controls.
 void MainWindow::Private::Push() {
   pace_.Restart();
@@ -121,9 +139,7 @@ void MainWindow::Private::Push() {
   for (auto& binder : binders_) binder->Push(&binder->Form() == &shown);
   for (SideView* side : sides_) side->Push();
   strip_->Push(shown.strip);
-  const QWidget* oldPage = pages_->currentWidget();
-  if (const FormBinder* binder = BinderOf(shown)) pages_->setCurrentWidget(binder->Frame());
-  if (oldPage != pages_->currentWidget()) FocusNewPage(before);
+  ShowPage(BinderOf(shown), before);
   window_.setWindowTitle(Shown(program_.Title()) + QLatin1String("[*]"));
   window_.setWindowModified(program_.Unsaved());
   PushPointer(shown.busyPointer);

@@ -33,6 +33,16 @@ void Outline(QPainter& painter, const QStyleOption& option, bool round) {
   painter.restore();
 }
 
+// The toolkit's style shows no focus of a bar.
+void FrameOf(QPainter& painter, const QStyleOption& option) {
+  constexpr int kFrame = 2;
+  painter.save();
+  painter.setPen(QPen(option.palette.color(QPalette::Highlight), kFrame));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(option.rect.adjusted(1, 1, -1, -1));
+  painter.restore();
+}
+
 }  // namespace
 
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
@@ -62,6 +72,7 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
                                        QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
   if (control == CC_ComboBox || control == CC_ToolButton) Outline(*painter, *option, false);
+  if (control == CC_ScrollBar && (option->state & State_HasFocus)) FrameOf(*painter, *option);
 }
 
 }  // namespace ui

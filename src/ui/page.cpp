@@ -65,13 +65,10 @@ void TakeMenus(QMainWindow& shell, QMenuBar& menuBar, Page& page) {
     item->setParent(page.content);
   const QList<QAction*> tops = shell.menuBar()->actions();
   for (QAction* top : tops) {
+    page.barItems.push_back(top);
     QMenu* menu = top->menu();
-    if (!menu) {  // an item that stands in the bar itself
-      menuBar.addAction(top);
-      continue;
-    }
+    if (!menu) continue;  // an item that stands in the bar itself
     menu->setParent(&menuBar, menu->windowFlags());
-    menuBar.addAction(menu->menuAction());
     page.menus.push_back(menu);
   }
 }

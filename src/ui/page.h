@@ -20,7 +20,8 @@ struct Page {
   QWidget* content = nullptr;
   std::unique_ptr<DesignSizes> sizes;
   std::string captionTag;
-  std::vector<QMenu*> menus;  // of the menu bar
+  std::vector<QAction*> barItems;  // what the menu bar shows with this screen
+  std::vector<QMenu*> menus;       // of the menu bar
 
   QWidget* FindWidget(const QString& name) const;
   // The menu of that name; null when there is none.
@@ -29,8 +30,9 @@ struct Page {
   QAction* FindAction(const QString& name) const;
 };
 
-// Lays out the screen `formName`; its menus go into `menuBar`. Throws std::invalid_argument for
-// a form without a designer file.
+// Lays out the screen `formName`. Its menus belong to `menuBar`, but do not stand in it yet: the
+// bar of the one window holds those of the shown screen only. Throws std::invalid_argument for a
+// form without a designer file.
 Page LoadPage(const std::string& formName, QMenuBar& menuBar);
 
 }  // namespace ui

@@ -1,5 +1,6 @@
 #include "ui/picture_view.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -7,9 +8,22 @@
 #include "ui/text.h"
 
 namespace ui {
+namespace {
+
+QAccessibleInterface* ReaderOf(const QString&, QObject* object) {
+  auto* picture = qobject_cast<PictureView*>(object);
+  return picture ? new QAccessibleWidget(picture, QAccessible::Graphic) : nullptr;
+}
+
+}  // namespace
 
 PictureView::PictureView(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  setFocusPolicy(Qt::TabFocus);  // for who has it told
+  [[maybe_unused]] static const bool known = [] {
+    QAccessible::installFactory(ReaderOf);
+    return true;
+  }();
 }
 
 void PictureView::Attach(screen::Picture& picture) { picture_ = &picture; }
@@ -35,6 +49,10 @@ void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
   if (picture_) PaintDrawing(painter, rect(), picture_->drawing);
+  if (!hasFocus()) return;
+  constexpr int kFrame = 2;
+  painter.setPen(QPen(palette().color(QPalette::Highlight), kFrame));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void PictureView::resizeEvent(QResizeEvent*) { TakeSize(); }

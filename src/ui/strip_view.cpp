@@ -1,9 +1,11 @@
 #include "ui/strip_view.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionTab>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -44,10 +46,31 @@ void StripView::Fill(const screen::TabStrip& strip) {
   for (int i = 0; i < wanted; ++i) {
     const screen::Tab& tab = strip.tabs[static_cast<std::size_t>(i)];
     setTabText(i, Shown(tab.caption));
-    setTabToolTip(i, TipText(tab.tip));
+    setTabToolTip(i, Lines(tab.tip).trimmed());
     setTabData(i, Shown(tab.key));
   }
   shown_ = strip.tabs;
+}
+
+bool StripView::Step(int direction, const std::function<bool(const QString& key)>& isOpen) {
+  const int here = currentIndex();
+  const QString key = tabData(here).toString();
+  for (int i = 1; i < count(); ++i) {
+    const int index = (here + direction * i + count()) % count();
+    if (!isTabEnabled(index) || !isOpen(tabData(index).toString())) continue;
+    setCurrentIndex(index);
+    return tabData(currentIndex()).toString() != key;
+  }
+  return false;
+}
+
+// A reader tells a tab's tip as it is kept: only the shown one has the marks that make it wrap.
+bool StripView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QTabBar::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const QString tip = tabToolTip(tabAt(help.pos()));
+  QToolTip::showText(help.globalPos(), TipText(Typed(tip)), this);
+  return true;
 }
 
 // The caption on two lines, broken where the longer line is shortest.

@@ -2,6 +2,9 @@
 
 #include <QTabBar>
 
+#include <functional>
+#include <vector>
+
 #include "screen/control.h"
 
 namespace ui {
@@ -18,10 +21,15 @@ class StripView : public QTabBar {
   // The user is walking along the strip by its own keys.
   bool ByKey() const { return byKey_; }
 
+  // Chooses the next tab in that direction, 1 or -1, which `isOpen`, as a click on it does; behind
+  // the last one comes the first. False when none leads away from here.
+  bool Step(int direction, const std::function<bool(const QString& key)>& isOpen);
+
  signals:
   void Chosen(const QString& key);
 
  protected:
+  bool event(QEvent* event) override;
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
   void initStyleOption(QStyleOptionTab* option, int index) const override;

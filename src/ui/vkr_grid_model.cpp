@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "catalog/own_texts.h"
 #include "ui/text.h"
 
 namespace ui {
@@ -45,10 +46,22 @@ QVariant VkrGridModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::TextAlignmentRole) {
     return QVariant(Qt::AlignVCenter | AlignmentOf(index.column()));
   }
+  if (role == Qt::AccessibleTextRole) return SpokenCell(index.row(), index.column());
   if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
   if (role == Qt::DisplayRole && IsNewRow(index.row()))
     return index.column() == 0 ? QStringLiteral("*") : QString();
   return CellText(index.row(), index.column());
+}
+
+// An outcome with its unit and its row: "0.591 mg/m3, row 3".
+QString VkrGridModel::SpokenCell(int row, int column) const {
+  if (IsNewRow(row)) return QString::fromUtf8(OwnText(Own::CellNew));
+  QString text = CellText(row, column);
+  if (text.isEmpty()) text = QString::fromUtf8(OwnText(Own::CellEmpty));
+  if (column != EditableColumn()) return text;
+  for (int unit = column + 1; unit < columns_; ++unit)
+    text = (text + QLatin1Char(' ') + CellText(row, unit)).trimmed();
+  return Shown(OwnText(Own::CellSpoken, {Typed(text), Typed(QString::number(row + 1))}));
 }
 
 QVariant VkrGridModel::headerData(int section, Qt::Orientation orientation, int role) const {

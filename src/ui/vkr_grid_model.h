@@ -31,6 +31,7 @@ class VkrGridModel : public QAbstractTableModel {
 
  private:
   QString CellText(int row, int column) const;
+  QString SpokenCell(int row, int column) const;
   Qt::Alignment AlignmentOf(int column) const;
   void Write(int row, int column, const std::string& text);
 

@@ -52,10 +52,19 @@ void VkrGridView::Attach(screen::Grid& grid, EventGate& gate, QLabel* caption) {
   setModel(model_);
 }
 
+// An open editor is called as its cell.
+bool VkrGridView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ChildPolished)
+    if (auto* editor = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()))
+      editor->setAccessibleName(currentIndex().data(Qt::AccessibleTextRole).toString());
+  return QTableView::viewportEvent(event);
+}
+
 void VkrGridView::SetCaption(const QString& caption) {
   if (!caption_) return;
   caption_->setText(caption);
   caption_->setToolTip(TipText(Typed(caption)));
+  caption_->setAccessibleDescription(caption);
 }
 
 // Rows that go take the cursor and the selection with them: the rules know where both belong.

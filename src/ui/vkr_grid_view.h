@@ -33,6 +33,7 @@ class VkrGridView : public QTableView {
   void PasteClipboard();
 
  protected:
+  bool viewportEvent(QEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
