@@ -79,6 +79,30 @@ void CheckArrival(const View& view, const Place* wanted, const std::string& way)
   view.Wrong("ways", way + " leads from " + scene.before.form + " to " + scene.after.form);
 }
 
+// Ctrl+PgDown and Ctrl+Tab go to the next tab whose gate is open, round the strip; with PgUp, or
+// Shift, to the one before.
+void CheckTabKey(const View& view, const std::string& key) {
+  const Scene& scene = view.scene;
+  const Place* from = PlaceOf(scene.before.form);
+  const bool forward = key == "Ctrl+PgDown" || key == "Ctrl+Tab";
+  const bool back = key == "Ctrl+PgUp" || key == "Ctrl+Shift+Tab";
+  if (!from || Refused(scene) || (!forward && !back)) return;
+  const ExposureSession& session = view.page.Stage().Session();
+  std::vector<ScreenId> tabs = workflow::TabSet(session, from->id);
+  if (back) std::ranges::reverse(tabs);
+  const auto here = std::ranges::find(tabs, from->id);
+  if (here == tabs.end()) return;
+  std::ranges::rotate(tabs, here);
+  const auto open = std::find_if(tabs.begin() + 1, tabs.end(), [&](ScreenId id) {
+    return workflow::GateOpen(session, from->id, id);
+  });
+  const ScreenId wanted = open == tabs.end() ? from->id : *open;
+  const auto* place = std::ranges::find(kPlaces, wanted, [](const Place& p) { return p.id; });
+  if (scene.after.form != place->form)
+    view.Wrong("ways", key + " leads from " + from->form + " to " + scene.after.form + ", not to " +
+                           place->form);
+}
+
 }  // namespace
 
 // A working screen has a strip, each open gate its tab, and no gate is open to a screen that has
@@ -106,6 +130,7 @@ void CheckStrip(const View& view) {
 void CheckWays(const View& view) {
   const Scene& scene = view.scene;
   const std::string name = scene.step.Rest();
+  if (scene.step.Command() == "key") CheckTabKey(view, name);
   if (scene.step.Command() == "tab") CheckArrival(view, PlaceByKey(name), "tab " + name);
   if (scene.step.Command() != "menu") return;
   if (const char* form = FormOfMenu(name)) CheckArrival(view, PlaceOf(form), name);

@@ -48,6 +48,7 @@ std::vector<Offer> Generator::OffersHere() {
   OfferWays(offers);
   OfferMenus(offers);
   OfferOptions(offers);
+  OfferKeys(offers);
   if (form == "BasisForm") OfferStart(offers);
   if (form == "DataCtrlForm") OfferRawData(offers);
   if (form == "GrenzenForm") OfferLimits(offers);
@@ -91,6 +92,30 @@ void Generator::OfferOptions(std::vector<Offer>& offers) {
                     }});
 }
 
+// The roads that need no mouse.
+void Generator::OfferKeys(std::vector<Offer>& offers) {
+  const screen::TabStrip* strip = page_.Stage().Shown().strip;
+  if (!strip) return;
+  offers.push_back({3, "", [this] {
+                      static const std::vector<std::string> keys = {"Ctrl+PgDown", "Ctrl+PgUp",
+                                                                    "Ctrl+Tab", "Ctrl+Shift+Tab"};
+                      return Line("key " + random_.Pick(keys));
+                    }});
+  offers.push_back({1, "MenuPlot", [this] {
+                      return Keys({"access T", "key P"}, "menu MenuPlot");
+                    }});
+  offers.push_back({1, "MenuComp", [this] {
+                      return Keys({"access T", "key C"}, "menu MenuComp");
+                    }});
+}
+
+Step Generator::Keys(std::vector<std::string> lines, const std::string& meant) const {
+  Step step;
+  step.lines = std::move(lines);
+  step.meant = meant;
+  return step;
+}
+
 // Rare: what ends the walk's series, and the slowest calculation.
 void Generator::OfferMenus(std::vector<Offer>& offers) {
   for (const screen::Control* control : page_.Stage().Shown().controls) {
@@ -128,7 +153,10 @@ void Generator::Type(std::vector<Offer>& offers, int weight, const std::string& 
 void Generator::Arrows(std::vector<Offer>& offers, int weight, const std::string& pair,
                        const std::string& field) {
   offers.push_back({weight, pair, [this, field] {
-                      return Line((random_.Chance(50) ? "up " : "down ") + field);
+                      const bool up = random_.Chance(50);
+                      const std::string meant = (up ? "up " : "down ") + field;
+                      if (random_.Chance(50)) return Line(meant);
+                      return Keys({"click " + field, up ? "key Up" : "key Down"}, meant);
                     }});
 }
 

@@ -33,6 +33,7 @@ class Generator {
   void OfferWays(std::vector<Offer>& offers);
   void OfferOptions(std::vector<Offer>& offers);
   void OfferMenus(std::vector<Offer>& offers);
+  void OfferKeys(std::vector<Offer>& offers);
   void OfferStart(std::vector<Offer>& offers);
   void OfferIdentification(std::vector<Offer>& offers);
   void OfferRawData(std::vector<Offer>& offers);
@@ -53,6 +54,8 @@ class Generator {
   void Pick(std::vector<Offer>& offers, int weight, const std::string& name);
 
   Step Line(const std::string& line) const { return {{line}}; }
+  // The same by keys.
+  Step Keys(std::vector<std::string> lines, const std::string& meant) const;
   Step OpenFile();
   Step SaveSeries();
   Step ToSave(const std::string& menu, const std::string& file);

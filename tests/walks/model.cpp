@@ -28,6 +28,8 @@ bool Scene::Typed(const std::string& field, std::string& text) const {
 
 int Scene::Stepped(const std::string& field) const {
   if (step.Rest() != field) return 0;
+  // A field that could not be entered leaves the key to another one.
+  if (!step.meant.empty() && after.focus != field) return 0;
   return step.Command() == "up" ? 1 : step.Command() == "down" ? -1 : 0;
 }
 

@@ -35,12 +35,12 @@ std::size_t NeededAnswers(const Step& step) {
 }  // namespace
 
 std::string Step::Command() const {
-  std::string rest = lines.back();
+  std::string rest = meant.empty() ? lines.back() : meant;
   return drive::TakeWord(rest);
 }
 
 std::string Step::Rest() const {
-  std::string rest = lines.back();
+  std::string rest = meant.empty() ? lines.back() : meant;
   drive::TakeWord(rest);
   return rest;
 }

@@ -14,8 +14,10 @@ struct Step {
   bool asked = false;                       // whether one has come
   std::vector<screen::Message> boxes = {};  // that came, in their order
   std::vector<screen::Answer> answers = {};
+  // By keys: the line that does the same by mouse.
+  std::string meant = {};
 
-  // The command, and what stands behind it, of the last line.
+  // The command, and what stands behind it, of what was meant or else of the last line.
   std::string Command() const;
   std::string Rest() const;
 };
