@@ -170,7 +170,6 @@ class ExitUnsaved : public testing::Test {
     user.OpenSeries({1, 2, 4, 8});
     auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
     grid.Write(0, 2, "1.5");
-    grid.CommitRow();
   }
   // Exit by its menu, or by the window's button.
   void Leave(bool byMenu, Answer behind) {
@@ -249,7 +248,6 @@ TEST_F(ExitUnsaved, ASaveThatIsCancelledOrFailsStays) {
 TEST_F(ExitUnsaved, SaveOfASeriesWithAnEmptyRowLeadsToItsRows) {
   auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
   grid.Write(1, 2, "0");
-  grid.CommitRow();
   user.Tab("basis");
   Leave(true, Answer::Save);
   EXPECT_FALSE(user.program.EndRequested());

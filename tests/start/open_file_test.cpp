@@ -188,7 +188,6 @@ TEST(OpenFile, ARefusedFileIsNoBaseForANewSeriesAndNoFileToSaveTo) {
   user.Click("CmdContinu");
   auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
   for (const int row : {0, 1}) grid.Write(row, 2, row == 0 ? "1" : "2");
-  grid.CommitRow();
   user.Click("MenuSave");
   EXPECT_EQ(user.dialog.asked.back().fileName, "Solvent");
 }
