@@ -206,21 +206,6 @@ bool FormBinder::StepKey(Control& field, int key) {
   return false;
 }
 
-// In a field in which something is being typed, the keys of undo and redo are the field's own.
-bool FormBinder::LeavesStepsToMenu(const QWidget* widget, const QEvent& event) const {
-  const auto& key = static_cast<const QKeyEvent&>(event);
-  const QKeySequence pressed(key.keyCombination());
-  const bool steps = StepKeys(QStringLiteral("MenuUndo")).contains(pressed) ||
-                     StepKeys(QStringLiteral("MenuRedo")).contains(pressed);
-  const Control* field = steps ? ControlOf(widget) : nullptr;
-  return field && !field->touched;
-}
-
-QList<QKeySequence> FormBinder::StepKeys(const QString& item) const {
-  const QAction* action = page_.FindAction(item);
-  return action ? action->shortcuts() : QList<QKeySequence>();
-}
-
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   auto* widget = qobject_cast<QWidget*>(watched);
   // The wheel turns the page, not the list that happens to lie under the pointer.

@@ -1,5 +1,6 @@
-// What a scroll bar, a picture and a table need beyond their signals.
+// What a scroll bar, a picture and a table need beyond their signals, and the keys of the steps.
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -65,6 +66,21 @@ void FormBinder::ConnectGrid(ControlView& view) {
   }
   if (QAction* paste = page_.FindAction(QStringLiteral("MenuPaste")))
     connect(paste, &QAction::triggered, table, &VkrGridView::PasteClipboard);
+}
+
+// In a field in which something is being typed, the keys of undo and redo are the field's own.
+bool FormBinder::LeavesStepsToMenu(const QWidget* widget, const QEvent& event) const {
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  const QKeySequence pressed(key.keyCombination());
+  const bool steps = StepKeys(QStringLiteral("MenuUndo")).contains(pressed) ||
+                     StepKeys(QStringLiteral("MenuRedo")).contains(pressed);
+  const screen::Control* field = steps ? ControlOf(widget) : nullptr;
+  return field && !field->touched;
+}
+
+QList<QKeySequence> FormBinder::StepKeys(const QString& item) const {
+  const QAction* action = page_.FindAction(item);
+  return action ? action->shortcuts() : QList<QKeySequence>();
 }
 
 }  // namespace ui
