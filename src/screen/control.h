@@ -96,7 +96,8 @@ struct Control : ControlState {
   Handler TabKey;  // of a field, before the focus leaves it; the handler may say where it goes
   Handler StepUp;  // of an UpDown, or of a field that has one
   Handler StepDown;
-  Handler Change;  // the user moved the scroll bar, whose place is `value`, or typed in the field
+  Handler Refused;  // the shortcut of a menu item that is disabled
+  Handler Change;   // the user moved the scroll bar, whose place is `value`, or typed in the field
 
   void Hide() { visible = false; }
   void Show() { visible = true; }
@@ -111,6 +112,7 @@ struct Tab {
   std::string key;
   std::string caption;
   std::string tip;
+  std::string closed = {};  // why a click leads nowhere; empty where it leads to the screen
   bool operator==(const Tab&) const = default;
 };
 

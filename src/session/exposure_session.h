@@ -99,6 +99,7 @@ struct Given : GivenSeries {
 
   // Limits
   std::optional<double> OELV;
+  bool limitStated = false;  // by the user; until then OELV is only the value to start from
   double U = 0;
   double D = 0;
 

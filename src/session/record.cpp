@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalog/catalog.h"
 #include "session/derivation.h"
 #include "session/global_bas.h"
 
 namespace {
+
+constexpr int kDefaultUnit = 314;
 
 // Whether `next`, once it is sorted, holds the same outcomes 1 to M.
 bool SameSeries(const Given& before, const Given& next) {
@@ -38,11 +41,34 @@ LimitComplaint FollowSeries(Given& next) {
 Given SampleOf(Given given) {
   given.Name = given.Unit = given.RefPeriod = given.Duration = "";
   given.OELV.reset();
+  given.limitStated = false;
   given.U = given.D = 0;
   given.CompareMode = ReferenceKind::None;
   given.GSDChoice = VarianceChoice::None;
   given.M2 = given.GM2 = given.GSD2 = 0;
   return given;
+}
+
+// What a report tells of, in a form that is the same as long as that is.
+Given ToldOf(const ExposureSession& s, Did did) {
+  Given told;
+  if (did == Did::LimitRefused) {
+    told.OELV = s.OELV;
+    return told;
+  }
+  told.Mode = s.Mode;
+  told.Name = s.Name;
+  told.Unit = s.Unit.empty() ? LoadResString(kDefaultUnit) : s.Unit;
+  told.M = s.M;
+  told.C.assign(s.C.begin(),
+                s.C.begin() + std::min(SeriesCount(s) + 1, static_cast<int>(s.C.size())));
+  told.DetecOn = s.DetecOn;
+  if (s.DetecOn) {
+    told.LOQ = s.LOQ;
+    told.URR = s.URR;
+  }
+  told.regression = s.regression;
+  return told;
 }
 
 }  // namespace
@@ -117,6 +143,7 @@ void Record::AcceptSeries() {
 void Record::Close() {
   ExposureSession fresh = Record().now_;
   fresh.OELV = now_.OELV;
+  fresh.limitStated = now_.limitStated;
   fresh.U = now_.U;
   fresh.D = now_.D;
   fresh.VersionText = now_.VersionText;
@@ -155,9 +182,29 @@ void Record::Drop(Extrapolation tag) {
     test_.Drop();
 }
 
+void Record::Report(ScreenId screen, LastAction action) {
+  lastAction_ = std::move(action);
+  actedOn_ = screen;
+  toldOf_ = ToldOf(now_, lastAction_.did);
+}
+
+const LastAction* Record::Reported(ScreenId screen) const {
+  if (lastAction_.did == Did::Nothing || screen != actedOn_) return nullptr;
+  return ToldOf(now_, lastAction_.did) == toldOf_ ? &lastAction_ : nullptr;
+}
+
+void Record::ForgetRefusals() {
+  if (lastAction_.did == Did::TabClosed || lastAction_.did == Did::SaveRefused) lastAction_ = {};
+}
+
 const TestResult* Record::Test() const {
   const TestResult* kept = test_.For(BasisOf(now_));
   return kept && kept->test == now_.TestTag ? kept : nullptr;
+}
+
+bool Record::TestIsStale() const {
+  const bool mean = now_.TestTag == Extrapolation::Jahr || now_.TestTag == Extrapolation::Land;
+  return now_.TestTag != Extrapolation::None && !mean && test_.Any() && !Test();
 }
 
 const MeanResult* Record::Mean() const {

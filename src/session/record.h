@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "session/last_action.h"
 #include "session/limit_checks.h"
 #include "session/results.h"
 
@@ -47,8 +48,17 @@ class Record {
   // Numbers for who asks by name; they go with the next change of what they rest on.
   Computed& Numbers() { return now_; }
 
+  // What the user's last action on `screen` did (last_action.h).
+  void Report(ScreenId screen, LastAction action);
+  // The last report of that screen, as long as what it tells of stands; null otherwise.
+  const LastAction* Reported(ScreenId screen) const;
+  // What was refused is told until the user goes on to another screen.
+  void ForgetRefusals();
+
   // The result for the present state; null when there is none.
   const TestResult* Test() const;
+  // A test is on show whose data or limits have changed since.
+  bool TestIsStale() const;
   const MeanResult* Mean() const;
   const ComparisonResult* Comparison() const;
   // The tolerance limit of the last test, whichever it was, if it is of the same data and limits.
@@ -62,6 +72,9 @@ class Record {
   void Take(Given given, Derived derived);
 
   ExposureSession now_;
+  LastAction lastAction_;
+  ScreenId actedOn_ = ScreenId::Basis;
+  Given toldOf_;  // what the last action tells of
   Kept<TestBasis, TestResult> test_;
   Kept<TestBasis, double> UTL_;
   Kept<TestBasis, MeanResult> mean_;

@@ -65,6 +65,8 @@ class Kept {
     value_ = value;
   }
   void Drop() { value_.reset(); }
+  // Whether there is a value, be it of other data.
+  bool Any() const { return value_.has_value(); }
   const Value* For(const Basis& basis) const {
     return value_ && basis_ == basis ? &*value_ : nullptr;
   }

@@ -152,6 +152,17 @@ bool GateOpen(const ExposureSession& s, ScreenId from, ScreenId target) {
   return kGates[Index(target)][Index(from)](s);
 }
 
+Obstacle ObstacleTo(const ExposureSession& s, ScreenId from, ScreenId target) {
+  if (from == target || GateOpen(s, from, target)) return Obstacle::None;
+  const bool ofTheSeries = target == DataCtrl || target == Plot;
+  const bool judges = target == PercEx || target == UCL;
+  if (ofTheSeries && s.ModifyMode) return Obstacle::OtherValues;
+  if (s.RawIncomplete) return Obstacle::RowsUnfilled;
+  if (s.noEstimates) return Obstacle::NoEstimates;
+  if (target == Plot && !Plottable(s)) return Obstacle::FewOutcomes;
+  return judges && s.DescOk ? Obstacle::NoLimit : Obstacle::NotDescribed;
+}
+
 void PassGate(Workflow& flow, ScreenId from, ScreenId target) {
   if (from == UCL || kEmptiesTestTag[Index(target)][Index(from)])
     flow.TestTag = Extrapolation::None;

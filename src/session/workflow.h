@@ -37,6 +37,19 @@ bool PlotMenuVisible(const ExposureSession& s, ScreenId shown);
 // Whether a click on the tab of `target` on the screen `from` leads there.
 bool GateOpen(const ExposureSession& s, ScreenId from, ScreenId target);
 
+// What keeps a click on the tab of `target` on the screen `from`; None exactly where the gate is
+// open.
+enum class Obstacle {
+  None,
+  RowsUnfilled,  // the series is still being typed
+  NoEstimates,   // it gives none
+  OtherValues,   // other values are tried on top of the data
+  NoLimit,
+  FewOutcomes,  // a line needs three
+  NotDescribed
+};
+Obstacle ObstacleTo(const ExposureSession& s, ScreenId from, ScreenId target);
+
 // What passing the gate does (TestTag, PlotKind).
 void PassGate(Workflow& flow, ScreenId from, ScreenId target);
 

@@ -81,6 +81,7 @@ void BasisForm::TakeSeries(const std::string& path, const rawdata::FileValues& f
     fresh.RefPeriod = given.RefPeriod;
     fresh.Duration = given.Duration;
     fresh.OELV = given.OELV;
+    fresh.limitStated = given.limitStated;
     fresh.U = given.U;
     fresh.D = given.D;
     given = fresh;
