@@ -20,7 +20,10 @@ DescriptForm::DescriptForm(Record& sessionRecord, navigation::Desk& programDesk,
     if (control->kind == screen::Kind::TextBox) control->locked = true;
 }
 
-void DescriptForm::Load() { DetecFrame.Hide(); }
+void DescriptForm::Load() {
+  caption = LoadResString(workflow::TabOf(id).caption);
+  DetecFrame.Hide();
+}
 
 void DescriptForm::BasisDescStat() {
   RebuildStrip();
