@@ -30,11 +30,6 @@ constexpr Row kRows[] = {
     {Own::PictureNeedsTest, "The test on show did not compute every number of the picture."},
     {Own::PictureNeedsEstimates, "There are no GM and GSD to draw yet."},
     {Own::StaleTest, "Statistics or limits have changed since this test: press its button again."},
-    {Own::ResultsDiffer,
-     "Results can differ because each test judges another estimate: Leidel the best guess of the "
-     "exceedance, Wilks the same with the sample's own uncertainty averaged in, EN 689 a limit "
-     "that "
-     "holds with {0} % confidence."},
     {Own::VerdictsTitle, "The tests side by side"},
     {Own::VerdictsTest, "Test"},
     {Own::VerdictsEstimate, "Estimate"},
@@ -162,7 +157,7 @@ constexpr Row kRows[] = {
     {Own::Sorted, "Sorted: {0} is now in row {1}."},
     {Own::OneSaved, "1 outcome saved."},
     {Own::SaveRefused, "An incomplete series can't be saved."},
-    {Own::NoOutcome, "\"{0}\" is no outcome: row {1} stays empty."},
+    {Own::NoOutcome, "\"{0}\" in row {1} is no outcome."},
     {Own::Undone, "Undone: {0}."},
     {Own::Redone, "Redone: {0}."},
     {Own::EstimatesPutBack,
@@ -191,9 +186,6 @@ constexpr Row kRows[] = {
     {Own::OtherValuesTried,
      "Other values are tried on top of the data: Reset on Start brings the data back."},
     {Own::NoLimitYet, "There is no valid limit value yet: state it on Limits."},
-    {Own::BeyondStart,
-     "GM {0} and GSD {1} are not both within what can be typed here (GM 0.0001 to 10000, GSD 1.001 "
-     "to 1000), so there are no tabs: Continue leads to Raw data, and on from there."},
     {Own::NotDescribed, "Name, sample size, GM and GSD are not all there yet."},
     {Own::TooFewForLine, "A line needs three outcomes."},
 };

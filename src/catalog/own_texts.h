@@ -19,7 +19,6 @@ enum class Own {
   PictureNeedsTest,
   PictureNeedsEstimates,
   StaleTest,
-  ResultsDiffer,
   VerdictsTitle,
   VerdictsTest,
   VerdictsEstimate,
@@ -152,7 +151,6 @@ enum class Own {
   OneRange,
   OtherValuesTried,
   NoLimitYet,
-  BeyondStart,
   NotDescribed,
   TooFewForLine,
 };

@@ -106,7 +106,7 @@ void PercExForm::ShowWording() {
 // Only a test that finds the fraction has a third row.
 void PercExForm::ShowResultControls(const ComplianceTest* test) {
   for (screen::Control* control : {&MenuVerd, &MenuPrint, &PercExLbl0, &PercExLbl1, &PercExTxB0,
-                                   &PercExTxB1, &DimLbl2, &DimLbl3, &ReasonLbl, &CommentLbl})
+                                   &PercExTxB1, &DimLbl2, &DimLbl3, &CommentLbl})
     control->visible = test != nullptr;
   const bool fraction = test && !test->words(session).fraction.empty();
   for (screen::Control* control : {&PercExLbl2, &PercExTxB2, &DimLbl4}) control->visible = fraction;

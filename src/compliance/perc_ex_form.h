@@ -59,8 +59,6 @@ struct PercExForm final : navigation::SessionForm {
   screen::Control PercExTxB2{*this, screen::Kind::TextBox, "PercExTxB(2)"};
   screen::Control DimLbl4{*this, screen::Kind::Label, "DimLbl(4)"};
   screen::Control ComplianceLbl{*this, screen::Kind::Label, "ComplianceLbl"};
-  // Why the verdicts of the three tests can differ.
-  screen::Control ReasonLbl{*this, screen::Kind::Label, "ReasonLbl"};
   screen::Control CommentLbl{*this, screen::Kind::Label, "CommentLbl"};
   screen::Control SampSizeCkb{*this, screen::Kind::CheckBox, "SampSizeCkb"};
 
@@ -107,15 +105,13 @@ struct PercExForm final : navigation::SessionForm {
   void BeginTest(const ComplianceTest& test);
   void ClearResults();
   void ShowWords(const ComplianceTest& test);
-  // The result that the record holds for the present state; without one, empty boxes and why.
+  // The result that the record holds for the present state; without one, empty boxes.
   void ShowResult(const ComplianceTest& test);
   void ShowNumbers(const TestResult& result);
   void ShowVerdict(const ComplianceTest& test, const TestResult& result);
   void OfferSampleSize(bool offered);
   TestRun HowToRun();
-  std::string GeneralReason() const;
 
-  void MakeRoom();
   void ClearSampleSize();
   void ShowSampleSize(const SampleSizeBoxes& boxes);
 

@@ -14,7 +14,6 @@ void Caption(screen::Control& label, const std::optional<int>& row) {
 
 void PercExForm::SampSizeCkb_Click() {
   SampsizeFrm.visible = SampSizeCkb.ticked;
-  MakeRoom();
   const ComplianceTest* test = FindTest(session.TestTag);
   if (!SampSizeCkb.ticked || !test || !test->offersSampleSize) return;
   ClearSampleSize();
@@ -22,7 +21,6 @@ void PercExForm::SampSizeCkb_Click() {
   const SampleSizeResult found = OptimiseSampleSize(BasisOf(session));
   if (found.outcome == SampleSizeCase::CoverageTooLow) {
     OfferSampleSize(true);
-    MakeRoom();
     flow.MsgText = OwnText(Own::CoverageTooLow);
     Complain(session.MsgText, LoadResString(kCoverageTitle));
     return;
@@ -31,11 +29,6 @@ void PercExForm::SampSizeCkb_Click() {
   ShowSampleSize(found.boxes);
   if (found.outcome == SampleSizeCase::AnySize)
     Complain(LoadResString(kAnySampleSizeText), LoadResString(kAnySampleSizeTitle));
-}
-
-// The general sentence gives way, so that the frame is seen whole in the window's first size.
-void PercExForm::MakeRoom() {
-  ReasonLbl.visible = !SampSizeCkb.ticked || ReasonLbl.text != GeneralReason();
 }
 
 void PercExForm::ClearSampleSize() {

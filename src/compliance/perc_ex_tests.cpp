@@ -31,8 +31,7 @@ void PercExForm::BeginTest(const ComplianceTest& test) {
 }
 
 void PercExForm::ClearResults() {
-  for (screen::Control* control :
-       {&PercExTxB0, &PercExTxB1, &PercExTxB2, &ComplianceLbl, &ReasonLbl})
+  for (screen::Control* control : {&PercExTxB0, &PercExTxB1, &PercExTxB2, &ComplianceLbl})
     control->text.clear();
 }
 
@@ -60,12 +59,10 @@ void PercExForm::ShowResult(const ComplianceTest& test) {
   OfferPicture();
   if (!result) {
     ComplianceLbl.Hide();
-    ReasonLbl.text = OwnText(Own::StaleTest);
     return;
   }
   ShowNumbers(*result);
   ShowVerdict(test, *result);
-  ReasonLbl.text = result->reason.empty() ? GeneralReason() : result->reason;
 }
 
 void PercExForm::ShowNumbers(const TestResult& result) {
@@ -82,10 +79,6 @@ void PercExForm::ShowVerdict(const ComplianceTest& test, const TestResult& resul
   if (!result.compliance) return;
   ColourVerdict(ComplianceLbl, result.compliance);
   ComplianceLbl.text = TextOf(*result.compliance ? test.complies : test.fails);
-}
-
-std::string PercExForm::GeneralReason() const {
-  return OwnText(Own::ResultsDiffer, {ShownTrimmed(session.D)});
 }
 
 // The layout is shown before a search begins; its boxes then show its candidates.

@@ -103,6 +103,43 @@ void ExpectLine(Play& play, std::string rest) {
   if (line != rest) throw Failure(line + ", expected " + rest);
 }
 
+// The live line, as its widget shows it.
+Look LiveLine(Play& play) { return LookByName(play, "StatusLbl"); }
+
+void TellLine(Play& play, std::string rest) {
+  const Look line = LiveLine(play);
+  if (rest.empty())
+    play.Say("line = " + Quoted(line.text) + (line.colour ? " band" : ""));
+  else if (line.text != TextArgument(rest))
+    throw Failure("the line is " + Quoted(line.text) + ", expected " + rest);
+}
+
+void LineHolds(Play& play, std::string rest) {
+  const std::string line = LiveLine(play).text;
+  if (line.find(TextArgument(rest)) == std::string::npos)
+    throw Failure("the line is " + Quoted(line) + ", expected " + rest + " in it");
+}
+
+void LineLacks(Play& play, std::string rest) {
+  const std::string line = LiveLine(play).text;
+  if (line.find(TextArgument(rest)) != std::string::npos)
+    throw Failure("the line is " + Quoted(line) + ", not expected " + rest + " in it");
+}
+
+void ExpectBand(Play& play, std::string rest) {
+  const bool band = LiveLine(play).colour.has_value();
+  if (band != (rest != "none")) throw Failure(band ? "the line is a band" : "the line is no band");
+}
+
+// Which tabs are closed, by their keys.
+void ExpectClosed(Play& play, std::string rest) {
+  std::string closed;
+  const screen::TabStrip* strip = play.stage.Shown().strip;
+  for (const screen::Tab& tab : strip ? strip->tabs : std::vector<screen::Tab>())
+    if (!tab.closed.empty()) closed += (closed.empty() ? "" : " ") + tab.key;
+  if (closed != rest) throw Failure("closed are: " + closed + ", expected " + rest);
+}
+
 void ExpectForm(Play& play, std::string rest) {
   const std::string& shown = play.stage.Shown().name;
   if (shown != rest) throw Failure("the screen is " + shown + ", expected " + rest);
@@ -165,6 +202,7 @@ void DumpTabs(Play& play, const screen::TabStrip& strip) {
     const screen::Tab& tab = strip.tabs[i];
     std::string line = "tab " + tab.key + " = " + Quoted(tab.caption);
     if (shown.currentIndex() == static_cast<int>(i)) line += " selected";
+    if (!tab.closed.empty()) line += " closed";
     play.Say(line);
   }
 }
@@ -194,6 +232,11 @@ const CommandTable& AnswerCommands() {
       {"expect-hidden", ExpectHidden},
       {"expect-visible", ExpectVisible},
       {"expect-line", ExpectLine},
+      {"line", TellLine},
+      {"line-holds", LineHolds},
+      {"line-lacks", LineLacks},
+      {"expect-band", ExpectBand},
+      {"expect-closed", ExpectClosed},
       {"expect-form", ExpectForm},
       {"expect-ended", ExpectEnded},
       {"legible", Legible},

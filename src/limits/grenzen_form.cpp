@@ -1,7 +1,5 @@
 #include "limits/grenzen_form.h"
 
-#include <utility>
-
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
 #include "limits/steps.h"
@@ -112,7 +110,7 @@ void GrenzenForm::JudgeLimits() {
   const std::optional<double> stated = session.OELV;
   Flags();
   if (stated && stated != session.OELV)
-    note_ = OwnText(Own::LimitReset, {ShownTrimmed(stated), ShownTrimmed(session.OELV)});
+    Report({.did = Did::LimitRefused, .what = ShownTrimmed(stated)});
 }
 
 void GrenzenForm::ShowState() {
@@ -154,13 +152,13 @@ void GrenzenForm::ShowMissing() {
 void GrenzenForm::StatusStrip() {
   RebuildStrip();
   menuExtrPol.visible = session.LimitsOk;
-  ShowStatus(std::exchange(note_, {}));
 }
 
 void GrenzenForm::ColourLabels() {
   auto colour = [](screen::Control& label, bool missing) {
     label.colour = missing ? std::optional(kMissing) : std::nullopt;
   };
+  colour(VkrValLbl0, !session.limitStated);
   colour(VkrValLbl1, session.RefPeriod.empty());
   colour(DimLbl0, session.Unit.empty());
   colour(DimLbl2, session.Unit.empty());
@@ -187,15 +185,18 @@ void GrenzenForm::LeaveLimit() {
   VkrValTxB.text = GlobalBAS::Trim(VkrValTxB.text);
   if (VkrValTxB.text.empty()) {
     VkrValTxB.touched = false;
-    VkrValLbl0.colour = kMissing;
+    record.Change([](Given& given) { given.limitStated = false; });
+    ColourLabels();
     return;
   }
   std::optional<double> OELV = session.OELV;
   GlobalBAS::CheckOELV(flow, EntryOf(VkrValTxB), OELV, Notifier());
-  record.Change([&](Given& given) { given.OELV = OELV; });
+  record.Change([&](Given& given) {
+    given.OELV = OELV;
+    given.limitStated = true;
+  });
   VkrValTxB.touched = false;
   const bool refused = session.InputState != 0;
-  VkrValLbl0.colour.reset();
   BasisStatus();
   if (refused) SetFocus(VkrValTxB);
 }
@@ -222,9 +223,12 @@ void GrenzenForm::StepPercent(screen::Control& box, int direction) {
 void GrenzenForm::StepLimit(int direction) {
   if (VkrValTxB.touched) LeaveLimit();
   const LimitStep step = StepOELV(session.OELV, direction);
-  record.Change([&](Given& given) { given.OELV = step.value; });
+  record.Change([&](Given& given) {
+    given.OELV = step.value;
+    given.limitStated = true;
+  });
   if (step.atBound) flow.MsgText = LoadResString(kSmallestOELV);
-  VkrValLbl0.colour.reset();
+  ColourLabels();
   VkrValTxB.text = ShownTrimmed(session.OELV);
   VkrValTxB.touched = false;
 }

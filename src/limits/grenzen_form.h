@@ -63,8 +63,6 @@ struct GrenzenForm final : navigation::SessionForm {
   void StepLimit(int direction);
   // StatusFlags, and a word about a limit value that did not stand.
   void JudgeLimits();
-
-  std::string note_;  // what the status line is to tell of the last entry
 };
 
 }  // namespace limits

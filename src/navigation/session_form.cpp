@@ -1,7 +1,7 @@
 #include "navigation/session_form.h"
 
 #include "catalog/catalog.h"
-#include "navigation/status_text.h"
+#include "navigation/live_line.h"
 #include "session/derivation.h"
 
 namespace navigation {
@@ -19,6 +19,7 @@ SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string st
   Tabs.Choose = [this](const std::string& key) { Tab_Click(key); };
   MenuSave.Click = [this] { desk.SaveSeries(); };
   MenuSave.enabled = false;
+  MenuSave.Refused = [this] { Report({.did = Did::SaveRefused}); };
   Menuclose.Click = [this] { desk.CloseAllData(); };
   MenuExit.Click = [this] { desk.Exit(); };
   MenuPlot.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::Plot).key); };
@@ -46,7 +47,7 @@ void SessionForm::RebuildStrip() {
   Tabs.selected = workflow::TabOf(id).key;
   MenuPlot.visible = workflow::PlotMenuVisible(session, id);
   OfferPicture();
-  ShowStatus();
+  TellState();
 }
 
 void SessionForm::Flags() { record.StatusFlags(); }
@@ -62,12 +63,22 @@ void SessionForm::Tab_Click(const std::string& key) {
   BeforeTabClick();
   // The click itself has moved the toolkit's strip; a closed gate moves it back.
   if (!workflow::GateOpen(session, id, tab->screen)) {
+    TellClosed(tab->screen);
     ClickLedNowhere();
     return;
   }
+  record.ForgetRefusals();
   BeforeLeavingFor(tab->screen);
   workflow::PassGate(flow, id, tab->screen);
   desk.Open(tab->screen);
+}
+
+// What has just been said of a refused limit is the reason already.
+void SessionForm::TellClosed(ScreenId target) {
+  const LastAction* told = record.Reported(id);
+  const bool limit = workflow::ObstacleTo(session, id, target) == workflow::Obstacle::NoLimit;
+  if (limit && told && told->did == Did::LimitRefused) return;
+  Report({.did = Did::TabClosed, .target = target});
 }
 
 void SessionForm::SetFocusQuietly(screen::Control& control) {
@@ -97,20 +108,33 @@ void SessionForm::OfferPicture() {
   MenuVerd.enabled = MenuVerd.tip.empty();
 }
 
-void SessionForm::FollowSave(const std::string& note) {
+void SessionForm::FollowSave(const LastAction* told) {
   for (const char* place : {"NameTxB", "NameLbl"}) {
     screen::Control* shown = Find(place);
     if (!shown) continue;
     shown->text = session.Name;
     break;  // beside the field the label is the field's caption
   }
-  ShowStatus(note);
+  if (told) Report(*told);
+  TellState();
 }
 
-void SessionForm::ShowStatus(const std::string& note) {
+void SessionForm::Report(LastAction action) { record.Report(id, std::move(action)); }
+
+void ShowLine(screen::Control& line, const Record& record, ScreenId screen) {
+  // Dark letters stand out on it, and it stands out in the window, light or dark.
+  constexpr screen::Colour kBand{255, 204, 77};
+  const LiveText now = LiveLine(record, screen);
+  line.text = now.text;
+  line.colour = now.band ? std::optional(kBand) : std::nullopt;
+}
+
+void SessionForm::TellState() {
   MenuSave.enabled = CompleteSeries(session);
-  const std::string state = StatusText(session);
-  StatusLbl.text = note + (note.empty() || state.empty() ? "" : " ") + state;
+  ShowLine(StatusLbl, record, id);
+  for (screen::Tab& tab : Tabs.tabs)
+    if (const workflow::TabText* found = workflow::TabByKey(tab.key))
+      tab.closed = WhyClosed(session, id, found->screen);
 }
 
 GlobalBAS::Entry SessionForm::EntryOf(const screen::Control& field) const {

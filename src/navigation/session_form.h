@@ -49,7 +49,7 @@ struct SessionForm : screen::Form {
   screen::Control MenuComp{*this, screen::Kind::Menu, "MenuComp"};
   screen::TabStrip Tabs;
   screen::Control WindnrLbl{*this, screen::Kind::Label, "WindnrLbl"};
-  // Below the screen: what is not in force, what is left out, and why.
+  // The live line below the screen (live_line.h).
   screen::Control StatusLbl{*this, screen::Kind::StatusLine, "StatusLbl"};
 
   // Empties the strip and fills it with the tabs of the present state; MenuPlot follows.
@@ -95,11 +95,17 @@ struct SessionForm : screen::Form {
   void OfferSteps();
   // The series stands as it stood before, or behind, one of the user's steps.
   virtual void Restored() { Activate(); }
-  // The series has been saved, or could not be, as `note` says; its name may be another one.
-  virtual void FollowSave(const std::string& note);
+  // The series has been saved, or could not be, as `told` says; its name may be another one. Null
+  // where nothing came of it.
+  virtual void FollowSave(const LastAction* told);
 
-  // Brings the status line up to date; `note` tells what the last action did.
-  void ShowStatus(const std::string& note = {});
+  // Tells why the way to `target` is closed.
+  void TellClosed(ScreenId target);
+  // Tells what the user's action did (last_action.h).
+  void Report(LastAction action);
+  // Brings the live line up to date, and which tabs are closed and why. Whoever runs handlers calls
+  // it behind each of them; no screen needs to.
+  void TellState();
 
  protected:
   // On the screens where the user edits.
@@ -111,6 +117,9 @@ struct SessionForm : screen::Form {
   const screen::Control* quietFocus_ = nullptr;
   std::deque<screen::Control> extrapolationMenus_;  // controls keep their place
 };
+
+// Puts the live line of `screen` into its control.
+void ShowLine(screen::Control& line, const Record& record, ScreenId screen);
 
 // Label of a regression estimate, such as "Double censored Rankit estimate GMg=".
 std::string RegressionWords(const ExposureSession& session, const std::string& estimate);

@@ -4,7 +4,6 @@
 #include "analysis/transformations.h"
 #include "base/fault.h"
 #include "catalog/catalog.h"
-#include "catalog/own_texts.h"
 #include "plots/annex_e.h"
 #include "plots/paper_labels.h"
 #include "plots/picture_words.h"
@@ -88,11 +87,11 @@ void PlotForm::PlotStatus() {
   TickChoices();
   menuExtrPol.visible = menuExtrPol.enabled = session.LimitsOk;
   OfferPicture();
-  ShowStatus(note);
+  TellState();
 }
 
 // The name stands in the headline.
-void PlotForm::FollowSave(const std::string& told) {
+void PlotForm::FollowSave(const LastAction* told) {
   PlotStatus();
   SessionForm::FollowSave(told);
 }
@@ -137,9 +136,17 @@ analysis::Regression PlotForm::Fit() {
   const analysis::Regression fit = analysis::FitLine(session, state);
   flow.MsgText = complaint.empty() ? fit.TestText : complaint;
   flow.RegressionLabel = fit.RegressionLabel;
-  note = fit.beyondNumbers ? OwnText(Own::LineBeyondNumbers) : "";
   TakeEstimators(fit);
+  TellLine(fit);
   return fit;
+}
+
+void PlotForm::TellLine(const analysis::Regression& fit) {
+  const LastAction* told = record.Reported(id);
+  if (fit.beyondNumbers)
+    Report({.did = Did::LineBeyondNumbers});
+  else if (told && told->did == Did::LineBeyondNumbers)
+    Report({});
 }
 
 // Without a line the statistics of the record stay.

@@ -71,11 +71,10 @@ struct PlotForm final : navigation::SessionForm {
   bool URRActive = false;
   double LimitValue = 0;  // the one last picked, in the unit of the outcomes
   double PlotSpan = 0;
-  std::string note;  // what the status line tells of the last line
 
   void Load() override;
   void Activate() override;
-  void FollowSave(const std::string& told) override;
+  void FollowSave(const LastAction* told) override;
 
   // Draws the picture afresh; the line gives its statistics to the record.
   void PlotStatus();
@@ -113,6 +112,7 @@ struct PlotForm final : navigation::SessionForm {
   void DrawAnnex(PlotWBas::Labels& labels);
   // The line, whose estimators go into the record.
   analysis::Regression Fit();
+  void TellLine(const analysis::Regression& fit);
   void TakeEstimators(const analysis::Regression& fit);
   void CheckLimit(Check check, double value);
   // The inner values, on demand.

@@ -3,6 +3,7 @@
 #include "base/fault.h"
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
+#include "navigation/session_form.h"
 #include "plots/density_view.h"
 #include "plots/labels.h"
 #include "plots/picture_words.h"
@@ -54,6 +55,10 @@ void VerdelingForm::Draw() {
   ShowLabel("LblRightTxt", data.header);
 }
 
+ScreenId VerdelingForm::From() const { return record.Now().CurrentTab.value_or(ScreenId::Basis); }
+
+void VerdelingForm::TellState() { navigation::ShowLine(StatusLbl, record, From()); }
+
 void VerdelingForm::HideLabels() {
   for (screen::Control* control : controls)
     if (control->kind == screen::Kind::PictureLabel) control->Hide();
@@ -73,7 +78,9 @@ void VerdelingForm::SavePicture() {
   if (path.empty()) return;
   record.Flow().MsgTitle = LoadResString(910) + path;
   record.Flow().MsgText.clear();
-  if (!ports.pictureFile.Write(path, VerdelingPict.drawing))
+  if (ports.pictureFile.Write(path, VerdelingPict.drawing))
+    record.Report(From(), {.did = Did::PictureSaved, .what = path});
+  else
     Complain(OwnText(Own::PictureNotWritten), record.Flow().MsgTitle);
 }
 

@@ -24,6 +24,9 @@ struct VerdelingForm final : screen::Form {
   screen::Picture VerdelingPict{*this, "VerdelingPict"};
   screen::Control WindnrLbl{*this, screen::Kind::Label, "WindnrLbl"};
 
+  // What the live line says on the screen that the picture was called from.
+  screen::Control StatusLbl{*this, screen::Kind::StatusLine, "StatusLbl"};
+
   screen::Control LblKoptekst{*this, screen::Kind::PictureLabel, "LblKoptekst"};
   screen::Control LblToets{*this, screen::Kind::PictureLabel, "LblToets"};
   screen::Control LblRightTxt{*this, screen::Kind::PictureLabel, "LblRightTxt"};
@@ -37,12 +40,15 @@ struct VerdelingForm final : screen::Form {
   screen::Control XasLbl{*this, screen::Kind::PictureLabel, "XasLbl"};
 
   void Activate() override;
+  // Brings the live line up to date.
+  void TellState();
 
  private:
   void Draw();
   void HideLabels();
   void ShowLabel(const std::string& label, const std::string& text);
   void SavePicture();
+  ScreenId From() const;
 };
 
 }  // namespace plots

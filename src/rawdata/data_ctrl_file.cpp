@@ -25,7 +25,7 @@ bool DataCtrlForm::MayOverwrite(const std::string& path) {
                                  LoadResString(94), screen::Icon::Question, screen::Buttons::YesNo,
                                  screen::Answer::No};
   if (ports.messageBox.Show(question) == screen::Answer::Yes) return true;
-  ReadingLbl.text = OwnText(Own::NotOverwritten);
+  Report({.did = Did::NotOverwritten});
   return false;
 }
 

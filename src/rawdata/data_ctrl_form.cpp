@@ -103,7 +103,9 @@ bool DataCtrlForm::RangeCheck() {
 
 void DataCtrlForm::SampleStatistics() {
   flow.InputState = 0;
+  const bool regression = session.RegressionOn;
   record.Evaluate(Estimates::WholeSample);
+  if (regression) Report({.did = Did::EstimatesPutBack});
 }
 
 void DataCtrlForm::ShowRange() {

@@ -14,8 +14,6 @@ struct DataCtrlForm final : navigation::SessionForm {
   screen::Control MenuPaste{*this, screen::Kind::Menu, "MenuPaste"};
 
   screen::Grid DBGridVkr{*this, "DBGridVkr"};
-  // The quiet line under the grid: how the file was understood.
-  screen::Control ReadingLbl{*this, screen::Kind::Label, "ReadingLbl"};
 
   screen::Control SampleFrame{*this, screen::Kind::Frame, "SampleFrame"};
   screen::Control SampSzLbl0{*this, screen::Kind::Label, "SampSzLbl(0)"};
@@ -84,6 +82,7 @@ struct DataCtrlForm final : navigation::SessionForm {
   std::string OperatorOf(double value) const;
   bool Refuses(double value);
   bool HasRoomFor(int rows);
+  void TellEntry(int row, double value, const std::string& text);
   bool WriteCell(int row, int column, const std::string& text);
   bool AddRow(const std::string& text);
   void DeleteRows(const std::vector<int>& selected);

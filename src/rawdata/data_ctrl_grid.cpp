@@ -3,6 +3,7 @@
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
 #include "files/safe_writer.h"
+#include "navigation/series_text.h"
 #include "rawdata/data_ctrl_form.h"
 #include "rawdata/rows.h"
 #include "session/derivation.h"
@@ -14,21 +15,6 @@ namespace {
 constexpr int kNumber = 0;
 constexpr int kOperator = 1;
 constexpr int kConcentration = 2;
-
-// "3, 7 and 12"; a long list is cut.
-std::string LineList(const std::vector<int>& lines) {
-  constexpr std::size_t kMost = 12;
-  const std::size_t shown = std::min(lines.size(), kMost);
-  std::string text;
-  for (std::size_t i = 0; i < shown; ++i) {
-    if (i > 0) text += i + 1 == lines.size() ? OwnText(Own::LastOfList) : ", ";
-    text += GlobalBAS::GeneralText(lines[i]);
-  }
-  if (shown < lines.size())
-    text += OwnText(Own::MoreOfList,
-                    {GlobalBAS::GeneralText(static_cast<double>(lines.size() - shown))});
-  return text;
-}
 
 // Outcomes beyond the sample size go with the first edit or save.
 void CutSeries(Given& given) { given.C.resize(static_cast<std::size_t>(SeriesCount(given)) + 1); }
@@ -117,7 +103,22 @@ bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
     CutSeries(given);
     given.C[static_cast<std::size_t>(row) + 1] = value;
   });
+  TellEntry(row, value, text);
   return true;
+}
+
+// What was typed is not what now stands in the row: it was no outcome, or the series was sorted.
+void DataCtrlForm::TellEntry(int row, double value, const std::string& text) {
+  const std::string typed = GlobalBAS::Trim(text);
+  if (value <= 0) {
+    if (!typed.empty()) Report({.did = Did::NoOutcome, .count = row + 1.0, .what = typed});
+    return;
+  }
+  const auto begin = session.C.begin() + 1;
+  if (session.RawIncomplete || begin[row] == value) return;
+  const auto end = begin + SampleCount(session);
+  const auto now = std::find(begin, end, value) - begin + 1;
+  Report({.did = Did::Sorted, .count = static_cast<double>(now), .what = ShownTrimmed(value)});
 }
 
 bool DataCtrlForm::AddRow(const std::string& text) {
@@ -128,6 +129,7 @@ bool DataCtrlForm::AddRow(const std::string& text) {
     given.M += 1;
     given.C.push_back(value);
   });
+  TellEntry(SampleCount(session) - 1, value, text);
   return true;
 }
 
@@ -145,6 +147,7 @@ void DataCtrlForm::DeleteRows(const std::vector<int>& selected) {
                given.C.erase(given.C.begin() + 1 + *row);
              given.M -= count;
            });
+  if (count > 0) Report({.did = Did::Deleted, .count = static_cast<double>(count)});
 }
 
 void DataCtrlForm::EditRows(const std::string& words, const std::function<void(Given&)>& change) {
@@ -213,21 +216,22 @@ void DataCtrlForm::PasteRows(int row, const std::string& text) {
         given.C.resize(static_cast<std::size_t>(rows) + 1);
         std::copy(values.begin(), values.end(), given.C.begin() + 1 + row);
       });
+  Report({.did = Did::Pasted, .count = static_cast<double>(count)});
 }
 
 void DataCtrlForm::TellReading(const ReadingNotes* notes) {
-  ReadingLbl.text.clear();
   mark_ = notes ? notes->mark : std::nullopt;
   markedPath_ = session.Name;
   if (!notes) {
     Rebind();
     return;
   }
-  ReadingLbl.text = OwnText(Own::OutcomesRead, {ShownTrimmed(session.M)});
+  std::string how;
   if (!notes->trailingText.empty())
-    ReadingLbl.text += OwnText(Own::TrailingText, {LineList(notes->trailingText)});
+    how += OwnText(Own::TrailingText, {navigation::NumberList(notes->trailingText)});
   if (!notes->commaAndPoint.empty())
-    ReadingLbl.text += OwnText(Own::CommaAndPoint, {LineList(notes->commaAndPoint)});
+    how += OwnText(Own::CommaAndPoint, {navigation::NumberList(notes->commaAndPoint)});
+  Report({.did = Did::Read, .count = session.M, .what = how});
 }
 
 bool DataCtrlForm::VkrSave() {
@@ -253,7 +257,7 @@ bool DataCtrlForm::VkrSave() {
     written = files::WriteSafely(path, bytes);
   }
   if (!written) {
-    ReadingLbl.text = OwnText(Own::SeriesNotWritten, {path});
+    Report({.did = Did::NotSaved, .what = path});
     return false;
   }
   record.Change(
@@ -261,7 +265,7 @@ bool DataCtrlForm::VkrSave() {
   mark_ = files::MarkOfBytes(bytes);
   markedPath_ = path;
   desk.MarkSaved();
-  ReadingLbl.text = OwnText(Own::OutcomesSaved, {ShownTrimmed(SeriesCount(session))});
+  Report({.did = Did::Saved, .count = static_cast<double>(SeriesCount(session))});
   Rebind();
   return true;
 }

@@ -28,7 +28,7 @@ enum class Kind {
   ScrollBar,
   Picture,
   PictureLabel,  // a text that its screen draws in a picture; it has no widget
-  StatusLine,    // the line below the screen; the window has one for all of them
+  StatusLine,    // the live line below the screen; its colour is that of a band
   CommonDialog
 };
 

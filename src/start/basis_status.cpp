@@ -110,7 +110,7 @@ void BasisForm::StatusStrip() {
   if (!Tabs.visible) {
     MenuPlot.Hide();
     OfferPicture();
-    ShowStatus();
+    TellState();
     return;
   }
   if (session.LimitsOk) menuTools.Show();
@@ -153,7 +153,7 @@ void BasisForm::Sluiten() {
   OriModiCmd.Hide();
   CmdContinu.Hide();
   Tabs.Hide();
-  ShowStatus();
+  TellState();
 }
 
 }  // namespace start

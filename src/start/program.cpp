@@ -57,6 +57,14 @@ void Program::Start() {
 
 screen::Form& Program::Shown() const { return *parts_->shown; }
 
+void Program::TellState() {
+  Parts& p = *parts_;
+  if (ShowsPicture())
+    p.verdeling.TellState();
+  else
+    static_cast<navigation::SessionForm&>(*p.shown).TellState();
+}
+
 std::string Program::Title() const {
   const Parts& p = *parts_;
   std::string title = GlobalBAS::Trim(p.shown->caption);
@@ -70,16 +78,18 @@ void Program::Done(const std::string& words, const GivenSeries& before, bool goe
 }
 
 void Program::Undo() {
-  if (parts_->steps.Undo()) ShowRestored();
+  const std::string words = ToUndo();
+  if (parts_->steps.Undo()) ShowRestored({.did = Did::Undone, .what = words});
 }
 
 void Program::Redo() {
-  if (parts_->steps.Redo()) ShowRestored();
+  const std::string words = ToRedo();
+  if (parts_->steps.Redo()) ShowRestored({.did = Did::Redone, .what = words});
 }
 
 // A screen to which the series has closed the way gives way to the table, where it can be mended.
 // Nothing is checked there as on an arrival: the series has stood before.
-void Program::ShowRestored() {
+void Program::ShowRestored(const LastAction& action) {
   Parts& p = *parts_;
   auto* form = static_cast<navigation::SessionForm*>(p.shown);
   if (!p.Stands(*form)) {
@@ -90,6 +100,7 @@ void Program::ShowRestored() {
   form->Restored();
   if (form != &p.dataCtrl) p.dataCtrl.Rebind();
   p.OfferSteps();
+  form->Report(action);
 }
 
 std::string Program::ToUndo() const { return parts_->steps.ToUndo(); }
@@ -136,7 +147,10 @@ void Program::RunExtrapolation(Extrapolation tag) {
   auto& from = *static_cast<navigation::SessionForm*>(p.shown);
   if (from.id != item->screen) {
     from.BeforeTabClick();
-    if (!workflow::GateOpen(p.session, from.id, item->screen)) return;
+    if (!workflow::GateOpen(p.session, from.id, item->screen)) {
+      from.TellClosed(item->screen);
+      return;
+    }
     workflow::PassGate(p.record.Flow(), from.id, item->screen);
     Open(item->screen);
   }

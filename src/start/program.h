@@ -35,6 +35,10 @@ class Program final : public navigation::Desk {
   // Called after a different screen is shown (before its activation runs).
   std::function<void(screen::Form&)> onShow;
 
+  // Brings what the shown screen tells of the record up to date: its live line, and which tabs are
+  // closed. Whoever runs handlers calls it behind each of them.
+  void TellState();
+
   // Title of the window, without the unsaved mark.
   std::string Title() const;
 
@@ -65,9 +69,9 @@ class Program final : public navigation::Desk {
   void Exit() override;
 
  private:
-  void ShowRestored();
   std::string ExitAdvice() const;
   bool SeriesMayGo();
+  void ShowRestored(const LastAction& action);
 
   struct Parts;
   std::unique_ptr<Parts> parts_;

@@ -75,13 +75,18 @@ bool Program::SaveSeries() {
     Open(ScreenId::DataCtrl);
     return false;
   }
-  const std::string before = p.dataCtrl.ReadingLbl.text;
+  const auto told = [&p] {
+    const LastAction* action = p.record.Reported(ScreenId::DataCtrl);
+    return action ? std::optional(*action) : std::nullopt;
+  };
+  const std::optional<LastAction> before = told();
   const bool saved = p.dataCtrl.VkrSave();
-  const bool told = saved || p.dataCtrl.ReadingLbl.text != before;
+  const std::optional<LastAction> now = told();
   if (ShowsPicture())
     p.verdeling.Activate();
-  else if (told && p.shown != &p.dataCtrl)
-    static_cast<navigation::SessionForm*>(p.shown)->FollowSave(p.dataCtrl.ReadingLbl.text);
+  else if (p.shown != &p.dataCtrl)
+    static_cast<navigation::SessionForm*>(p.shown)->FollowSave(
+        now && (saved || now != before) ? &*now : nullptr);
   return saved;
 }
 

@@ -4,6 +4,7 @@
 
 #include <clocale>
 
+#include "ui/live_label.h"
 #include "ui/outlined_style.h"
 #include "ui/picture_file.h"
 #include "ui/picture_font.h"
@@ -106,6 +107,7 @@ void Application::Start() {
   Splash splash;
   splash.Present();
   parts_->program.Start();
+  parts_->program.TellState();
   parts_->window->ShowState();
   parts_->window->show();
   parts_->window->activateWindow();
@@ -115,6 +117,7 @@ void PrepareToolkit() {
   // The toolkit has taken the user's locale over; numbers are the program's own.
   std::setlocale(LC_NUMERIC, "C");
   LoadPictureFont();
+  AnnounceLiveLabels();
   QApplication::setStyle(new OutlinedStyle(QStringLiteral("Fusion")));
 }
 

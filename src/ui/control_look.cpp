@@ -4,6 +4,7 @@
 #include <QVariant>
 
 #include "ui/control_view.h"
+#include "ui/live_label.h"
 #include "ui/readable_colour.h"
 #include "ui/verdict_label.h"
 
@@ -15,6 +16,10 @@ QColor Shade(const screen::Colour& colour) { return {colour.red, colour.green, c
 }  // namespace
 
 void ControlView::PushLook() {
+  if (auto* line = qobject_cast<LiveLabel*>(widget_)) {
+    line->ShowBand(shown_->colour ? std::optional(Shade(*shown_->colour)) : std::nullopt);
+    return;
+  }
   QPalette palette;
   const QColor background = palette.color(QPalette::Window);
   if (shown_->colour) {

@@ -44,6 +44,10 @@ class FormBinder : public QObject {
   // The control that `widget` is, or is a part of.
   screen::Control* ControlOf(const QWidget* widget) const;
 
+  // What a shown item that is disabled does in place of what its shortcut asks for; null when the
+  // key is no such shortcut.
+  const screen::Handler* RefusedBy(const QKeyEvent& press) const;
+
   void Push(bool onPage);
   void PaletteChanged();
   void FontChanged();

@@ -21,6 +21,17 @@ void Release(QScrollBar& bar) {
 
 }  // namespace
 
+const screen::Handler* FormBinder::RefusedBy(const QKeyEvent& press) const {
+  const QKeySequence keys(press.keyCombination());
+  for (const ControlView& view : views_) {
+    const QAction* item = view.Action();
+    const bool closed = item && item->isVisible() && !item->isEnabled();
+    if (closed && item->shortcut() == keys && view.Control().Refused)
+      return &view.Control().Refused;
+  }
+  return nullptr;
+}
+
 // A message box in the middle of a drag takes the release of the mouse button away from the bar,
 // which would stay pressed and go on scrolling.
 void FormBinder::ConnectBar(ControlView& view) {

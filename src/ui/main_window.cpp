@@ -173,6 +173,7 @@ void MainWindow::Private::PushPointer(bool busy) {
 }
 
 void MainWindow::Private::Settle() {
+  program_.TellState();
   Push();
   if (program_.EndRequested()) {
     End();
@@ -257,6 +258,19 @@ Pace& MainWindow::StepPace() { return private_->pace_; }
 QTabBar* MainWindow::Strip() const { return private_->strip_; }
 
 // The desktop may turn dark, or its letters large, while the program runs.
+// A key that nobody has taken may be the shortcut of an item that is closed: it says why.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  const FormBinder* binder = private_->BinderOf(private_->program_.Shown());
+  const screen::Handler* refused = binder ? binder->RefusedBy(*event) : nullptr;
+  if (!refused) {
+    QMainWindow::keyPressEvent(event);
+    return;
+  }
+  private_->gate_.RunLate();
+  private_->focus_.Follow();
+  private_->gate_.Run(*refused);
+}
+
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   for (const auto& binder : private_->binders_) {

@@ -41,6 +41,7 @@ class MainWindow : public QMainWindow, public screen::Surface {
   Pace& StepPace();
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,6 +1,5 @@
 #include "ui/page.h"
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -9,6 +8,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "ui/live_label.h"
 #include "ui/text.h"
 #include "ui/ui_basis_form.h"
 #include "ui/ui_data_ctrl_form.h"
@@ -50,12 +50,9 @@ const std::map<std::string, Shell (*)()>& Designs() {
 }
 
 // Below the scrolled page, so that it stays in view.
-QLabel* StatusLine() {
-  auto* line = new QLabel;
+QLabel* LiveLine() {
+  auto* line = new LiveLabel;
   line->setObjectName(QStringLiteral("StatusLbl"));
-  line->setWordWrap(true);
-  line->setTextFormat(Qt::PlainText);
-  line->setContentsMargins(14, 2, 14, 6);
   return line;
 }
 
@@ -108,7 +105,7 @@ Page LoadPage(const std::string& formName, QMenuBar& menuBar) {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(page.area, 1);
-  column->addWidget(StatusLine());
+  column->addWidget(LiveLine());
   TakeMenus(*shell, menuBar, page);
   return page;
 }

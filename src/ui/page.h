@@ -15,7 +15,7 @@ namespace ui {
 
 // One screen as its designer file lays it out: the page for the window's stack, and its menus.
 struct Page {
-  QWidget* frame = nullptr;  // the scrolled area, and below it the status line
+  QWidget* frame = nullptr;  // the scrolled area, and below it the live line
   PageArea* area = nullptr;
   QWidget* content = nullptr;
   std::unique_ptr<DesignSizes> sizes;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "ui/readable_colour.h"
 #include "ui/text.h"
 
 namespace ui {
@@ -46,10 +47,27 @@ void StripView::Fill(const screen::TabStrip& strip) {
   for (int i = 0; i < wanted; ++i) {
     const screen::Tab& tab = strip.tabs[static_cast<std::size_t>(i)];
     setTabText(i, Shown(tab.caption));
-    setTabToolTip(i, Lines(tab.tip).trimmed());
+    setTabToolTip(i, Lines(tab.closed.empty() ? tab.tip : tab.closed).trimmed());
+    const QString name = Shown(tab.caption).trimmed();
+    setAccessibleTabName(i, tab.closed.empty() ? name : tr("%1, closed").arg(name));
     setTabData(i, Shown(tab.key));
   }
   shown_ = strip.tabs;
+  GreyClosed();
+}
+
+// Grey, not disabled: a click is to say why.
+void StripView::GreyClosed() {
+  const QColor grey =
+      QuietOn(QPalette().color(QPalette::Window), QPalette().color(QPalette::WindowText));
+  for (int i = 0; i < count(); ++i)
+    setTabTextColor(i, shown_[static_cast<std::size_t>(i)].closed.empty() ? QColor() : grey);
+}
+
+void StripView::changeEvent(QEvent* event) {
+  QTabBar::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && count() == static_cast<int>(shown_.size()))
+    GreyClosed();
 }
 
 bool StripView::Step(int direction, const std::function<bool(const QString& key)>& isOpen) {

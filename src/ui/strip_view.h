@@ -30,6 +30,7 @@ class StripView : public QTabBar {
 
  protected:
   bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
   void initStyleOption(QStyleOptionTab* option, int index) const override;
@@ -37,6 +38,7 @@ class StripView : public QTabBar {
 
  private:
   void Fill(const screen::TabStrip& strip);
+  void GreyClosed();
   QString Folded(const QString& caption) const;
 
   std::vector<screen::Tab> shown_;

@@ -14,6 +14,7 @@ class ComplianceScreen : public testing::Test {
   ComplianceScreen() {
     p.EnterStatistics("Welders", "10", "0.3", "2");
     p.Record().OELV = 1;
+    p.Record().limitStated = true;
     p.Record().Unit = "ppm";
     p.Record().RefPeriod = "8 hours";
   }
@@ -34,6 +35,7 @@ class ComplianceScreen : public testing::Test {
     s.UTL = s.PercEx = 0;
     Open();
   }
+  std::string Line() { return p.Text("StatusLbl"); }
   void Tick() { p.Click("SampSizeCkb"); }
 
   std::string Number(double value) { return GlobalBAS::Shown(p.Record(), value); }

@@ -106,14 +106,6 @@ TEST_F(SampleSizeOnTheScreen, UntickingHidesTheFrameAndLeavesItsBoxes) {
   EXPECT_EQ(form.SampMinTxB.text, "    28");
   EXPECT_EQ(form.DegrMinTxb.text, "    27");
   EXPECT_EQ(form.PercExTxB3.text, "    5.0");
-  EXPECT_TRUE(form.ReasonLbl.visible);
-}
-
-TEST_F(SampleSizeOnTheScreen, TheSentenceOnTheEstimatesGivesWayToTheFrame) {
-  Optimise(10, 0.3, 2, 1);
-  EXPECT_FALSE(form.ReasonLbl.visible);
-  p.Click("LeidelCmb");
-  EXPECT_TRUE(form.ReasonLbl.visible);
 }
 
 TEST_F(SampleSizeOnTheScreen, WithoutAWilksTestTheFrameStaysAsItIs) {
@@ -137,7 +129,6 @@ TEST_F(SampleSizeOnTheScreen, HalfThePopulationIsNoCoverageSoTheBoxIsUnticked) {
     EXPECT_FALSE(form.SampSizeCkb.ticked);
     EXPECT_TRUE(form.SampSizeCkb.visible);
     EXPECT_FALSE(form.SampsizeFrm.visible);
-    EXPECT_TRUE(form.ReasonLbl.visible);
   }
 }
 

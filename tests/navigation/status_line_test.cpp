@@ -26,9 +26,9 @@ constexpr char kByRange[] =
 constexpr char kOfLine[] =
     "GM and GSD are estimated by the line through the 6 outcomes within the range.";
 
-TEST(StatusLine, SaysNothingOfASeriesWithoutARange) {
+TEST(StatusLine, SaysNothingOfEstimatesWithoutARange) {
   User user;
-  EXPECT_EQ(user.Status(), "");
+  EXPECT_EQ(user.Status(), "9 outcomes read.");
   user.Tab("descript");
   EXPECT_EQ(user.Status(), "");
 }

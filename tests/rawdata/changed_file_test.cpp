@@ -40,7 +40,7 @@ TEST_F(ChangedFile, IsNotOverwrittenUnlessTheUserSaysSo) {
   EXPECT_EQ(asked.buttons, screen::Buttons::YesNo);
   EXPECT_EQ(asked.defaultAnswer, Answer::No);
   EXPECT_EQ(TempFolder::Bytes(path_), "7\r\n8\r\n9\r\n");
-  EXPECT_THAT(user_.Text("ReadingLbl"), HasSubstr("not saved"));
+  EXPECT_THAT(user_.Text("StatusLbl"), HasSubstr("not saved"));
 }
 
 TEST_F(ChangedFile, IsOverwrittenOnYesAndNotAskedForAgain) {

@@ -275,7 +275,7 @@ TEST(Save, WritesOnlyTheOutcomesThatTheSampleSizeCounts) {
 TEST(ReadingLine, TellsHowTheFileWasUnderstood) {
   ProgramSession user;
   user.OpenFile(support::WriteTemporary("notes.vkr", "1.5\r\n12.5 mg/m3\r\n1.234,5\r\n3 x\r\n"));
-  EXPECT_EQ(user.Text("ReadingLbl"),
+  EXPECT_EQ(user.Text("StatusLbl"),
             "4 outcomes read. Text behind the number on line 2 and 4 was passed over. Both comma "
             "and point on line 3: the last one was read as the decimal sign.");
 }
@@ -283,10 +283,10 @@ TEST(ReadingLine, TellsHowTheFileWasUnderstood) {
 TEST(ReadingLine, IsShortForAPlainFileAndEmptyForATypedSeries) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4});
-  EXPECT_EQ(user.Text("ReadingLbl"), "3 outcomes read.");
+  EXPECT_EQ(user.Text("StatusLbl"), "3 outcomes read.");
   user.Tab("basis");
   OpenTable(user, "3");
-  EXPECT_EQ(user.Text("ReadingLbl"), "");
+  EXPECT_EQ(user.Text("StatusLbl"), "All 3 rows are empty: type or paste the outcomes.");
 }
 
 }  // namespace

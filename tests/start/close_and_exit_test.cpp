@@ -54,7 +54,7 @@ TEST(CloseAllData, EndsASeriesWithNoKindOfDataChosen) {
   EXPECT_EQ(user.Record().LnC.size(), 1u);
   EXPECT_TRUE(user.Record().GridData.empty()) << "a row of it for each of the grid";
   EXPECT_EQ(static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr")).rowCount, 0);
-  EXPECT_EQ(user.Text("DataCtrlForm.ReadingLbl"), "");
+  EXPECT_EQ(user.Text("StatusLbl"), "");
   EXPECT_EQ(user.Text("WindnrLbl"), "2");
   ExpectNothingIsLeft(user.Record());
   ExpectOpeningScreen(user);

@@ -52,7 +52,7 @@ TEST(Unsaved, AFailedSaveLeavesItUnsavedUnderItsOldNameAndSaysSo) {
   Save(user, support::WriteTemporary("no_folder", "") + "/series.vkr");
   EXPECT_TRUE(user.program.Unsaved());
   EXPECT_EQ(user.Record().Name, name);
-  EXPECT_THAT(user.Text("ReadingLbl"), testing::HasSubstr("not saved"));
+  EXPECT_THAT(user.Text("StatusLbl"), testing::HasSubstr("not saved"));
   EXPECT_FALSE(user.Shown().busyPointer);
 }
 

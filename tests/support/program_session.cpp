@@ -47,6 +47,7 @@ ProgramSession::ProgramSession() : program(ports, {VALKORIN_SOURCE_DIR "/data"})
 }
 
 screen::Control& ProgramSession::At(const std::string& name) {
+  program.TellState();
   const std::size_t dot = name.find('.');
   screen::Form* form =
       dot == std::string::npos ? &Shown() : program.FormByName(name.substr(0, dot));

@@ -103,7 +103,7 @@ class TestsCheck {
     const auto& last = view_.model.lastLimit;
     if (!NumberIn(shown_[1])) return;
     const bool same = last && last->basis == Basis() && Shows(shown_[1], last->UTL, now_.SigDigits);
-    if (!same || Blank(view_.page.Text("ReasonLbl"))) Wrong(1, last ? last->UTL : 0);
+    if (!same || Blank(view_.page.Text("StatusLbl"))) Wrong(1, last ? last->UTL : 0);
   }
 
   void CheckThird() const {
