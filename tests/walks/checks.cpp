@@ -62,6 +62,7 @@ void CheckAll(const View& view) {
   CheckBoxes(view);
   CheckStrip(view);
   CheckWays(view);
+  CheckLine(view);
   kScreens.at(view.Now().form)(view);
 }
 

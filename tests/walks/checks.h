@@ -37,6 +37,7 @@ void CheckPicture(const View& view);
 void CheckBoxes(const View& view);
 void CheckStrip(const View& view);
 void CheckWays(const View& view);
+void CheckLine(const View& view);
 // Each widget shows the state of its control.
 void CheckWidgets(const View& view);
 
