@@ -19,7 +19,8 @@ struct Desktop {
   OneFile fileDialog;
   StandingClock clock;
   NoPrinter printer;
-  ui::Application application{{messageBox, fileDialog, clock, printer}};
+  SilentTableDialog tableDialog;
+  ui::Application application{{messageBox, fileDialog, clock, printer, tableDialog}};
 
   ExposureSession& Record() { return application.Program().Session(); }
   void Menu(const char* name);

@@ -24,6 +24,12 @@ class StandingClock final : public screen::Clock {
   base::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
 };
 
+// A user who makes no choice that a question about a table does not propose.
+class SilentTableDialog final : public screen::TableDialog {
+ public:
+  std::optional<std::size_t> Ask(const Question& question) override { return question.proposed; }
+};
+
 class NoPrinter final : public screen::PrinterSurface {
  public:
   bool PrintPage(const drawing::DrawingRecord&) override { return false; }

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QScrollBar>
 #include <chrono>
 #include <cstring>
@@ -30,7 +31,8 @@ int StartOnly(int argc, char** argv) {
   bench::OneFile fileDialog;
   bench::StandingClock clock;
   bench::NoPrinter printer;
-  ui::Application application({messageBox, fileDialog, clock, printer});
+  bench::SilentTableDialog tableDialog;
+  ui::Application application({messageBox, fileDialog, clock, printer, tableDialog});
   application.Start();
   Paint(application);
   _exit(application.Window().isVisible() ? 0 : 1);
@@ -66,6 +68,39 @@ void OpenFileToItsScreen(benchmark::State& state) {
   }
 }
 BENCHMARK(OpenFileToItsScreen)->Arg(40)->Arg(2000)->Unit(benchmark::kMillisecond);
+
+// Rows as a spreadsheet offers them: a header, a date, the outcome with a decimal comma, its unit.
+QString SpreadsheetRows(int rows) {
+  QString text = QStringLiteral("Date\tResult\tUnit\r\n");
+  for (int i = 1; i <= rows; ++i)
+    text += QStringLiteral("12-03-2024\t%1,%2\tmg/m3\r\n").arg(i % 7).arg(1 + i * 7919 % 9973);
+  return text;
+}
+
+// From the menu item over the clipboard, the reading, the sort and the statistics to the painted
+// table, whose rows are all replaced.
+void PasteColumn(benchmark::State& state) {
+  const int rows = static_cast<int>(state.range(0));
+  const bench::RawSeriesFile file(rows);
+  Desktop desktop;
+  desktop.Open(file.Path());
+  QGuiApplication::clipboard()->setText(SpreadsheetRows(rows));
+  auto& grid = static_cast<screen::Grid&>(*desktop.application.Program().Shown().Find("DBGridVkr"));
+  for (auto _ : state) {
+    state.PauseTiming();
+    grid.currentRow = 0;
+    ++grid.revision;
+    desktop.application.Window().ShowState();
+    Paint(desktop.application);
+    state.ResumeTiming();
+    desktop.Menu("MenuPaste");
+    if (grid.currentRow != rows) {
+      state.SkipWithError("the rows were not pasted over");
+      break;
+    }
+  }
+}
+BENCHMARK(PasteColumn)->Arg(40)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 // Each round comes from another screen, so that the window changes its page as it does for a tab.
 void Activate(benchmark::State& state, ScreenId screen) {

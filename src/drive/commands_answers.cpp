@@ -1,3 +1,5 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QTabBar>
 
 #include <optional>
@@ -192,6 +194,22 @@ void ExpectAdvice(Play& play, std::string rest) {
   if (advice != TextArgument(rest)) throw Failure("the last box advised " + Quoted(advice));
 }
 
+void Question(Play& play, std::string) {
+  for (const auto& asked : play.tables.Take()) play.Say(Line(asked));
+}
+
+void ExpectQuestion(Play& play, std::string rest) {
+  std::string asked;
+  for (const auto& one : play.tables.Take()) asked += (asked.empty() ? "" : "; ") + Line(one);
+  if (asked != "question " + rest) throw Failure("met " + asked + ", expected question " + rest);
+}
+
+void ExpectClipboard(Play&, std::string rest) {
+  const std::string text = QGuiApplication::clipboard()->text().toStdString();
+  if (text != TextArgument(rest) && Quoted(text) != rest)
+    throw Failure("the clipboard holds " + Quoted(text) + ", expected " + rest);
+}
+
 void Printed(Play& play, std::string) {
   for (const std::string& line : play.printer.Take()) play.Say("printed " + Quoted(line));
 }
@@ -248,6 +266,9 @@ const CommandTable& AnswerCommands() {
       {"expect-no-box", ExpectNoBox},
       {"advice", Advice},
       {"expect-advice", ExpectAdvice},
+      {"question", Question},
+      {"expect-question", ExpectQuestion},
+      {"expect-clipboard", ExpectClipboard},
       {"printed", Printed},
       {"dump", Dump},
   };

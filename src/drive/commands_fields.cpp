@@ -47,7 +47,27 @@ void Cell(Play& play, std::string rest) {
 void AddARow(Play& play, std::string rest) { AddRow(play.stage, TextArgument(rest)); }
 void DeleteTheRow(Play& play, std::string rest) { DeleteRow(play.stage, IntOf(rest)); }
 void Row(Play& play, std::string rest) { GoToRow(play.stage, IntOf(rest)); }
-void Paste(Play& play, std::string rest) { PasteRows(play.stage, Unescaped(TextArgument(rest))); }
+void Edit(Play& play, std::string rest) { OpenEditor(play.stage, IntOf(rest)); }
+
+// Without a text, what the clipboard holds.
+void Paste(Play& play, std::string rest) {
+  if (!rest.empty()) OfferText(Unescaped(TextArgument(rest)));
+  PasteRows(play.stage);
+}
+
+// What another program has copied: text, the page that a spreadsheet offers beside it, or both.
+void Clipboard(Play&, std::string rest) {
+  const std::string kind = TakeWord(rest);
+  const std::vector<std::string> words = Words(rest);
+  if (kind == "text" && !rest.empty())
+    OfferText(Unescaped(TextArgument(rest)));
+  else if (kind == "html" && words.size() == 1)
+    OfferHtml(words[0], nullptr);
+  else if (kind == "both" && words.size() == 2)
+    OfferHtml(words[1], &words[0]);
+  else
+    throw Failure("clipboard wants text TEXT, html HTML or both TEXT HTML");
+}
 
 void Bar(Play& play, std::string rest) {
   const Target bar = TakeTarget(play, rest);
@@ -77,7 +97,9 @@ const CommandTable& FieldCommands() {
       {"addrow", AddARow},
       {"delrow", DeleteTheRow},
       {"row", Row},
+      {"edit", Edit},
       {"paste", Paste},
+      {"clipboard", Clipboard},
   };
   return table;
 }

@@ -19,6 +19,13 @@ void File(Play& play, std::string rest) {
 
 void Answer(Play& play, std::string rest) { play.boxes.Queue(AnswerByName(rest)); }
 
+void Choose(Play& play, std::string rest) {
+  const int choice = rest == "cancel" ? 0 : IntOf(rest);
+  if (rest != "cancel" && choice < 1)
+    throw Failure("choose wants the number of a choice, or cancel");
+  play.tables.Queue(choice);
+}
+
 void FormName(Play& play, std::string) { play.Say("form = " + play.stage.Shown().name); }
 
 void Menu(Play& play, std::string rest) { ChooseMenu(play.stage, play.stage.Find(rest)); }
@@ -72,10 +79,13 @@ void Font(Play& play, std::string rest) {
 
 const CommandTable& WindowCommands() {
   static const CommandTable table = {
-      {"file", File}, {"answer", Answer},   {"form", FormName},
-      {"menu", Menu}, {"tab", Tab},         {"shot", Shot},
-      {"quit", Quit}, {"title", Title},     {"expect-title", ExpectTitle},
-      {"size", Size}, {"palette", Palette}, {"font", Font},
+      {"file", File},     {"answer", Answer},
+      {"choose", Choose}, {"form", FormName},
+      {"menu", Menu},     {"tab", Tab},
+      {"shot", Shot},     {"quit", Quit},
+      {"title", Title},   {"expect-title", ExpectTitle},
+      {"size", Size},     {"palette", Palette},
+      {"font", Font},
   };
   return table;
 }

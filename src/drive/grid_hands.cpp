@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QTableView>
 #include <QtTest/QTest>
 
@@ -74,14 +75,19 @@ void NeedSame(const std::string& what, const std::string& shown, const std::stri
     throw Failure("the table shows the " + what + " " + shown + ", its state is " + held);
 }
 
-}  // namespace
-
-void TypeIntoCell(Stage& stage, int row, const std::string& text) {
+QLineEdit& EditorOf(Stage& stage, int row) {
   QTableView& view = GoToCell(stage, row);
   if (!view.viewport()->findChild<QLineEdit*>()) QTest::keyClick(&view, Qt::Key_F2);
   stage.Settle();
   auto* editor = view.viewport()->findChild<QLineEdit*>();
   if (!editor) throw Failure("the cell in row " + IntText(row) + " can't be edited");
+  return *editor;
+}
+
+}  // namespace
+
+void TypeIntoCell(Stage& stage, int row, const std::string& text) {
+  QLineEdit* editor = &EditorOf(stage, row);
   QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(editor, Qt::Key_Delete);
   TypeKeys(*editor, text);
@@ -125,11 +131,23 @@ std::string SelectedRows(Stage& stage) {
   return RowList(rows);
 }
 
-void PasteRows(Stage& stage, const std::string& text) {
+void OpenEditor(Stage& stage, int row) { EditorOf(stage, row); }
+
+void OfferText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+void OfferHtml(const std::string& html, const std::string* text) {
+  auto* offered = new QMimeData;  // the clipboard's own from here on
+  offered->setHtml(QString::fromStdString(html));
+  if (text) offered->setText(QString::fromStdString(*text));
+  QGuiApplication::clipboard()->setMimeData(offered);
+}
+
+void PasteRows(Stage& stage) {
   const Target grid = GridOf(stage);
   NeedUsable(stage, grid);
   QTableView& view = ViewOf(stage, grid);
-  QGuiApplication::clipboard()->setText(QString::fromStdString(text));
   view.setFocus(Qt::TabFocusReason);
   stage.Settle();
   QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);

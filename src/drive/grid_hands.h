@@ -21,8 +21,13 @@ void SelectRows(Stage& stage, int first, int last);
 // another one than the screen's rules hold.
 std::string CursorRow(Stage& stage);
 std::string SelectedRows(Stage& stage);
-// Puts `text` on the clipboard and pastes it from the current row on.
-void PasteRows(Stage& stage, const std::string& text);
+// Opens the editor of the row's concentration and leaves it open.
+void OpenEditor(Stage& stage, int row);
+// Pastes what the clipboard holds from the current row on.
+void PasteRows(Stage& stage);
+// Puts a text on the clipboard; or HTML, with a plain text beside it where there is one.
+void OfferText(const std::string& text);
+void OfferHtml(const std::string& html, const std::string* text);
 // What the table shows there. Failure when it differs from what the screen's rules say.
 std::string CellText(Stage& stage, const Target& grid, int row, int column);
 

@@ -29,11 +29,12 @@ int PlayAll(std::istream& in) {
   drive::ScriptedFileDialog files;
   drive::StandingClock clock;
   drive::ScriptedPrinter printer;
-  ui::Application application({boxes, files, clock, printer});
+  drive::ScriptedTableDialog tables;
+  ui::Application application({boxes, files, clock, printer, tables});
   drive::Stage stage(application);
   application.Start();
   stage.Open();
-  drive::Play play{stage, boxes, files, printer, std::cout};
+  drive::Play play{stage, boxes, files, printer, tables, std::cout};
   drive::Script script(in);
   return drive::PlayScript(play, script);
 }

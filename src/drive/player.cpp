@@ -29,8 +29,8 @@ void PlayCommand(Play& play, const Command& command) {
   if (!action) throw Failure("unknown command " + command.name);
   if (play.stage.Ended() && !NeedsNoWindow(command.name)) throw Failure("the program has ended");
   (*action)(play, command.rest);
-  const std::string trouble = play.boxes.TakeTrouble();
-  if (!trouble.empty()) throw Failure(trouble);
+  for (const std::string& trouble : {play.boxes.TakeTrouble(), play.tables.TakeTrouble()})
+    if (!trouble.empty()) throw Failure(trouble);
 }
 
 int PlayScript(Play& play, Script& script) {

@@ -16,6 +16,7 @@ struct Play {
   ScriptedMessageBox& boxes;
   ScriptedFileDialog& files;
   ScriptedPrinter& printer;
+  ScriptedTableDialog& tables;
   std::ostream& out;
 
   void Say(const std::string& line) { out << line << std::endl; }

@@ -109,6 +109,24 @@ std::string ScriptedFileDialog::Ask(const Request&) {
   return path;
 }
 
+std::optional<std::size_t> ScriptedTableDialog::Ask(const Question& question) {
+  const int choice = queue_.empty() ? 0 : queue_.front();
+  if (!queue_.empty()) queue_.pop_front();
+  std::optional<std::size_t> answer;
+  if (choice > static_cast<int>(question.choices.size()))
+    trouble_ = "the choice " + IntText(choice) + " is not among those of " + Quoted(question.text);
+  else if (choice > 0)
+    answer = static_cast<std::size_t>(choice - 1);
+  shown_.push_back({question, answer});
+  return answer;
+}
+
+std::vector<ScriptedTableDialog::Shown> ScriptedTableDialog::Take() {
+  return std::exchange(shown_, {});
+}
+
+std::string ScriptedTableDialog::TakeTrouble() { return std::exchange(trouble_, {}); }
+
 bool ScriptedPrinter::PrintPage(const drawing::DrawingRecord& drawing) {
   for (const auto& item : drawing.Items())
     if (const auto* text = std::get_if<drawing::DrawnText>(&item)) lines_.push_back(text->text);
@@ -128,6 +146,15 @@ std::string Line(const ScriptedMessageBox::Shown& box) {
   const screen::Message& message = box.message;
   return "box " + Quoted(message.title) + " " + Quoted(message.text) + " " + Name(message.icon) +
          " " + Name(message.buttons) + " -> " + Name(box.answer);
+}
+
+std::string Line(const ScriptedTableDialog::Shown& asked) {
+  std::string line = "question " + Quoted(asked.question.text);
+  for (const std::string& choice : asked.question.choices) line += " " + Quoted(choice);
+  if (asked.question.proposed)
+    line += " proposed " + IntText(static_cast<int>(*asked.question.proposed) + 1);
+  return line + " -> " +
+         (asked.answer ? IntText(static_cast<int>(*asked.answer) + 1) : std::string("cancel"));
 }
 
 }  // namespace drive

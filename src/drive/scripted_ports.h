@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,30 @@ class ScriptedFileDialog final : public screen::FileDialog {
   std::deque<std::string> queue_;
 };
 
+// Answers the questions about a table as the script has queued, and keeps them. An unqueued one is
+// cancelled.
+class ScriptedTableDialog final : public screen::TableDialog {
+ public:
+  struct Shown {
+    Question question;
+    std::optional<std::size_t> answer;
+  };
+
+  // A choice from 1 on; 0 cancels.
+  void Queue(int choice) { queue_.push_back(choice); }
+  std::optional<std::size_t> Ask(const Question& question) override;
+
+  // The questions since the last call.
+  std::vector<Shown> Take();
+  // Why a queued answer could not be given since the last call; empty when all could.
+  std::string TakeTrouble();
+
+ private:
+  std::deque<int> queue_;
+  std::vector<Shown> shown_;
+  std::string trouble_;
+};
+
 // Stands still, so that what a script shows is the same at every playing.
 class StandingClock final : public screen::Clock {
  public:
@@ -66,5 +91,7 @@ class ScriptedPrinter final : public screen::PrinterSurface {
 screen::Answer AnswerByName(const std::string& name);
 // The line by which a box is told.
 std::string Line(const ScriptedMessageBox::Shown& box);
+// The line by which a question about a table is told.
+std::string Line(const ScriptedTableDialog::Shown& asked);
 
 }  // namespace drive

@@ -35,6 +35,9 @@ std::string Quoted(std::string_view text) {
       case '\n':
         quoted += "\\n";
         break;
+      case '\t':
+        quoted += "\\t";
+        break;
       case '"':
         quoted += "\\\"";
         break;
@@ -49,11 +52,11 @@ std::string Unescaped(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char next = i + 1 < text.size() ? text[i + 1] : '\0';
-    if (text[i] != '\\' || (next != 'r' && next != 'n' && next != '"')) {
+    if (text[i] != '\\' || std::string_view("rnt\"").find(next) == std::string_view::npos) {
       plain += text[i];
       continue;
     }
-    plain += next == 'r' ? '\r' : next == 'n' ? '\n' : '"';
+    plain += next == 'r' ? '\r' : next == 'n' ? '\n' : next == 't' ? '\t' : '"';
     ++i;
   }
   return plain;

@@ -9,7 +9,7 @@
 // that a script means the same under every locale.
 namespace drive {
 
-// `text` between quotes, so that an answer stays one line: \r, \n and \" inside.
+// `text` between quotes, so that an answer stays one line: \r, \n, \t and \" inside.
 std::string Quoted(std::string_view text);
 // The same escapes read back; the text without its quotes comes in.
 std::string Unescaped(std::string_view text);

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "navigation/session_form.h"
+#include "rawdata/pasted_table.h"
 #include "rawdata/raw_file.h"
 
 namespace rawdata {
+
+// Outcomes beyond the sample size go with the first edit or save.
+void CutSeries(Given& given);
 
 // The data control screen: the series in an editable table, its range, unit and detection range.
 struct DataCtrlForm final : navigation::SessionForm {
@@ -87,7 +91,16 @@ struct DataCtrlForm final : navigation::SessionForm {
   bool AddRow(const std::string& text);
   void DeleteRows(const std::vector<int>& selected);
   void CommitRow();
+
+  // data_ctrl_paste.cpp
   void PasteRows(int row, const std::string& text);
+  // The outcomes of the text, asked about where it needs an answer. Nothing after a refusal, and
+  // what there was to say has been told.
+  std::optional<PastedColumn> Understood(const std::string& text);
+  void GoBehindPaste(int row);
+  void TellPaste(const PastedColumn& column);
+  std::string CopyRows(const std::vector<int>& rows) const;
+
   // Asks when another program has changed the file at `path` since the series was read from it or
   // saved to it.
   bool MayOverwrite(const std::string& path);

@@ -16,23 +16,9 @@ constexpr int kNumber = 0;
 constexpr int kOperator = 1;
 constexpr int kConcentration = 2;
 
-// Outcomes beyond the sample size go with the first edit or save.
-void CutSeries(Given& given) { given.C.resize(static_cast<std::size_t>(SeriesCount(given)) + 1); }
-
-std::vector<std::string> Lines(const std::string& text) {
-  std::vector<std::string> lines(1);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-    if (text[i] == '\n' || text[i] == '\r')
-      lines.emplace_back();
-    else
-      lines.back() += text[i];
-  }
-  while (!lines.empty() && GlobalBAS::Trim(lines.back()).empty()) lines.pop_back();
-  return lines;
-}
-
 }  // namespace
+
+void CutSeries(Given& given) { given.C.resize(static_cast<std::size_t>(SeriesCount(given)) + 1); }
 
 void DataCtrlForm::WireGrid() {
   DBGridVkr.Cell = [this](int row, int column) { return CellText(row, column); };
@@ -42,6 +28,7 @@ void DataCtrlForm::WireGrid() {
   DBGridVkr.AddRow = [this](const std::string& text) { return AddRow(text); };
   DBGridVkr.DeleteRows = [this](const std::vector<int>& rows) { DeleteRows(rows); };
   DBGridVkr.Paste = [this](int row, const std::string& text) { PasteRows(row, text); };
+  DBGridVkr.Copy = [this](const std::vector<int>& rows) { return CopyRows(rows); };
   // The empty line behind the last row takes the new outcome.
   MenuAddRow.Click = [this] { DBGridVkr.GoTo(DBGridVkr.rowCount); };
   MenuDeleteRow.Click = [this] { DeleteRows(DBGridVkr.selectedRows); };
@@ -188,35 +175,6 @@ void DataCtrlForm::FollowOrder(const std::vector<double>& edited) {
   follow(DBGridVkr.currentRow);
   for (int& row : DBGridVkr.selectedRows) follow(row);
   std::sort(DBGridVkr.selectedRows.begin(), DBGridVkr.selectedRows.end());
-}
-
-// All lines or none: a refused line would shift the rows behind it.
-void DataCtrlForm::PasteRows(int row, const std::string& text) {
-  const std::vector<std::string> lines = Lines(text);
-  if (lines.empty() || row < 0 || row > SampleCount(session)) return;
-  std::vector<double> values;
-  for (const std::string& line : lines) {
-    values.push_back(GlobalBAS::ReadNumber(line));
-    if (RefusalOf(values.back()) == 0) continue;
-    const std::string number = GlobalBAS::GeneralText(static_cast<double>(values.size()));
-    Complain(OwnText(Own::PastedLine, {number, line.substr(0, 40)}) + LoadResString(920) +
-                 OwnText(Own::NothingPasted),
-             LoadResString(1530));
-    return;
-  }
-  const int rows = std::max(SampleCount(session), row + static_cast<int>(values.size()));
-  if (!HasRoomFor(rows)) return;
-  const int count = static_cast<int>(values.size());
-  DBGridVkr.SelectRows(row, count);
-  EditRows(
-      OwnText(count == 1 ? Own::StepPastedOne : Own::StepPasted, {GlobalBAS::GeneralText(count)}),
-      [&](Given& given) {
-        CutSeries(given);
-        given.M = rows;
-        given.C.resize(static_cast<std::size_t>(rows) + 1);
-        std::copy(values.begin(), values.end(), given.C.begin() + 1 + row);
-      });
-  Report({.did = Did::Pasted, .count = static_cast<double>(count)});
 }
 
 void DataCtrlForm::TellReading(const ReadingNotes* notes) {

@@ -142,8 +142,10 @@ struct Grid : Control {
   std::function<bool(int row, int column, const std::string& text)> Write;
   std::function<bool(const std::string& text)> AddRow;
   std::function<void(const std::vector<int>& rows)> DeleteRows;
-  // Fills rows from `row` on with the lines of `text`.
+  // Fills rows from `row` on with what was copied elsewhere; the empty text where that is no text.
   std::function<void(int row, const std::string& text)> Paste;
+  // The text by which other programs take these rows over.
+  std::function<std::string(const std::vector<int>& rows)> Copy;
 
   // Selects `count` rows from `first` on; the cursor stays where it is.
   void SelectRows(int first, int count);

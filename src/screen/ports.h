@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "drawing/drawing.h"
 #include "screen/clock.h"
@@ -47,6 +50,22 @@ class FileDialog {
   virtual std::string Ask(const Request& request) = 0;
 };
 
+// Shows the first lines of a table, and asks which of some choices holds for it.
+class TableDialog {
+ public:
+  struct Question {
+    std::string title;
+    std::string text;
+    std::vector<std::vector<std::string>> lines;
+    std::vector<std::string> choices;
+    std::vector<std::size_t> columns;     // that the choices stand for; empty when for none
+    std::optional<std::size_t> proposed;  // the choice that stands chosen at first
+  };
+  virtual ~TableDialog() = default;
+  // The choice, or nothing when the dialog was cancelled.
+  virtual std::optional<std::size_t> Ask(const Question& question) = 0;
+};
+
 class Surface {
  public:
   virtual ~Surface() = default;
@@ -79,6 +98,7 @@ struct Ports {
   PictureFile& pictureFile;
   PrinterSurface& printer;
   History& history;
+  TableDialog& tableDialog;
 };
 
 }  // namespace screen

@@ -46,6 +46,19 @@ class FileDialogOverWindow final : public screen::FileDialog {
   screen::FileDialog& dialog_;
 };
 
+class TableDialogOverWindow final : public screen::TableDialog {
+ public:
+  explicit TableDialogOverWindow(screen::TableDialog& dialog) : dialog_(dialog) {}
+  std::optional<std::size_t> Ask(const Question& question) override {
+    const auto choice = dialog_.Ask(question);
+    ClearVectorRegisters();
+    return choice;
+  }
+
+ private:
+  screen::TableDialog& dialog_;
+};
+
 // What the handler calculates behind a painting runs as fast as before it.
 class WindowSurface final : public screen::Surface {
  public:
@@ -78,7 +91,9 @@ struct Application::Parts {
   explicit Parts(const Surroundings& around)
       : box(around.messageBox),
         fileDialog(around.fileDialog),
-        ports{box, fileDialog, surface, around.clock, pictureFile, around.printer, history},
+        tableDialog(around.tableDialog),
+        ports{box,         fileDialog,     surface, around.clock,
+              pictureFile, around.printer, history, tableDialog},
         program(ports, DataFolders()) {
     window = std::make_unique<MainWindow>(program, ports);
     surface.SetWindow(window.get());
@@ -87,6 +102,7 @@ struct Application::Parts {
 
   BoxOverWindow box;
   FileDialogOverWindow fileDialog;
+  TableDialogOverWindow tableDialog;
   WindowSurface surface;
   PictureFile pictureFile;
   UndoHistory history;

@@ -14,6 +14,7 @@ struct Surroundings {
   screen::FileDialog& fileDialog;
   screen::Clock& clock;
   screen::PrinterSurface& printer;
+  screen::TableDialog& tableDialog;
 };
 
 // The program in its window. The toolkit's application object must exist before it and after it.

@@ -5,6 +5,7 @@
 #include "ui/file_dialog.h"
 #include "ui/message_box.h"
 #include "ui/printer.h"
+#include "ui/table_dialog.h"
 
 int main(int argc, char** argv) {
   QApplication toolkit(argc, argv);
@@ -13,7 +14,8 @@ int main(int argc, char** argv) {
   ui::FileDialog fileDialog;
   ui::Clock clock;
   ui::Printer printer;
-  ui::Application application({messageBox, fileDialog, clock, printer});
+  ui::TableDialog tableDialog;
+  ui::Application application({messageBox, fileDialog, clock, printer, tableDialog});
   application.Start();
   return QApplication::exec();
 }

@@ -93,10 +93,18 @@ QMessageBox::StandardButton EscapeOf(screen::Buttons buttons) {
   return QMessageBox::Ok;
 }
 
+// A list that is longer than the screen goes into the box's scrolling part, whole.
+QString Brief(QMessageBox& box, const QString& text) {
+  constexpr int kMostLines = 16;
+  if (text.count(QLatin1Char('\n')) < kMostLines) return text;
+  box.setDetailedText(text);
+  return text.section(QLatin1Char('\n'), 0, kMostLines - 3) + QLatin1Char('\n') + QChar(0x2026);
+}
+
 // A complaint names what it is about once more above its text: the title bar of a small window may
 // be cut, and some desktops show none.
 void Fill(QMessageBox& box, const screen::Message& message) {
-  const QString text = Lines(message.text);
+  const QString text = Brief(box, Lines(message.text));
   const QString advice = Lines(message.advice);
   if (message.icon != screen::Icon::Exclamation) {
     box.setText(text);

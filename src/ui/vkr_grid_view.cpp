@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QItemSelection>
 #include <QKeyEvent>
 #include <QScrollBar>
 
 #include <algorithm>
 
+#include "ui/outcome_editor.h"
 #include "ui/text.h"
 #include "ui/vkr_grid_model.h"
 
@@ -42,6 +44,9 @@ VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
   setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                   QAbstractItemView::EditKeyPressed);
   setAccessibleName(tr("Outcomes"));
+  auto* outcomes = new OutcomeDelegate(this);
+  connect(outcomes, &OutcomeDelegate::TablePasted, this, &VkrGridView::PasteText);
+  setItemDelegate(outcomes);
 }
 
 void VkrGridView::Attach(screen::Grid& grid, EventGate& gate, QLabel* caption) {
@@ -121,20 +126,16 @@ void VkrGridView::CommitEditor() {
 }
 
 void VkrGridView::PasteClipboard() {
-  const std::string text = Typed(QGuiApplication::clipboard()->text());
+  PasteText(PlainText(QGuiApplication::clipboard()->mimeData()));
+}
+
+void VkrGridView::PasteText(const QString& text) {
   const int row = std::max(currentIndex().row(), 0);
-  gate_->Later([this, row, text] { grid_->Paste(row, text); });
+  gate_->Later([this, row, typed = Typed(text)] { grid_->Paste(row, typed); });
 }
 
 void VkrGridView::CopySelection() const {
-  QModelIndexList cells = selectedIndexes();
-  std::sort(cells.begin(), cells.end());
-  QString text;
-  for (qsizetype i = 0; i < cells.size(); ++i) {
-    if (i > 0) text += QLatin1Char(cells[i].row() == cells[i - 1].row() ? '\t' : '\n');
-    text += cells[i].data().toString();
-  }
-  QGuiApplication::clipboard()->setText(text);
+  QGuiApplication::clipboard()->setText(Shown(grid_->Copy(SelectedRows())));
 }
 
 void VkrGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

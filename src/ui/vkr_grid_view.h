@@ -47,6 +47,7 @@ class VkrGridView : public QTableView {
   std::vector<int> SelectedRows() const;
   void TellSelection();
   void CopySelection() const;
+  void PasteText(const QString& text);
   void FitRows();
   void SpreadColumns();
   int LeastWidth(int column) const;

@@ -12,7 +12,6 @@ namespace {
 
 using support::ProgramSession;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 screen::Grid& GridOf(ProgramSession& user) {
   return static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr"));
@@ -177,48 +176,6 @@ TEST(DeletedRow, AnUnfilledOneCompletesTheSeries) {
   GridOf(user).DeleteRows({2});
   EXPECT_FALSE(user.Record().RawIncomplete);
   EXPECT_EQ(user.Record().C, (std::vector<double>{3, 2, 4}));
-}
-
-TEST(Paste, FillsTheRowsFromTheCurrentOneOnAndAddsWhatIsMissing) {
-  ProgramSession user;
-  OpenTable(user, "3");
-  GridOf(user).Paste(1, "2,5\r\n1.5\n12.5 mg/m3\r\n");
-  EXPECT_EQ(user.Record().M, 4);
-  EXPECT_TRUE(user.Record().RawIncomplete);
-  EXPECT_THAT(user.Record().C, ElementsAre(testing::_, 0, 2.5, 1.5, 12.5));
-  GridOf(user).Paste(0, "4");
-  EXPECT_FALSE(user.Record().RawIncomplete);
-  EXPECT_EQ(user.Record().C, (std::vector<double>{3.25, 1.5, 2.5, 4, 12.5}));
-  EXPECT_TRUE(user.box.shown.empty());
-}
-
-TEST(Paste, ARefusedLineIsNamedWithItsReasonAndNothingIsPasted) {
-  ProgramSession user;
-  user.OpenSeries({1, 2, 4});
-  GridOf(user).Paste(0, "5\r\n<0.5\r\n7\r\n");
-  EXPECT_THAT(user.LastBox().text, HasSubstr("Line 2"));
-  EXPECT_THAT(user.LastBox().text, HasSubstr("<0.5"));
-  EXPECT_THAT(user.LastBox().text, HasSubstr("File contains values <1D-10 or >1D+10. "));
-  EXPECT_EQ(user.Record().C, (std::vector<double>{2, 1, 2, 4}));
-  EXPECT_FALSE(user.program.Unsaved());
-}
-
-TEST(Paste, BeyondTwoThousandRowsIsRefusedWhole) {
-  ProgramSession user;
-  user.OpenSeries({1, 2, 4});
-  std::string text;
-  for (int i = 0; i < 1999; ++i) text += "3\n";
-  GridOf(user).Paste(2, text);
-  EXPECT_EQ(user.LastBox().text, "A Sample size M of more than two thousand  is too large");
-  EXPECT_EQ(user.Record().M, 3);
-}
-
-TEST(Paste, OfNothingDoesNothing) {
-  ProgramSession user;
-  user.OpenSeries({1, 2, 4});
-  GridOf(user).Paste(0, "\r\n\r\n");
-  EXPECT_EQ(user.Record().M, 3);
-  EXPECT_TRUE(user.box.shown.empty());
 }
 
 TEST(Save, OffersTheNameOfTheSeries) {

@@ -40,6 +40,10 @@ struct Printer : screen::PrinterSurface {
   bool PrintPage(const drawing::DrawingRecord&) override { return false; }
 };
 
+struct TableDialog : screen::TableDialog {
+  std::optional<std::size_t> Ask(const Question&) override { return std::nullopt; }
+};
+
 struct Ports {
   MessageBox messageBox;
   FileDialog fileDialog;
@@ -48,7 +52,9 @@ struct Ports {
   PictureFile pictureFile;
   Printer printer;
   support::PlainHistory history;
-  screen::Ports ports{messageBox, fileDialog, surface, clock, pictureFile, printer, history};
+  TableDialog tableDialog;
+  screen::Ports ports{messageBox,  fileDialog, surface, clock,
+                      pictureFile, printer,    history, tableDialog};
 };
 
 }  // namespace recording

@@ -32,6 +32,12 @@ std::string RecordingDialog::Ask(const Request& request) {
   return Next(answers, std::string());
 }
 
+std::optional<std::size_t> RecordingTables::Ask(const Question& question) {
+  asked.push_back(question);
+  if (answers.empty()) return std::nullopt;
+  return Next(answers, std::size_t{0});
+}
+
 bool RecordingPictures::Write(const std::string& path, const drawing::DrawingRecord& drawing) {
   if (!fails) written.push_back({path, drawing});
   return !fails;

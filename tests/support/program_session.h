@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,14 @@ class RecordingDialog final : public screen::FileDialog {
   std::string Ask(const Request& request) override;
   std::deque<std::string> answers;
   std::vector<Request> asked;
+};
+
+// Answers questions about a table from a queue; empty means cancelled.
+class RecordingTables final : public screen::TableDialog {
+ public:
+  std::optional<std::size_t> Ask(const Question& question) override;
+  std::deque<std::size_t> answers;
+  std::vector<Question> asked;
 };
 
 // A surface that counts its repaints, and lets a test look at the state that each of them shows.
@@ -81,7 +90,8 @@ struct RecordingPorts {
   RecordingPictures pictures;
   RecordingPrinter printer;
   PlainHistory history;
-  screen::Ports ports{box, dialog, surface, clock, pictures, printer, history};
+  RecordingTables tables;
+  screen::Ports ports{box, dialog, surface, clock, pictures, printer, history, tables};
 };
 
 // The whole program without a window, and the user's hands: what a binder does with the events of

@@ -95,14 +95,27 @@ void Generator::OfferEdits(std::vector<Offer>& offers) {
                     }});
 }
 
-// Mostly numbers; now and then one that is none, or a column of equal ones.
+// Mostly numbers; now and then one that is none, or a column of equal ones. Some stand beside
+// dates, which are none, or beside their own numbers, where the user says which is which.
 Step Generator::PasteRows() {
   const int first = 1 + random_.Below(RowCount() + 1);
   const bool equal = random_.Chance(10);
   const int count = equal ? RowCount() + 1 : 1 + random_.Below(6);
-  std::string text;
-  for (int i = 0; i < count; ++i) text += (i > 0 ? "\n" : "") + (equal ? "2" : Outcome());
-  return {{"row " + drive::IntText(equal ? 1 : first), "paste " + drive::Quoted(text)}};
+  const bool dated = random_.Chance(15);
+  const bool numbered = !dated && random_.Chance(15);
+  const bool headed = random_.Chance(20);
+  std::string text = headed ? "Who\tResult\n" : "";
+  for (int i = 1; i <= count; ++i) {
+    if (dated) text += "12-03-2024\t";
+    if (numbered) text += drive::IntText(i) + "\t";
+    // The first one shows that the column beside the numbers holds outcomes.
+    text += equal || (numbered && i == 1) ? "2" : Outcome();
+    text += i < count ? "\n" : "";
+  }
+  Step step{{"row " + drive::IntText(equal ? 1 : first)}};
+  if (numbered) step.lines.push_back(random_.Chance(20) ? "choose 1" : "choose 2");
+  step.lines.push_back("paste " + drive::Quoted(text));
+  return step;
 }
 
 void Generator::OfferLimits(std::vector<Offer>& offers) {

@@ -77,7 +77,7 @@ class Model {
   void SetCell(int row, const std::string& text, int count);
   void Append(const std::string& text, int count);
   void Delete(const std::vector<int>& rows, int count);
-  void Paste(int row, const std::string& text, int count);
+  void Paste(int row, const Outcomes& values, int count);
   double ExpectedSize(const Scene& scene) const;
   void CheckSeries(const Scene& scene);
   void TakeSeries(const Seen& after);

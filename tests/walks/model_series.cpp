@@ -1,6 +1,7 @@
 // The outcomes as the user has opened, typed, pasted and deleted them.
 #include <algorithm>
 #include <cmath>
+#include <regex>
 #include <sstream>
 
 #include "drive/text.h"
@@ -69,6 +70,44 @@ std::vector<int> SelectedRows(std::string line) {
   return rows;
 }
 
+bool Matches(const std::string& text, const char* pattern) {
+  return std::regex_match(text, std::regex(pattern));
+}
+
+// Tables of the walks hold dates, numbers and words; a line without a number is a header.
+bool HasNumber(const std::string& line) {
+  std::istringstream in(line);
+  for (std::string cell; std::getline(in, cell, '\t');)
+    if (Matches(cell, " *[-+]?[.,]?[0-9].*") && !Matches(cell, "[0-9]+-[0-9]+-[0-9]+")) return true;
+  return false;
+}
+
+// The cell of the outcomes: the last one, unless the user has said that it is the first.
+std::string CellOf(const std::string& line, bool first) {
+  const std::size_t tab = line.find('\t');
+  if (tab == std::string::npos) return line;
+  return first ? line.substr(0, tab) : line.substr(tab + 1);
+}
+
+bool IsOutcome(const std::string& cell) {
+  static const char* number = " *[+]?([0-9]+[.,]?[0-9]*|[.,][0-9]+)(e[-+]?[0-9]+)? *(mg/m3|ppm)? *";
+  const double value = TypedNumber(cell);
+  return Matches(cell, number) && value > 0 && Accepted(value);
+}
+
+// The outcomes of a pasted text; none when it is refused.
+std::vector<double> PastedOutcomes(const std::string& text, bool first) {
+  std::vector<std::string> lines = Lines(text);
+  lines.erase(lines.begin(), std::find_if(lines.begin(), lines.end(), HasNumber));
+  std::vector<double> values;
+  for (const std::string& line : lines) {
+    const std::string cell = CellOf(line, first);
+    if (!IsOutcome(cell)) return {};
+    values.push_back(TypedNumber(cell));
+  }
+  return values;
+}
+
 }  // namespace
 
 void Model::AdvanceSeries(const Scene& scene) {
@@ -113,7 +152,9 @@ void Model::Edited(const Scene& scene) {
   if (command == "paste") {
     std::string row = scene.step.lines.front();
     drive::TakeWord(row);
-    Paste(drive::IntOf(row), drive::Unescaped(drive::TextArgument(rest)), count);
+    const bool first = scene.step.lines[1] == "choose 1";
+    Paste(drive::IntOf(row), PastedOutcomes(drive::Unescaped(drive::TextArgument(rest)), first),
+          count);
   }
 }
 
@@ -147,15 +188,10 @@ void Model::Delete(const std::vector<int>& rows, int count) {
 }
 
 // All lines or none.
-void Model::Paste(int row, const std::string& text, int count) {
-  const auto lines = Lines(text);
-  if (lines.empty() || row - 1 + static_cast<int>(lines.size()) > kMost) return;
-  Outcomes values;
-  for (const std::string& line : lines) {
-    values.push_back(TypedNumber(line));
-    if (values.back() <= 0 || !Accepted(values.back())) return;
-  }
-  outcomes_.resize(At(std::max(count, row - 1 + static_cast<int>(values.size()))));
+void Model::Paste(int row, const Outcomes& values, int count) {
+  const int end = row - 1 + static_cast<int>(values.size());
+  if (values.empty() || end > kMost) return;
+  outcomes_.resize(At(std::max(count, end)));
   std::copy(values.begin(), values.end(), outcomes_.begin() + row - 1);
   edited_ = true;
 }

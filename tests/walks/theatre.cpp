@@ -71,6 +71,7 @@ bool Theatre::Perform(Step& step, const Chooser& choose) {
   }
   out_.str({});
   printer_.Take();
+  tables_.Take();
   return trouble_.empty();
 }
 

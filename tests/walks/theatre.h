@@ -58,10 +58,11 @@ class Theatre {
   drive::ScriptedFileDialog noFiles_;
   drive::StandingClock clock_;
   drive::ScriptedPrinter printer_;
-  ui::Application application_{{box_, file_, clock_, printer_}};
+  drive::ScriptedTableDialog tables_;
+  ui::Application application_{{box_, file_, clock_, printer_, tables_}};
   drive::Stage stage_{application_};
   std::ostringstream out_;
-  drive::Play play_{stage_, kept_, noFiles_, printer_, out_};
+  drive::Play play_{stage_, kept_, noFiles_, printer_, tables_, out_};
   std::string trouble_;
 };
 

@@ -34,7 +34,7 @@ struct Desktop : support::RecordingPorts {
         application.Window().WidgetOf(shown, *shown.Find("VScLowLimit")));
   }
 
-  ui::Application application{{box, dialog, clock, printer}};
+  ui::Application application{{box, dialog, clock, printer, tables}};
 };
 
 QRect Handle(const QScrollBar& bar) {

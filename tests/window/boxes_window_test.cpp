@@ -58,7 +58,8 @@ class ResultBoxes : public testing::Test {
   }
 
   support::RecordingPorts around;
-  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+  ui::Application application{
+      {around.box, around.dialog, around.clock, around.printer, around.tables}};
 };
 
 TEST_F(ResultBoxes, ShowEveryDigitOfANumberAndItsExponent) {

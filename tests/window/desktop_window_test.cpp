@@ -113,7 +113,8 @@ class Desktop : public testing::Test {
   }
 
   support::RecordingPorts around;
-  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+  ui::Application application{
+      {around.box, around.dialog, around.clock, around.printer, around.tables}};
 };
 
 TEST_F(Desktop, TheWindowStandsWithinTheScreenWithItsFrame) {

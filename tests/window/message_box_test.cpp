@@ -100,6 +100,21 @@ TEST(MessageBox, AQuestionKeepsItsTextAndTellsTheRestBelow) {
            });
 }
 
+TEST(MessageBox, ShowsAListThatIsLongerThanTheScreenInItsScrollingPart) {
+  std::string list = "Nothing was pasted. Not understood:";
+  for (int i = 1; i <= 300; ++i) list += "\rLine " + std::to_string(i) + " is empty.";
+  list += "\rThe hint.";
+  AnswerTo(Qt::Key_Escape, {list, "title"}, [](const QMessageBox& box) {
+    EXPECT_TRUE(box.text().endsWith("Line 13 is empty.\n\u2026")) << box.text().toStdString();
+    EXPECT_TRUE(box.detailedText().contains("\nLine 300 is empty.\nThe hint."));
+    EXPECT_LT(box.height(), 700);
+  });
+  AnswerTo(Qt::Key_Escape, {"one\rtwo", "title"}, [](const QMessageBox& box) {
+    EXPECT_EQ(box.text(), "one\ntwo");
+    EXPECT_TRUE(box.detailedText().isEmpty());
+  });
+}
+
 TEST(MessageBox, EnterIsTheDefaultAnswer) {
   for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel})
     EXPECT_EQ(AnswerTo(Qt::Key_Return, Buttons::YesNoCancel, answer), answer);

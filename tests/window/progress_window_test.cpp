@@ -75,7 +75,8 @@ class ProgressWindow : public testing::Test {
 
   Painter painter;
   support::RecordingPorts around;
-  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+  ui::Application application{
+      {around.box, around.dialog, around.clock, around.printer, around.tables}};
 };
 
 }  // namespace

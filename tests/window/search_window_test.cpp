@@ -74,7 +74,8 @@ class ComplianceWindow : public testing::Test {
   }
 
   support::RecordingPorts around;
-  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+  ui::Application application{
+      {around.box, around.dialog, around.clock, around.printer, around.tables}};
 };
 
 // Each text of `wanted` comes in `seen`, in this order.

@@ -62,7 +62,8 @@ class Registers : public testing::Test {
   }
 
   support::RecordingPorts around;
-  ui::Application application{{around.box, around.dialog, around.clock, around.printer}};
+  ui::Application application{
+      {around.box, around.dialog, around.clock, around.printer, around.tables}};
 };
 
 }  // namespace
