@@ -58,10 +58,10 @@ class Object:
         box = self.accessible.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         return box.x, box.y, box.width, box.height
 
-    @cached_property
+    @property
     def key(self):
-        """The same for the same thing, whenever it was met."""
-        return self.role, self.name, self.place
+        """The same for the same thing, whenever and wherever it was met."""
+        return self.accessible
 
     @property
     def spoken(self):
