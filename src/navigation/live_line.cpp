@@ -105,8 +105,9 @@ LiveText LiveLine(const Record& record, ScreenId screen) {
   const ExposureSession& s = record.Now();
   Sentences line;
   line.Add(Action(record, screen));
-  if (screen == Basis || screen == DataCtrl) line.Add(MissingRows(s));
-  line.Add(NoTabs(s, screen));
+  const std::string noTabs = NoTabs(s, screen);
+  line.Add(noTabs);
+  if (screen == DataCtrl || (screen == Basis && noTabs.empty())) line.Add(MissingRows(s));
   line.Add(LeftOut(s));
   line.Add(NoEstimates(s));
   const std::string outside = ShowsResults(screen) ? OutsideRange(s) : std::string();

@@ -1,24 +1,11 @@
-#include "ui/main_window.h"
+#include "ui/main_window_parts.h"
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QMenuBar>
-#include <QPointer>
 #include <QScreen>
-#include <QSessionManager>
-#include <QStackedWidget>
 #include <QStyle>
 #include <QVBoxLayout>
-#include <QWindow>
 
-#include <vector>
-
-#include "ui/event_gate.h"
-#include "ui/focus_watch.h"
-#include "ui/form_binder.h"
-#include "ui/side_view.h"
-#include "ui/strip_view.h"
-#include "ui/tab_walk.h"
 #include "ui/text.h"
 #include "ui/window_place.h"
 
@@ -29,41 +16,6 @@ namespace {
 constexpr QSize kSize(800, 613);
 
 }  // namespace
-
-class MainWindow::Private {
- public:
-  Private(MainWindow& window, start::Program& program, screen::Ports& ports);
-
-  FormBinder* BinderOf(const screen::Form& form) const;
-  screen::Control* ControlOf(QWidget* widget) const;
-  void Add(screen::Form& form);
-  void FocusNewPage(QWidget* before);
-  void ShowPage(FormBinder* binder, QWidget* focus);
-  void Push();
-  bool RepaintSide(const screen::Form& form);
-  void Settle();
-  void End();
-  void Choose(const QString& key);
-  void PlaceFocus();
-  void PushPointer(bool busy);
-
-  MainWindow& window_;
-  start::Program& program_;
-  EventGate gate_;
-  FocusWatch focus_;
-  StripView* strip_;
-  TabWalk walk_;
-  QStackedWidget* pages_;
-  std::vector<std::unique_ptr<FormBinder>> binders_;
-  std::vector<SideView*> sides_;  // the window owns them
-  const FormBinder* shownPage_ = nullptr;
-  QPointer<QWidget> beforeDetour_;
-  bool onDetour_ = false;
-  bool pointerBusy_ = false;
-  bool ending_ = false;
-  bool placed_ = false;  // within its frame
-  Pace pace_;            // of the steps since the whole window was last brought up to date
-};
 
 MainWindow::Private::Private(MainWindow& window, start::Program& program, screen::Ports& ports)
     : window_(window),
@@ -256,73 +208,5 @@ QAction* MainWindow::ActionOf(const screen::Form& form, const screen::Control& c
 Pace& MainWindow::StepPace() { return private_->pace_; }
 
 QTabBar* MainWindow::Strip() const { return private_->strip_; }
-
-// The desktop may turn dark, or its letters large, while the program runs.
-// A key that nobody has taken may be the shortcut of an item that is closed: it says why.
-void MainWindow::keyPressEvent(QKeyEvent* event) {
-  const FormBinder* binder = private_->BinderOf(private_->program_.Shown());
-  const screen::Handler* refused = binder ? binder->RefusedBy(*event) : nullptr;
-  if (!refused) {
-    QMainWindow::keyPressEvent(event);
-    return;
-  }
-  private_->gate_.RunLate();
-  private_->focus_.Follow();
-  private_->gate_.Run(*refused);
-}
-
-void MainWindow::changeEvent(QEvent* event) {
-  QMainWindow::changeEvent(event);
-  for (const auto& binder : private_->binders_) {
-    if (event->type() == QEvent::PaletteChange) binder->PaletteChanged();
-    if (event->type() == QEvent::FontChange) binder->FontChanged();
-  }
-}
-
-void MainWindow::showEvent(QShowEvent* event) {
-  QMainWindow::showEvent(event);
-  if (!private_->placed_) windowHandle()->installEventFilter(this);
-}
-
-// Exposed for the first time, the window has its frame.
-bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == windowHandle() && event->type() == QEvent::Expose && !private_->placed_) {
-    private_->placed_ = true;
-    QMetaObject::invokeMethod(this, &MainWindow::KeepOnScreen, Qt::QueuedConnection);
-  }
-  return QMainWindow::eventFilter(watched, event);
-}
-
-void MainWindow::KeepOnScreen() {
-  const QRect available = screen()->availableGeometry();
-  const QMargins frame = windowHandle()->frameMargins();
-  if (isMaximized() || isFullScreen() || available.contains(geometry().marginsAdded(frame))) return;
-  setGeometry(ContentPlace(size(), available, frame));
-}
-
-bool MainWindow::MayEnd() {
-  start::Program& program = private_->program_;
-  bool mayEnd = program.EndRequested();
-  if (!mayEnd) private_->gate_.Run([&] { mayEnd = program.MayUnload(); });
-  return mayEnd;
-}
-
-// A picture stands in place of a screen, and its close button means the picture.
-void MainWindow::closeEvent(QCloseEvent* event) {
-  start::Program& program = private_->program_;
-  if (program.ShowsPicture() && !program.EndRequested()) {
-    private_->gate_.Run([&] { program.ClosePicture(); });
-    event->ignore();
-    return;
-  }
-  event->setAccepted(MayEnd());
-}
-
-// The toolkit closes no window by itself when the desktop ends the session.
-void MainWindow::EndSession(QSessionManager& session) {
-  if (!session.allowsInteraction()) return;
-  if (!MayEnd()) session.cancel();
-  session.release();
-}
 
 }  // namespace ui

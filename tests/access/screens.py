@@ -7,8 +7,10 @@ SCREENS = [
         "click DesOpt", "type NameTxB press", "type SampSizTxB 12", "type GMTxB 1",
         "type GSDTxB 2"]),
     ("start, to be modified", ["click OriModiCmd"]),
-    ("start, a new series", ["menu Menuclose", "menu MenuNewVkrFil", "type NameTxB weld"]),
-    ("raw data", ["menu Menuclose", "file welding_fume.vkr", "menu menuopen"]),
+    ("start, a new series", [
+        "answer yes", "menu Menuclose", "menu MenuNewVkrFil", "type NameTxB weld"]),
+    ("raw data", [
+        "answer yes", "menu Menuclose", "file welding_fume.vkr", "menu menuopen"]),
     ("raw data, detection range", ["click DetecChB", "type DetecLTxb 0.7"]),
     ("limits", ["tab grenzen", "type VkrValTxB 5"]),
     ("descriptive statistics, detection range", ["tab descript"]),

@@ -206,7 +206,7 @@ TEST(TheStartScreen, TellsWhyItHasNoTabs) {
   Record record;
   Give(record, {1, 1000, 1E7});
   record.StatusFlags();
-  EXPECT_THAT(LiveLine(record, Basis).text, testing::HasSubstr("There are no tabs here: GSD 3162"));
+  EXPECT_THAT(LiveLine(record, Basis).text, testing::HasSubstr("There are no tabs here: GSD 3250"));
   EXPECT_EQ(LiveLine(record, Plot).text, "");
 }
 

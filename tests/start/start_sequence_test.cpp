@@ -71,14 +71,14 @@ TEST(Start, TheVersionTextNamesThreeNumbersAndEndsInTwoBlanks) {
   EXPECT_THAT(user.program.Title(), testing::HasSubstr(LoadResString(3)));
 }
 
+// Those of the raw data and of the plot stand in their layouts.
 TEST(Start, EveryScreenHasATitleInFrontOfTheNameOfTheSeries) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4, 8});
   const std::string name = " - " + user.Record().Name;
   for (const navigation::ScreenId screen :
-       {navigation::ScreenId::Basis, navigation::ScreenId::DataCtrl, navigation::ScreenId::Grenzen,
-        navigation::ScreenId::Descript, navigation::ScreenId::Plot, navigation::ScreenId::PercEx,
-        navigation::ScreenId::UCL, navigation::ScreenId::TwoSamp}) {
+       {navigation::ScreenId::Basis, navigation::ScreenId::Grenzen, navigation::ScreenId::Descript,
+        navigation::ScreenId::PercEx, navigation::ScreenId::UCL, navigation::ScreenId::TwoSamp}) {
     user.program.Open(screen);
     EXPECT_GT(user.program.Title().size(), name.size()) << user.Shown().name;
     EXPECT_FALSE(user.program.Title().starts_with(" - ")) << user.Shown().name;
