@@ -90,6 +90,7 @@ struct DataCtrlForm final : navigation::SessionForm {
   bool WriteCell(int row, int column, const std::string& text);
   bool AddRow(const std::string& text);
   void DeleteRows(const std::vector<int>& selected);
+  void CutBeyond(const std::vector<int>& selected);
   void CommitRow();
 
   // data_ctrl_paste.cpp

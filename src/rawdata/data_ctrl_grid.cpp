@@ -79,6 +79,7 @@ bool DataCtrlForm::HasRoomFor(int rows) {
   return false;
 }
 
+// The value that stands there already, in whatever notation, is no edit.
 bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
   if (column != kConcentration || row < 0 || row >= DBGridVkr.rowCount) return false;
   const double value = GlobalBAS::ReadNumber(text);
@@ -86,10 +87,13 @@ bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
   const std::string number = GlobalBAS::GeneralText(row + 1);
   const std::string words = value > 0 ? OwnText(Own::StepTyped, {ShownTrimmed(value), number})
                                       : OwnText(Own::StepEmptied, {number});
-  EditRows(words, [&](Given& given) {
-    CutSeries(given);
-    given.C[static_cast<std::size_t>(row) + 1] = value;
-  });
+  const std::size_t place = static_cast<std::size_t>(row) + 1;
+  if (session.C[place] != value) {
+    EditRows(words, [&](Given& given) {
+      CutSeries(given);
+      given.C[place] = value;
+    });
+  }
   TellEntry(row, value, text);
   return true;
 }
@@ -121,12 +125,13 @@ bool DataCtrlForm::AddRow(const std::string& text) {
 }
 
 // The cursor goes to what has moved up into the place of the first deleted row. Where nothing may
-// go, what lies beyond the sample size does.
+// go, the estimates in force stay: no outcome of the series is another one.
 void DataCtrlForm::DeleteRows(const std::vector<int>& selected) {
   const std::vector<int> rows = RowsToDelete(selected, SampleCount(session));
+  if (rows.empty()) return CutBeyond(selected);
   const int count = static_cast<int>(rows.size());
   const std::string number = GlobalBAS::GeneralText(count == 1 ? rows.front() + 1 : count);
-  if (count > 0) DBGridVkr.GoTo(std::min(rows.front(), SampleCount(session) - count - 1));
+  DBGridVkr.GoTo(std::min(rows.front(), SampleCount(session) - count - 1));
   EditRows(OwnText(count == 1 ? Own::StepDeletedOne : Own::StepDeleted, {number}),
            [&](Given& given) {
              CutSeries(given);
@@ -134,7 +139,18 @@ void DataCtrlForm::DeleteRows(const std::vector<int>& selected) {
                given.C.erase(given.C.begin() + 1 + *row);
              given.M -= count;
            });
-  if (count > 0) Report({.did = Did::Deleted, .count = static_cast<double>(count)});
+  Report({.did = Did::Deleted, .count = static_cast<double>(count)});
+}
+
+// Of two rows none goes, but what lies beyond the sample size does. The empty line is no row.
+void DataCtrlForm::CutBeyond(const std::vector<int>& selected) {
+  const int count = SampleCount(session);
+  const auto isRow = [count](int row) { return row >= 0 && row < count; };
+  if (std::none_of(selected.begin(), selected.end(), isRow)) return;
+  Edit(OwnText(Own::StepDeleted, {GlobalBAS::GeneralText(0)}), [this] {
+    record.Change(CutSeries);
+    Rebind();
+  });
 }
 
 void DataCtrlForm::EditRows(const std::string& words, const std::function<void(Given&)>& change) {

@@ -97,6 +97,30 @@ TEST(Grid, TheBordersOfTheValuesAreTaken) {
   }
 }
 
+// A range is laid over the four, three of them are the sample, and the whole sample's degrees of
+// freedom are in force.
+GivenSeries ThreeOfFour(ProgramSession& user) {
+  user.OpenSeries({1, 2, 4, 8});
+  user.Click("DetecChB");
+  user.Type("DetecLTxb", "1.5");
+  user.Tab("basis");
+  user.Type("SampSizTxB", "3");
+  user.Tab("raw");
+  return user.Record();
+}
+
+TEST(Grid, TheSameValueInAnotherNotationIsNoEdit) {
+  ProgramSession user;
+  const GivenSeries before = ThreeOfFour(user);
+  ASSERT_EQ(before.C.size(), 5u);
+  for (const char* entry : {"2.0", "2,0", "+0.2E1", " 2 "}) {
+    SCOPED_TRACE(entry);
+    EXPECT_TRUE(GridOf(user).Write(1, 2, entry));
+    EXPECT_TRUE(before == user.Record());
+    EXPECT_EQ(user.Text("MenuUndo"), "&Undo sample size 3");
+  }
+}
+
 TEST(AddedRow, JoinsTheSeriesInItsOrder) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4});
@@ -166,6 +190,14 @@ TEST(DeletedRow, OnTheEmptyLineNoneGoes) {
   user.Click("MenuAddRow");
   user.Click("MenuDeleteRow");
   EXPECT_EQ(user.Record().M, 3);
+}
+
+TEST(DeletedRow, OnTheEmptyLineLeavesTheEstimatesInForce) {
+  ProgramSession user;
+  const GivenSeries before = ThreeOfFour(user);
+  user.Click("MenuAddRow");
+  user.Click("MenuDeleteRow");
+  EXPECT_TRUE(before == user.Record());
 }
 
 TEST(DeletedRow, AnUnfilledOneCompletesTheSeries) {

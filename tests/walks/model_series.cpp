@@ -162,10 +162,11 @@ void Model::SetCell(int row, const std::string& text, int count) {
   if (row == count + 1) return Append(text, count);
   const double value = TypedNumber(text);
   if (!Accepted(value)) return;
+  // The value that the cell has already, in whatever notation, is no edit.
+  if (outcomes_[At(row - 1)] == value) return;
   outcomes_.resize(At(count));
-  // A cell that is left with the value that it had is not edited.
-  edited_ = outcomes_[At(row - 1)] != value;
   outcomes_[At(row - 1)] = value;
+  edited_ = true;
 }
 
 // The empty line behind the last row takes no empty text.
@@ -179,6 +180,7 @@ void Model::Append(const std::string& text, int count) {
 
 // From the last row up, until two are left; what lies beyond them goes as with every edit.
 void Model::Delete(const std::vector<int>& rows, int count) {
+  if (std::ranges::none_of(rows, [count](int row) { return row < count; })) return;
   outcomes_.resize(At(count));
   for (auto row = rows.rbegin(); row != rows.rend() && outcomes_.size() > 2; ++row) {
     if (*row >= count) continue;
