@@ -72,13 +72,21 @@ void MainWindow::Private::FocusNewPage(QWidget* before) {
   }
 }
 
-// The bar knows an item's access key for as long as the item stands in it, hidden or not: so it
-// holds those of the shown screen only.
+// The bar knows an item's access key for as long as the item stands in it, hidden or not, and goes
+// on holding the keys behind one that opens nothing: so it has only what is to be seen.
+void MainWindow::Private::PushBar() {
+  if (!shownPage_) return;
+  QList<QAction*> shown;
+  for (QAction* item : shownPage_->BarItems())
+    if (item->isVisible()) shown.append(item);
+  if (window_.menuBar()->actions() == shown) return;
+  window_.menuBar()->clear();
+  window_.menuBar()->addActions(shown);
+}
+
 void MainWindow::Private::ShowPage(FormBinder* binder, QWidget* focus) {
   if (!binder || binder == shownPage_) return;
   shownPage_ = binder;
-  window_.menuBar()->clear();
-  for (QAction* item : binder->BarItems()) window_.menuBar()->addAction(item);
   pages_->setCurrentWidget(binder->Frame());
   FocusNewPage(focus);
 }
@@ -92,6 +100,7 @@ void MainWindow::Private::Push() {
   for (SideView* side : sides_) side->Push();
   strip_->Push(shown.strip);
   ShowPage(BinderOf(shown), before);
+  PushBar();
   window_.setWindowTitle(Shown(program_.Title()) + QLatin1String("[*]"));
   window_.setWindowModified(program_.Unsaved());
   PushPointer(shown.busyPointer);

@@ -26,6 +26,7 @@ class MainWindow::Private {
   void Add(screen::Form& form);
   void FocusNewPage(QWidget* before);
   void ShowPage(FormBinder* binder, QWidget* focus);
+  void PushBar();
   void Push();
   bool RepaintSide(const screen::Form& form);
   void Settle();
