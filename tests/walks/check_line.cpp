@@ -44,11 +44,12 @@ void CheckEmptyRows(const View& view) {
                                              : "rows are empty, but: " + Line(view));
 }
 
-std::size_t Outside(const View& view) {
+// Below and above the range in force; where a limit was refused, that is not the one which the
+// limits mark.
+int Outside(const View& view) {
   const Seen& now = view.Now();
   if (!now.DetecOn || now.Mode != "R" || !view.model.Complete()) return 0;
-  return static_cast<std::size_t>(std::ranges::count_if(
-      view.model.Series(), [&now](double c) { return c < now.LOQ || c >= now.URR; }));
+  return now.FirstInRange - 1 + now.Count() - now.LastInRange;
 }
 
 void CheckBand(const View& view) {
@@ -56,11 +57,10 @@ void CheckBand(const View& view) {
   constexpr std::array kResults = {"DescriptForm", "PercExForm", "UCLForm", "TwoSampCompForm"};
   const bool results = std::ranges::find(kResults, now.form) != kResults.end();
   const bool ofAll = view.model.Known() && !now.RegressionOn && !now.ModifyMode;
-  const std::size_t outside = results && ofAll ? Outside(view) : 0;
+  const int outside = results && ofAll ? Outside(view) : 0;
   if (view.page.Control("StatusLbl").colour.has_value() != (outside > 0))
-    view.Wrong("line-band",
-               Word(static_cast<double>(outside)) + " lie outside, but: " + Line(view));
-  if (outside > 1) Must(view, true, Word(static_cast<double>(outside)) + " outcomes lie outside");
+    view.Wrong("line-band", Word(outside) + " lie outside, but: " + Line(view));
+  if (outside > 1) Must(view, true, Word(outside) + " outcomes lie outside");
 }
 
 void CheckConfidence(const View& view) {
