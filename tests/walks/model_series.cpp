@@ -208,8 +208,8 @@ double Model::ExpectedSize(const Scene& scene) const {
     if (Blank(text) || !std::isfinite(typed)) return old;
     return std::trunc(typed + 0.0001) == typed ? typed : std::trunc(typed);
   }
-  if (const int direction = scene.Stepped("SampSizTxB"); direction != 0)
-    return std::clamp(old + direction, 2.0, 1.0 * kMost);
+  const int direction = scene.On("BasisForm") ? scene.Stepped("SampSizTxB") : 0;
+  if (direction != 0) return std::clamp(old + direction, 2.0, 1.0 * kMost);
   if (scene.after.ModifyMode && !scene.before.ModifyMode) return scene.before.df + 1;
   if (!scene.after.ModifyMode && scene.before.ModifyMode) return MBeforeModify_;
   return edited_ ? static_cast<double>(outcomes_.size()) : old;
