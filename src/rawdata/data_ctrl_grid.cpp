@@ -50,7 +50,10 @@ std::vector<double> DataCtrlForm::Outcomes() const {
 
 std::string DataCtrlForm::CellText(int row, int column) {
   if (row < 0 || row >= DBGridVkr.rowCount || column < 0 || column > 3) return "-9999";
-  const double value = session.C[static_cast<std::size_t>(row) + 1];
+  // A view may ask while the series is a shorter one already and its rows are still to follow.
+  const std::size_t place = static_cast<std::size_t>(row) + 1;
+  if (place >= session.C.size()) return "-9999";
+  const double value = session.C[place];
   std::string text = session.Unit;
   if (column == kNumber) text = Shown(row + 1);
   if (column == kOperator) text = OperatorOf(value);

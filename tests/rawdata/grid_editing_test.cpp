@@ -97,6 +97,17 @@ TEST(Grid, TheBordersOfTheValuesAreTaken) {
   }
 }
 
+// The series gets shorter on another screen, and a view of the table asks before the table is told.
+TEST(Grid, ARowThatTheSeriesHasNoMoreIsNoRow) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4, 8});
+  auto& grid = static_cast<screen::Grid&>(user.At("DBGridVkr"));
+  user.Tab("basis");
+  user.Record().C.resize(3);
+  EXPECT_EQ(grid.Cell(3, 2), "-9999");
+  EXPECT_EQ(GlobalBAS::Trim(grid.Cell(1, 2)), "2");
+}
+
 // A range is laid over the four, three of them are the sample, and the whole sample's degrees of
 // freedom are in force.
 GivenSeries ThreeOfFour(ProgramSession& user) {
