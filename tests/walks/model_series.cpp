@@ -47,7 +47,8 @@ void CheckChoice(const Scene& scene) {
                     scene.after.GM == 0 && !scene.before.Name.empty() && scene.before.M != 0;
   if (gone && questions == 0)
     scene.findings.Add("series", "typed statistics are gone without a question");
-  const bool chosen = scene.after.Mode != scene.before.Mode;
+  // The way round the tabs comes to the raw data, which closes a series that has no range to fit.
+  const bool chosen = scene.after.Mode != scene.before.Mode && !scene.after.Mode.empty();
   if (start && chosen && scene.step.Command() == "key" && !scene.OptionPressed())
     scene.findings.Add("series", scene.step.Rest() + " chooses the other kind of data");
 }
