@@ -62,7 +62,7 @@ TEST(TabStrip, AnUnfilledTableOffersTheLimitsButNoStatistics) {
   user.Record().OELV.reset();
   user.Click("CmdContinu");
   user.Record().OELV.reset();
-  static_cast<screen::Grid&>(user.At("DBGridVkr")).Write(0, 2, "");
+  static_cast<screen::Grid&>(user.At("DBGridVkr")).Write(0, 2, "5");
   EXPECT_THAT(user.TabKeys(), ElementsAre("basis", "raw", "grenzen"));
   EXPECT_FALSE(user.At("MenuPlot").visible);
 }
