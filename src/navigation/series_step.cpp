@@ -34,7 +34,9 @@ bool SeriesStep::Absorb(const screen::Step& next) {
   return true;
 }
 
+// A movement whose first places have changed nothing has no step yet that it could go on with.
 void Steps::Done(const std::string& words, GivenSeries before, bool goesOn) {
+  moving_ = goesOn && moving_;
   const ExposureSession& now = record_.Now();
   if (now.Mode != DataMode::Raw || now.ModifyMode) return;
   if (refused_) before = *std::exchange(refused_, std::nullopt);
@@ -47,12 +49,14 @@ void Steps::Done(const std::string& words, GivenSeries before, bool goesOn) {
   const bool stands = last_ && *last_ == before;
   SeriesBefore from = stands ? last_ : std::make_shared<const GivenSeries>(std::move(before));
   last_ = std::make_shared<const GivenSeries>(series);
-  history_.Push(std::make_unique<SeriesStep>(record_, words, std::move(from), last_, goesOn));
+  history_.Push(std::make_unique<SeriesStep>(record_, words, std::move(from), last_, moving_));
+  moving_ = true;
 }
 
 bool Steps::Undo() {
   if (ToUndo().empty()) return false;
   refused_.reset();
+  moving_ = false;
   history_.Undo();
   return true;
 }
@@ -60,6 +64,7 @@ bool Steps::Undo() {
 bool Steps::Redo() {
   if (ToRedo().empty()) return false;
   refused_.reset();
+  moving_ = false;
   history_.Redo();
   return true;
 }
@@ -68,6 +73,7 @@ void Steps::Forget() {
   history_.Clear();
   last_.reset();
   refused_.reset();
+  moving_ = false;
 }
 
 std::string Steps::ToUndo() const { return Closed() ? std::string() : history_.ToUndo(); }

@@ -62,6 +62,7 @@ class Steps {
   screen::History& history_;
   SeriesBefore last_;                   // as the last step has left it
   std::optional<GivenSeries> refused_;  // what stood before a sample size that is none
+  bool moving_ = false;                 // the present movement of a bar has its step
 };
 
 }  // namespace navigation

@@ -306,6 +306,19 @@ TEST(UndoOnThePlot, ADragIsOneStep) {
   EXPECT_TRUE(Standing(user) == after) << "a new movement is a new step";
 }
 
+TEST(UndoOnThePlot, ADragThatAtFirstChangesNothingIsAStepOfItsOwn) {
+  ProgramSession user;
+  ToPlot(user);
+  user.Click("MenuLowLim");
+  Move(user, "VScLowLimit", 80);
+  const GivenSeries before = Standing(user);
+  Move(user, "VScLowLimit", 80);
+  for (int place : {60, 55}) Move(user, "VScLowLimit", place, true);
+  ASSERT_FALSE(Standing(user) == before);
+  user.Click("MenuUndo");
+  EXPECT_TRUE(Standing(user) == before);
+}
+
 TEST(UndoOnThePlot, AClickOfTheMouseIsOneStep) {
   ProgramSession user;
   ToPlot(user);
