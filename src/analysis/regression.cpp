@@ -6,6 +6,7 @@
 #include "analysis/rankits.h"
 #include "base/fault.h"
 #include "catalog/catalog.h"
+#include "session/derivation.h"
 #include "session/global_bas.h"
 
 namespace analysis {
@@ -33,12 +34,6 @@ void AddPoint(RegressionSums& sums, double z, double y, double x) {
   sums.SY = Checked(sums.SY + y);
   sums.SZX = Checked(sums.SZX + z * x);
   sums.SX = Checked(sums.SX + x);
-}
-
-std::string CensoringWord(const ExposureSession& s) {
-  const int ends = (s.FirstInRange > 1 ? 1 : 0) + (s.LastInRange < SampleCount(s) ? 1 : 0);
-  constexpr int kWords[] = {1757, 1754, 1752};
-  return LoadResString(kWords[ends]);
 }
 
 // Whether a line can be laid at all.
@@ -132,7 +127,7 @@ RegressionSums SumsOverRange(const ExposureSession& s, const FitState& state) {
 Regression FitLine(const ExposureSession& s, FitState& state) {
   Regression fit;
   fit.NInRange = static_cast<std::int16_t>(s.LastInRange - s.FirstInRange + 1);
-  fit.RegressionLabel = CensoringWord(s) + " " + LoadResString(1758);
+  fit.RegressionLabel = CensoringLabel(s);
   fit.line = HasLine(s, state, fit.NInRange);
   if (fit.line) {
     fit.sums = SumsOverRange(s, state);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalog/catalog.h"
 #include "session/global_bas.h"
 #include "session/limit_checks.h"
 #include "session/moments.h"
@@ -104,6 +105,14 @@ int SeriesCount(const Given& given) { return SampleCount(SeriesM(given)); }
 
 const std::string& SeriesName(const Given& given) {
   return given.original ? given.original->Name : given.Name;
+}
+
+std::string CensoringLabel(const Given& given) {
+  constexpr int kWords[] = {1757, 1754, 1752};
+  constexpr int kCensored = 1758;
+  const int ends =
+      (given.FirstInRange > 1 ? 1 : 0) + (given.LastInRange < SeriesCount(given) ? 1 : 0);
+  return LoadResString(kWords[ends]) + " " + LoadResString(kCensored);
 }
 
 bool CompleteSeries(const Given& given) {

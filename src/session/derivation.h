@@ -17,5 +17,7 @@ bool CompleteSeries(const Given& given);
 
 // The number of outcomes of the series itself, also while another M is tried on top of it.
 int SeriesCount(const Given& given);
+// How many ends of the series the range cuts off, in words: "Single censored".
+std::string CensoringLabel(const Given& given);
 // Its name, which Modify sets aside for another.
 const std::string& SeriesName(const Given& given);

@@ -111,6 +111,7 @@ void Record::Take(Given given, Derived derived) {
   static_cast<Given&>(now_) = std::move(given);
   static_cast<Derived&>(now_) = std::move(derived);
   if (BasisOf(now_) != basis) static_cast<Computed&>(now_) = {};
+  if (now_.RegressionOn) now_.RegressionLabel = CensoringLabel(now_);
   now_.IdentOk = GlobalBAS::Identified(now_);
   now_.DescOk = now_.IdentOk && GlobalBAS::EstimatesInRange(now_);
 }

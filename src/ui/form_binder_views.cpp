@@ -36,6 +36,8 @@ const screen::Handler* FormBinder::RefusedBy(const QKeyEvent& press) const {
 // which would stay pressed and go on scrolling.
 void FormBinder::ConnectBar(ControlView& view) {
   auto* bar = qobject_cast<QScrollBar*>(view.Widget());
+  // Each grip of the slide is a movement of its own.
+  connect(bar, &QScrollBar::sliderPressed, this, [&view] { view.Control().held = false; });
   connect(bar, &QScrollBar::valueChanged, this, [this, &view, bar](int value) {
     view.Scrolled(value);
     const auto isHeld = [bar] {

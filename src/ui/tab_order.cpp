@@ -25,6 +25,7 @@ std::vector<QLayoutItem*> ByRows(const QGridLayout& grid) {
   }
   std::sort(cells.begin(), cells.end());
   std::vector<QLayoutItem*> items;
+  items.reserve(cells.size());
   for (const auto& cell : cells) items.push_back(cell.second);
   return items;
 }
@@ -32,6 +33,7 @@ std::vector<QLayoutItem*> ByRows(const QGridLayout& grid) {
 std::vector<QLayoutItem*> InOrder(const QLayout& layout) {
   if (const auto* grid = qobject_cast<const QGridLayout*>(&layout)) return ByRows(*grid);
   std::vector<QLayoutItem*> items;
+  items.reserve(static_cast<std::size_t>(layout.count()));
   for (int i = 0; i < layout.count(); ++i) items.push_back(layout.itemAt(i));
   return items;
 }

@@ -27,7 +27,7 @@ QSize TitleFrame::minimumSizeHint() const {
   int widest = 0;
   for (const QString& word : title().split(QLatin1Char(' ')))
     widest = std::max(widest, fontMetrics().horizontalAdvance(word));
-  const QSize content = QWidget::minimumSizeHint();
+  const QSize content = layout() ? layout()->totalMinimumSize() : QSize();
   return {std::max(widest, content.width()), content.height()};
 }
 

@@ -355,6 +355,20 @@ TEST_F(TheRecord, ALineHoldsWhereTheRangesFewDegreesMakeAllOutcomesSpreadTooWide
   EXPECT_FALSE(s.noEstimates);
 }
 
+// Whichever way the line comes back: by a drawing, or by a step done again.
+TEST_F(TheRecord, ALineIsNamedByTheEndsOfItsRange) {
+  Series({1, 2, 4, 8, 16});
+  record.Flow().RegressionLabel = "Non censored";
+  record.Change([](Given& given) {
+    given.DetecOn = true;
+    given.FirstInRange = 2;
+    given.NInRange = 4;
+    given.regression = RegressionEstimates{3, 2.5};
+    given.inForce = Estimates::Regression;
+  });
+  EXPECT_EQ(s.RegressionLabel, "Single censored");
+}
+
 TEST_F(TheRecord, AFileThatWasRefusedIsNoSeries) {
   record.Change([](Given& given) {
     given.Mode = DataMode::Raw;
