@@ -129,6 +129,7 @@ struct Case {
 // Outcomes of many digits about `middle`.
 std::vector<double> About(double middle, int M, double spread) {
   std::vector<double> outcomes;
+  outcomes.reserve(static_cast<std::size_t>(M));
   for (int i = 0; i < M; ++i)
     outcomes.push_back(middle * std::pow(spread, 2.0 * i / (M - 1) - 1) * (1 + 0.01 * (i * 7 % 5)));
   std::ranges::sort(outcomes);
