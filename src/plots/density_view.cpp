@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "base/fault.h"
 #include "catalog/catalog.h"
@@ -96,7 +97,9 @@ std::optional<PictureNumbers> MeanNumbers(const Record& record) {
   n.of = PictureOf::Mean;
   n.window = exact ? "24a" : "24b";
   n.AMu = StatFWinBAS::FinneyMeanMVU(s.df, s.GM, s.GSD);
-  n.upperLimit = std::exp(result->UCL);
+  // Where the box of the limit is empty there is nothing to draw.
+  const bool shown = result->UCL < kLargestLogLimit;
+  n.upperLimit = shown ? std::exp(result->UCL) : std::numeric_limits<double>::infinity();
   n.limit = s.OELV;
   n.exceeded = result->A;
   n.explanation = LoadResString(exact ? 2431 : 2430);

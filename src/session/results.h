@@ -26,6 +26,9 @@ struct TestResult {
   std::string reason;  // what the user should know of this result; empty: nothing special
 };
 
+// A limit beyond exp of this is told as an exponent; its box stays empty.
+inline constexpr double kLargestLogLimit = 701;
+
 // Of a method for the mean.
 struct MeanResult {
   Extrapolation method = Extrapolation::None;

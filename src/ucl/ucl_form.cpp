@@ -11,7 +11,6 @@ using UCLBAS::LandSign;
 using UCLBAS::LandWatch;
 
 constexpr screen::Colour kGreen{0, 128, 0};
-constexpr double kLargestExponent = 701;  // exp of it is shown as a number no more
 
 std::string TwoLines(const std::string& cr, int first, int second) {
   return LoadResString(first) + cr + LoadResString(second);
@@ -139,13 +138,13 @@ void UCLForm::UCLResults() {
 }
 
 void UCLForm::ShowResult(const MeanResult& result) {
-  UCLTxB.text = result.UCL < kLargestExponent ? Shown(Exp(result.UCL)) : std::string();
+  UCLTxB.text = result.UCL < kLargestLogLimit ? Shown(Exp(result.UCL)) : std::string();
   const bool jahr = result.method == Extrapolation::Jahr;
   PercExTxB.text = jahr && result.A == 0 ? "    <1E-16" : Shown(result.A);
 }
 
 void UCLForm::TellLimitBeyondNumbers(double UCL) {
-  if (UCL >= kLargestExponent) Complain(LoadResString(2432) + Shown(UCL) + ").", "UCL");
+  if (UCL >= kLargestLogLimit) Complain(LoadResString(2432) + Shown(UCL) + ").", "UCL");
 }
 
 void UCLForm::BeginMethod(Extrapolation method, int methodName, const char* window) {
@@ -200,7 +199,7 @@ void UCLForm::SearchLand() {
       landHulp.Follow(now, sign);
       return;
     }
-    UCLTxB.text = now.UCL > kLargestExponent ? LoadResString(3447) : Shown(Exp(now.UCL));
+    UCLTxB.text = now.UCL > kLargestLogLimit ? LoadResString(3447) : Shown(Exp(now.UCL));
     UCLTxB.Refresh();
   };
   const ProgressWindow window(landHulp);
