@@ -18,7 +18,6 @@ using rawdata::PasteReading;
 using rawdata::PasteRefusal;
 using rawdata::Trouble;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 PasteReading Read(const std::string& text, const PasteAnswers& answers = {}) {
   return rawdata::ReadPasted(text, "mg/m3", answers);
@@ -153,13 +152,11 @@ TEST(Refusal, OfWordsAloneListsThem) {
 }
 
 TEST(Refusal, OfWhatANumberCouldBeginWith) {
-  for (const char* cell : {"2.7 ppm approx", "12,34.5", "1.23,4", "1 234",
-                           "1\xC2\xA0"
-                           "234",
-                           "1.5.2.7", "3 x", "1.234,5,6", "5 mg/m3 and more", "0.5*", "1,234,5",
-                           "\xE2\x88\x92"
-                           "4",
-                           "1..5"})
+  constexpr char kHardBlank[] = "1\u00A0234";
+  constexpr char kMinusSign[] = "\u22124";
+  for (const char* cell :
+       {"2.7 ppm approx", "12,34.5", "1.23,4", "1 234", kHardBlank, "1.5.2.7", "3 x", "1.234,5,6",
+        "5 mg/m3 and more", "0.5*", "1,234,5", kMinusSign, "1..5"})
     EXPECT_THAT(Troubles(std::string("2\n") + cell), testing::SizeIs(1)) << cell;
 }
 

@@ -335,6 +335,7 @@ TEST_F(TheRecord, ADerivedValueThatAScriptSetsHoldsUntilWhatItFollowsFromChanges
 // Of 1,000 outcomes with 3 in range all 1,000 squares are divided by 6.
 TEST_F(TheRecord, ALineHoldsWhereTheRangesFewDegreesMakeAllOutcomesSpreadTooWidely) {
   std::vector<double> outcomes;
+  outcomes.reserve(1000);
   for (int i = 0; i < 1000; ++i) outcomes.push_back(std::pow(1.01, i - 500));
   Series(outcomes);
   record.Change([](Given& given) {

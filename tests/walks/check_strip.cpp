@@ -85,7 +85,7 @@ ScreenId NextOpen(const ExposureSession& session, ScreenId from, bool back) {
   if (back) std::ranges::reverse(tabs);
   const auto here = std::ranges::find(tabs, from);
   if (here == tabs.end()) return from;
-  std::ranges::rotate(tabs, here);
+  std::rotate(tabs.begin(), here, tabs.end());
   const auto open = std::find_if(tabs.begin() + 1, tabs.end(), [&](ScreenId id) {
     return workflow::GateOpen(session, from, id);
   });
