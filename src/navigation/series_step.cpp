@@ -19,24 +19,25 @@ bool SameSeries(GivenSeries a, const GivenSeries& b) {
 }  // namespace
 
 SeriesStep::SeriesStep(Record& record, std::string words, SeriesBefore before, SeriesBefore after,
-                       bool goesOn)
+                       int movement)
     : record_(record),
       words_(std::move(words)),
       before_(std::move(before)),
       after_(std::move(after)),
-      goesOn_(goesOn) {}
+      movement_(movement) {}
 
 bool SeriesStep::Absorb(const screen::Step& next) {
   const auto* step = dynamic_cast<const SeriesStep*>(&next);
-  if (!step) return false;
+  if (!step || step->movement_ != movement_) return false;
   words_ = step->words_;
   after_ = step->after_;
   return true;
 }
 
-// A movement whose first places have changed nothing has no step yet that it could go on with.
+// A movement that has changed nothing yet, or is back where it began, has no step to go on with:
+// the one before it is not its own.
 void Steps::Done(const std::string& words, GivenSeries before, bool goesOn) {
-  moving_ = goesOn && moving_;
+  if (!goesOn) ++movement_;
   const ExposureSession& now = record_.Now();
   if (now.Mode != DataMode::Raw || now.ModifyMode) return;
   if (refused_) before = *std::exchange(refused_, std::nullopt);
@@ -49,14 +50,13 @@ void Steps::Done(const std::string& words, GivenSeries before, bool goesOn) {
   const bool stands = last_ && *last_ == before;
   SeriesBefore from = stands ? last_ : std::make_shared<const GivenSeries>(std::move(before));
   last_ = std::make_shared<const GivenSeries>(series);
-  history_.Push(std::make_unique<SeriesStep>(record_, words, std::move(from), last_, moving_));
-  moving_ = true;
+  history_.Push(std::make_unique<SeriesStep>(record_, words, std::move(from), last_, movement_));
 }
 
 bool Steps::Undo() {
   if (ToUndo().empty()) return false;
   refused_.reset();
-  moving_ = false;
+  ++movement_;
   history_.Undo();
   return true;
 }
@@ -64,7 +64,7 @@ bool Steps::Undo() {
 bool Steps::Redo() {
   if (ToRedo().empty()) return false;
   refused_.reset();
-  moving_ = false;
+  ++movement_;
   history_.Redo();
   return true;
 }
@@ -73,7 +73,7 @@ void Steps::Forget() {
   history_.Clear();
   last_.reset();
   refused_.reset();
-  moving_ = false;
+  ++movement_;
 }
 
 std::string Steps::ToUndo() const { return Closed() ? std::string() : history_.ToUndo(); }

@@ -15,14 +15,14 @@ using SeriesBefore = std::shared_ptr<const GivenSeries>;
 // and as it stands behind it. Neighbours share what stands between them.
 class SeriesStep final : public screen::Step {
  public:
-  // `goesOn`: with the movement of the step before, as the next place of a dragged bar.
+  // `movement`: of a dragged bar, whose places are one step; anything else is one of its own.
   SeriesStep(Record& record, std::string words, SeriesBefore before, SeriesBefore after,
-             bool goesOn);
+             int movement);
 
   const std::string& Words() const override { return words_; }
   void Undo() override { record_.Restore(*before_); }
   void Redo() override { record_.Restore(*after_); }
-  bool GoesOn() const override { return goesOn_; }
+  bool GoesOn() const override { return true; }  // if the step before is of its movement
   bool Absorb(const screen::Step& next) override;
   bool ChangesNothing() const override { return *before_ == *after_; }
   const GivenSeries& Before() const { return *before_; }
@@ -33,7 +33,7 @@ class SeriesStep final : public screen::Step {
   std::string words_;
   SeriesBefore before_;
   SeriesBefore after_;
-  bool goesOn_;
+  int movement_;
 };
 
 // The user's steps on the one record. What a screen calls an edit goes through here.
@@ -62,7 +62,7 @@ class Steps {
   screen::History& history_;
   SeriesBefore last_;                   // as the last step has left it
   std::optional<GivenSeries> refused_;  // what stood before a sample size that is none
-  bool moving_ = false;                 // the present movement of a bar has its step
+  int movement_ = 0;                    // of a bar; a step that moves nothing has one, too
 };
 
 }  // namespace navigation

@@ -372,6 +372,29 @@ TEST(UndoOfTheUnit, CountsOnTheLimitsScreenToo) {
   EXPECT_EQ(user.Text("DimCbo"), "mg/m3");
 }
 
+// A drag that comes back to where it began, and goes on, is a step behind the one before it.
+TEST(Steps, AMovementThatPassesItsBeginningStaysAStepOfItsOwn) {
+  support::PlainHistory history;
+  Record record;
+  navigation::Steps steps(record, history);
+  const auto set = [&](double outcome, bool goesOn) {
+    const GivenSeries before = record.Now();
+    record.Change([outcome](Given& given) {
+      given.Mode = DataMode::Raw;
+      given.M = 3;
+      given.C = {0, outcome, 2, 4};
+    });
+    steps.Done("step", before, goesOn);
+  };
+  set(1, false);
+  set(0.5, false);
+  for (const double place : {0.25, 0.5, 0.1}) set(place, place != 0.25);
+  ASSERT_TRUE(steps.Undo());
+  EXPECT_EQ(record.Now().C[1], 0.5);
+  ASSERT_TRUE(steps.Undo());
+  EXPECT_EQ(record.Now().C[1], 1);
+}
+
 // What stands between two steps is kept once.
 TEST(Steps, NeighboursShareWhatStandsBetweenThem) {
   support::PlainHistory history;
