@@ -22,14 +22,14 @@ void Require(bool holds) {
 struct Boxes {
   int count = 0;
   Notify Port() {
-    return [this](const std::string& text, const std::string&) {
+    return [this](const Complaint& complaint) {
       ++count;
-      Require(!text.empty());
+      Require(!complaint.text.empty());
     };
   }
 };
 
-using Validator = void (*)(ExposureSession&, const Entry&, double&, const Notify&);
+using Validator = void (*)(Workflow&, const Entry&, double&, const Notify&);
 
 struct Field {
   Validator check;
