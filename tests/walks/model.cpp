@@ -1,5 +1,7 @@
 #include "tests/walks/model.h"
 
+#include <algorithm>
+
 #include "drive/text.h"
 
 namespace walks {
@@ -44,6 +46,14 @@ bool Scene::Chosen(const std::string& menu) const {
 bool Scene::OptionPressed() const {
   const std::string key = step.Command() == "key" ? step.Rest() : "";
   return before.focus.ends_with("Opt") && (key == "Space" || key == "Return");
+}
+
+bool Scene::Closed() const {
+  using screen::Answer;
+  const bool kept = std::ranges::any_of(step.answers, [](Answer answer) {
+    return answer == Answer::No || answer == Answer::Cancel;
+  });
+  return Chosen("Menuclose") && !kept && after.M == 0 && after.Name.empty();
 }
 
 void Model::Advance(const Scene& scene) {

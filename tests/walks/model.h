@@ -40,6 +40,8 @@ struct Scene {
   bool StepsBack() const;
   // An option that has the focus is chosen by the keys that press it, and by no others.
   bool OptionPressed() const;
+  // All data are closed: asked about what would be lost, the user let it go.
+  bool Closed() const;
 };
 
 // The tolerance limit of the last test, and what it rests on.

@@ -98,7 +98,7 @@ void Model::FollowModify(const Scene& scene) {
     force_ = beforeModify_;
     typedGM_ = scene.after.Mode == "D" && scene.after.M > 0 ? resetTo_.GM : 0;
     typedGSD_ = scene.after.Mode == "D" && scene.after.M > 0 ? resetTo_.GSD : 0;
-  } else if (scene.after.Mode != scene.before.Mode || scene.Chosen("Menuclose")) {
+  } else if (scene.after.Mode != scene.before.Mode || scene.Closed()) {
     typedGM_ = scene.after.M == 0 ? 0 : typedGM_;
     typedGSD_ = scene.after.M == 0 ? 0 : typedGSD_;
   }

@@ -47,6 +47,16 @@ std::optional<double> TypedOELV(const std::string& text, const std::optional<dou
   return value == 0 ? 0 : std::clamp(value, 1E-10, 1E+10);
 }
 
+// A key that was meant for another field steps this one when what it holds is refused: the default
+// stands in it, and the focus stays.
+int LeftTo(const Scene& scene, const std::string& field) {
+  const std::string command = scene.step.Command();
+  const bool stayed = !scene.step.meant.empty() && scene.step.Rest() != field &&
+                      scene.before.focus == field && scene.after.focus == field;
+  if (!stayed) return 0;
+  return command == "up" ? 1 : command == "down" ? -1 : 0;
+}
+
 double TypedPercent(const std::string& text, double old) {
   if (Blank(text)) return old;
   const double value = TypedNumber(text);
@@ -142,6 +152,8 @@ void Model::AdvanceLimits(const Scene& scene) {
   if (scene.On("GrenzenForm") && scene.Typed("VkrValTxB", text)) given = TypedOELV(text, given);
   if (const int direction = scene.Stepped("VkrValTxB"); direction != 0)
     given = SteppedOELV(given, direction);
+  else if (const int other = LeftTo(scene, "VkrValTxB"); other != 0 && !ValidOELV(given))
+    given = SteppedOELV(kDefaultOELV, other);
   const bool standard = !ValidOELV(given) && after.OELV == kDefaultOELV;
   if (after.OELV != given && !standard)
     scene.findings.Add("limits", "OELV is " + Word(after.OELV.value_or(-1)) + ", given was " +

@@ -44,8 +44,7 @@ bool Model::FollowSteps(const Scene& scene) {
   const Seen& after = scene.after;
   const RawFile* file =
       scene.Chosen("menuopen") && scene.step.asked ? folder_.Find(scene.step.file) : nullptr;
-  const bool closed = after.M == 0 && after.Name.empty();
-  if ((file && file->accepted) || closed || after.Mode != before.Mode) steps_.Clear();
+  if ((file && file->accepted) || scene.Closed() || after.Mode != before.Mode) steps_.Clear();
   if (scene.StepsBack()) {
     const auto wanted = scene.step.Command() == "undo" ? steps_.Undo() : steps_.Redo();
     const std::string difference =
@@ -54,7 +53,7 @@ bool Model::FollowSteps(const Scene& scene) {
     outcomes_.assign(after.C.begin() + 1, after.C.end());
     return true;
   }
-  if (after.Mode == "R" && !after.ModifyMode && !before.ModifyMode && MayEdit(scene) && !closed)
+  if (after.Mode == "R" && !after.ModifyMode && !before.ModifyMode && MayEdit(scene))
     steps_.Did(Standing(before), Standing(after));
   return false;
 }

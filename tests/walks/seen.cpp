@@ -106,6 +106,8 @@ Seen Look(drive::Stage& stage) {
   seen.unsaved = stage.Program().Unsaved();
   const auto* table = stage.Program().FormByName("DataCtrlForm")->Find("DBGridVkr");
   seen.gridRows = static_cast<const screen::Grid*>(table)->selectedRows;
+  const screen::TabStrip* strip = stage.Shown().strip;
+  seen.strip = strip && strip->visible && !strip->tabs.empty();
   const Reader record(stage.Session());
   ReadTexts(record, seen);
   ReadFlags(record, seen);

@@ -20,6 +20,7 @@ struct Seen {
   bool IdentOk = false, DescOk = false, LimitsOk = false, RawIncomplete = false;
   bool ModifyMode = false, DetecOn = false, RegressionOn = false;
   bool unsaved = false;
+  bool strip = false;  // the shown screen has tabs and menus that lead to others
   int FirstInRange = 0, LastInRange = 0, NInRange = 0, SigDigits = 0;
   double M = 0, df = 0, LOQ = 0, URR = 0, GM = 0, GSD = 0;
   double U = 0, D = 0, GM2 = 0, GSD2 = 0, M2 = 0, AMu = 0;
