@@ -49,6 +49,13 @@ void BasisForm::LeaveName() {
   if (refused) SetFocus(NameTxB);
 }
 
+// A series without a name has that of its file now.
+void BasisForm::FollowSave(const LastAction* told) {
+  BasisStatus();
+  focusWanted = nullptr;
+  SessionForm::FollowSave(told);
+}
+
 void BasisForm::LeaveSampleSize() {
   const bool typed = SampSizTxB.touched;
   double M = session.M;

@@ -52,6 +52,7 @@ struct BasisForm final : navigation::SessionForm {
   void Load() override;
   void Activate() override;
   void BeforeLeavingFor(navigation::ScreenId target) override;
+  void FollowSave(const LastAction* told) override;
 
   // Shows the present state of the session: fields, messages, menus and tabs.
   void BasisStatus();

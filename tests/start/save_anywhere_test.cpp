@@ -48,6 +48,18 @@ TEST(SaveAnywhere, EveryScreenSavesTellsItAndShowsTheNewName) {
   }
 }
 
+TEST(SaveAnywhere, TheFilesNameBringsBackTheTabsOfASeriesThatHadNone) {
+  ProgramSession user;
+  OpenAndEdit(user);
+  user.Tab("basis");
+  user.Type("NameTxB", "");
+  ASSERT_FALSE(user.Shown().strip->visible);
+  user.dialog.answers = {support::WriteTemporary("saved.vkr", "")};
+  user.Click("MenuSave");
+  EXPECT_TRUE(user.Shown().strip->visible);
+  EXPECT_TRUE(user.Tab("descript"));
+}
+
 TEST(SaveAnywhere, AlsoFromThePictureWhichThenCarriesTheNewName) {
   ProgramSession user;
   OpenAndEdit(user);

@@ -60,13 +60,16 @@ bool Refused(const Scene& scene) {
   return !scene.step.boxes.empty() || (scene.On("GrenzenForm") && noLimit);
 }
 
+bool Plausible(const Seen& now) {
+  return now.GM >= 0.0001 && now.GM <= 10000 && now.GSD >= 1.001 && now.GSD <= 1000;
+}
+
 // A tab that is shown may be closed while there is nothing to calculate with, and, while other
 // values are tried, the ones to the series itself.
 bool MayBeClosed(const View& view, const Place& wanted) {
   const Seen& now = view.Now();
-  const bool plausible = now.GM >= 0.0001 && now.GM <= 10000 && now.GSD >= 1.001 && now.GSD <= 1000;
   const bool ofSeries = wanted.id == ScreenId::DataCtrl || wanted.id == ScreenId::Plot;
-  return !view.model.Known() || !plausible || (now.ModifyMode && ofSeries);
+  return !view.model.Known() || !Plausible(now) || (now.ModifyMode && ofSeries);
 }
 
 void CheckArrival(const View& view, const Place* wanted, const std::string& way) {
@@ -77,6 +80,12 @@ void CheckArrival(const View& view, const Place* wanted, const std::string& way)
   const bool open = workflow::GateOpen(view.page.Stage().Session(), from->id, wanted->id);
   if (stayed && !open && MayBeClosed(view, *wanted)) return;
   view.Wrong("ways", way + " leads from " + scene.before.form + " to " + scene.after.form);
+}
+
+// A named series of a size that can be, with its outcomes and estimates to calculate with.
+bool HasSeries(const Seen& now) {
+  return now.Mode == "R" && !now.ModifyMode && !now.Name.empty() && now.Count() > 0 &&
+         now.C.size() > static_cast<std::size_t>(now.Count()) && Plausible(now);
 }
 
 // The next tab whose gate is open, round the strip; the shown one where none is.
@@ -123,7 +132,7 @@ void CheckStrip(const View& view) {
   const screen::TabStrip& strip = *view.page.Stage().Shown().strip;
   const bool start = here->id == ScreenId::Basis;
   if (!strip.visible || strip.tabs.empty()) {
-    if (!start) view.Wrong("strip", view.Now().form + " has no strip");
+    if (!start || HasSeries(view.Now())) view.Wrong("strip", view.Now().form + " has no strip");
     return;
   }
   for (const Place& there : kPlaces) {
