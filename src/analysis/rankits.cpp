@@ -57,8 +57,7 @@ std::vector<double> RankitsForSampleSize(int M) {
     FillFromTable(R, M);
   } else {
     for (int i = 1; i <= M / 2; ++i) {
-      double S = TailArea(M, i);
-      R[At(i)] = StatFWinBAS::NormalUpperInverse(S);
+      R[At(i)] = StatFWinBAS::NormalUpperInverse(TailArea(M, i));
     }
   }
   return R;

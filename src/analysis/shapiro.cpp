@@ -29,8 +29,7 @@ double FillMedians(int M, std::vector<double>& m) {
   const double TH = Needed(Block::Royston).ShapiroTH;
   double S2 = 0;
   for (int i = 1; i <= M / 2; ++i) {
-    double p = Divide(i - TH, AN25);
-    m[At(i)] = -StatFWinBAS::NormalUpperInverse(p);
+    m[At(i)] = -StatFWinBAS::NormalUpperInverse(Divide(i - TH, AN25));
     S2 = Checked(S2 + m[At(i)] * m[At(i)]);
   }
   return Checked(2 * S2);

@@ -150,7 +150,7 @@ class FractionRun {
       metHalf_ = true;
       if (aboveHalf_) p = std::nextafter(kHalf, 1.0);
     }
-    return Checked(StatFWinBAS::NoncentralTUpper(double{s_.df}, double{p}, double{Ur_}) * 100);
+    return Checked(StatFWinBAS::NoncentralTUpper(s_.df, p, Ur_) * 100);
   }
 
   // A search that stands still would, with these confidences, come to its text in the hundredth
@@ -203,7 +203,7 @@ class FractionRun {
 
 double En689ConfidenceAt(double df, double u, double r) {
   const double p = 1 - u / 100;
-  return Checked(StatFWinBAS::NoncentralTUpper(double{df}, double{p}, double{r}) * 100);
+  return Checked(StatFWinBAS::NoncentralTUpper(df, p, r) * 100);
 }
 
 ToleranceSearch En689ToleranceLimit(const TestBasis& s, const En689Progress& progress) {
@@ -221,6 +221,11 @@ FractionSearch En689Fraction(const TestBasis& s, double Ur, const En689Progress&
 }
 
 bool En689Decides(double df) { return df > kDecisionAbove; }
+
+std::optional<bool> En689Complies(double df, double UTL, double OELV) {
+  if (!En689Decides(df)) return std::nullopt;
+  return UTL < OELV;
+}
 
 En689Result En689Calculation(const TestBasis& basis, double Ur, const En689Progress& progress,
                              const En689Confidence& found) {

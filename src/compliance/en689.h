@@ -68,6 +68,8 @@ FractionSearch En689Fraction(const TestBasis& basis, double Ur, const En689Progr
 
 // Whether the test decides at all: with df up to 4 it does not.
 bool En689Decides(double df);
+// Whether the tolerance limit UTL complies with OELV; absent where the test does not decide.
+std::optional<bool> En689Complies(double df, double UTL, double OELV);
 
 struct En689Result {
   double PercEx = 0;                     // the confidence in percent; only with a limit

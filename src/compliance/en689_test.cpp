@@ -77,7 +77,7 @@ TestResult En689Test(const TestBasis& basis, const TestRun& how) {
   result.fraction.value = found.fraction.u;
   if (found.fraction.text) result.fraction.text = found.fraction.text;
   const std::optional<double> UTL = JudgedLimit(found, how);
-  if (UTL && En689Decides(basis.df)) result.compliance = *UTL < basis.OELV.value_or(0);
+  if (UTL) result.compliance = En689Complies(basis.df, *UTL, basis.OELV.value_or(0));
   result.reason = Reason(basis, found, how);
   return result;
 }

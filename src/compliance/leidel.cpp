@@ -34,10 +34,7 @@ double LeidelExceedance(double Ur) { return Checked(StatFWinBAS::NormalUpper(Ur)
 
 bool LeidelComplies(double PercEx) { return PercEx < 5; }
 
-double LeidelDeviate(double U) {
-  double p = 1 - U / 100;
-  return Checked(StatFWinBAS::NormalUpperInverse(p));
-}
+double LeidelDeviate(double U) { return Checked(StatFWinBAS::NormalUpperInverse(1 - U / 100)); }
 
 double LeidelToleranceLimit(double GM, double GSD, double deviate) {
   return Checked(GM * Power(GSD, deviate));

@@ -28,8 +28,7 @@ En689OnRecord En689Test(ExposureSession& s, double Ur, const En689Progress& prog
 }
 
 std::optional<bool> En689Complies(const ExposureSession& s) {
-  if (!En689Decides(s.df)) return std::nullopt;
-  return s.UTL < s.OELV.value_or(0);
+  return En689Complies(s.df, s.UTL, s.OELV.value_or(0));
 }
 
 ToleranceSearch En689ToleranceLimit(const ExposureSession& s, const En689Progress& progress) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -73,29 +74,17 @@ struct Routine {
   std::vector<std::string> own = {};  // the record's fields that stand in for arguments left out
 };
 
-template <double (*F)(double&)>
-void OneByReference(Call& c) {
-  double& x = c.Ref(0);
-  c.Tell(F(x));
-  c.Tell(x);
+template <auto F, std::size_t... I>
+void CallWith(Call& c, std::index_sequence<I...>) {
+  const std::array<double*, sizeof...(I)> arguments = {&c.Ref(I)...};
+  c.Tell(F(*arguments[I]...));
+  for (const double* argument : arguments) c.Tell(*argument);
 }
-
-template <double (*F)(double&, double&)>
-void TwoByReference(Call& c) {
-  double& x = c.Ref(0);
-  double& y = c.Ref(1);
-  c.Tell(F(x, y));
-  c.Tell(x);
-  c.Tell(y);
-}
-
-template <double (*F)(double&, double&, double&)>
-void ThreeByReference(Call& c) {
-  double& x = c.Ref(0);
-  double& y = c.Ref(1);
-  double& z = c.Ref(2);
-  c.Tell(F(x, y, z));
-  for (const double argument : {x, y, z}) c.Tell(argument);
+// A routine on numbers: its value is told, and the arguments as they stand behind it; one that
+// takes them by reference may have changed them.
+template <auto F, std::size_t count>
+void OnNumbers(Call& c) {
+  CallWith<F>(c, std::make_index_sequence<count>());
 }
 
 template <void (*F)(ExposureSession&)>

@@ -7,13 +7,13 @@ namespace drive {
 
 const std::vector<Routine>& DistributionRoutines() {
   static const std::vector<Routine> routines = {
-      {"StudentUpper", 2, TwoByReference<StatFWinBAS::StudentUpper>},
-      {"StudentUpperInverse", 2, TwoByReference<StatFWinBAS::StudentUpperInverse>},
-      {"StudentUpperInverseSeries", 2, TwoByReference<StatFWinBAS::StudentUpperInverseSeries>},
-      {"NoncentralTUpper", 3, ThreeByReference<StatFWinBAS::NoncentralTUpper>},
-      {"OwenT", 2, TwoByReference<StatFWinBAS::OwenT>},
-      {"ChiUpper", 2, TwoByReference<StatFWinBAS::ChiUpper>},
-      {"FUpper", 3, ThreeByReference<StatFWinBAS::FUpper>},
+      {"StudentUpper", 2, OnNumbers<StatFWinBAS::StudentUpper, 2>},
+      {"StudentUpperInverse", 2, OnNumbers<StatFWinBAS::StudentUpperInverse, 2>},
+      {"StudentUpperInverseSeries", 2, OnNumbers<StatFWinBAS::StudentUpperInverseSeries, 2>},
+      {"NoncentralTUpper", 3, OnNumbers<StatFWinBAS::NoncentralTUpperInPlace, 3>},
+      {"OwenT", 2, OnNumbers<StatFWinBAS::OwenTInPlace, 2>},
+      {"ChiUpper", 2, OnNumbers<StatFWinBAS::ChiUpper, 2>},
+      {"FUpper", 3, OnNumbers<StatFWinBAS::FUpper, 3>},
   };
   return routines;
 }

@@ -63,14 +63,14 @@ void CheckNameCall(Call& c) {
 }
 
 const Routine kRoutines[] = {
-    {"NormalUpper", 1, OneByReference<StatFWinBAS::NormalUpper>},
-    {"NormalUpperHill", 1, OneByReference<StatFWinBAS::NormalUpperHill>},
-    {"NormalUpperInverse", 1, OneByReference<StatFWinBAS::NormalUpperInverse>},
+    {"NormalUpper", 1, OnNumbers<StatFWinBAS::NormalUpper, 1>},
+    {"NormalUpperHill", 1, OnNumbers<StatFWinBAS::NormalUpperHill, 1>},
+    {"NormalUpperInverse", 1, OnNumbers<StatFWinBAS::NormalUpperInverseInPlace, 1>},
     {"RoystonPoly", 3,
      [](Call& c) { c.Tell(StatFWinBAS::RoystonPoly(c.Number(0), c.Int(1), c.Int(2))); }},
-    {"FinneyMeanMVU", 3, ThreeByReference<StatFWinBAS::FinneyMeanMVU>},
-    {"FinneyMeanMMSE", 3, ThreeByReference<StatFWinBAS::FinneyMeanMMSE>},
-    {"FinneyVarianceMVU", 3, ThreeByReference<StatFWinBAS::FinneyVarianceMVU>},
+    {"FinneyMeanMVU", 3, OnNumbers<StatFWinBAS::FinneyMeanMVU, 3>},
+    {"FinneyMeanMMSE", 3, OnNumbers<StatFWinBAS::FinneyMeanMMSE, 3>},
+    {"FinneyVarianceMVU", 3, OnNumbers<StatFWinBAS::FinneyVarianceMVU, 3>},
     {"GMUnbiased", 2, GMUnbiasedCall},
     {"LinearMoments", 0, OnTheRecord<StatFWinBAS::LinearMoments>},
     {"LogMoments", 2, LogMomentsCall, {"session.GM", "session.GSD"}},

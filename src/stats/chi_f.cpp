@@ -110,14 +110,14 @@ double OneEven(double d1, double d2, double X) {
 
 }  // namespace
 
-double ChiUpper(double& df, double& chi) {
+double ChiUpper(double df, double chi) {
   if (chi < 1E-16) return 0;
   const double x2 = Checked(chi * chi);
   if (!(df <= 200 && std::abs(chi) <= 24)) return WilsonHilferty(df, x2);
   return ClampArea(Checked(IsOdd(df) ? OddChi(df, chi, x2) : EvenChi(df, x2)));
 }
 
-double FUpper(double& d1, double& d2, double& F) {
+double FUpper(double d1, double d2, double F) {
   if (std::abs(F - 1) <= 1E-10 && d1 == d2) return 0.5;
   if (F < 1E-31) return 1;
   if (F > 1E+31) return 0;

@@ -59,19 +59,19 @@ bool JudgesOutcomes(const ExposureSession& s) {
 
 }  // namespace
 
-double FinneyMeanMVU(double& df, double& GM, double& GSD) {
+double FinneyMeanMVU(double df, double GM, double GSD) {
   const double nL = df * Log(GSD);
   const double A = Divide(Checked(nL * nL) / 2, df + 1);
   return Checked(FinneySeries(df, A) * GM);
 }
 
-double FinneyMeanMMSE(double& df, double& GM, double& GSD) {
+double FinneyMeanMMSE(double df, double GM, double GSD) {
   const double L = Log(GSD);
   const double A = Divide(Checked((df - 3) * df * (L * L)), 2 * (df + 1));
   return Checked(FinneySeries(df, A) * GM);
 }
 
-double FinneyVarianceMVU(double& df, double& GM, double& GSD) {
+double FinneyVarianceMVU(double df, double GM, double GSD) {
   const double s = Log(GSD);
   const double A = Divide(Checked(2 * (df * s) * (df * s)), df + 1);
   const double B = df > 1 ? Divide(Checked((df - 1) * df * (s * s)), df + 1) : 0;

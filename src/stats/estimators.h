@@ -13,27 +13,27 @@
 namespace StatFWinBAS {
 
 // Minimum variance unbiased estimate of the arithmetic mean.
-// Domain: df > 0, GSD > 0. Changes nothing.
+// Domain: df > 0, GSD > 0.
 // Source: D.J. Finney (1941), Suppl. J. R. Statist. Soc. 7, 155-161: GM g(L squared / 2) with
 // L = ln GSD, where g(t) is the series with n = df degrees of freedom.
 // Accuracy, relative: 1.2E-14 (GSD near 1000); GSD from 1.001.
-double FinneyMeanMVU(double& df, double& GM, double& GSD);
+double FinneyMeanMVU(double df, double GM, double GSD);
 
 // Estimate of the arithmetic mean with the smallest mean square error.
 // Domain: df > 3, which the caller holds, GSD > 0. For df < 3 the series alternates and the result
-// means nothing. Changes nothing.
+// means nothing.
 // Source: X.H. Zhou (1998), Statistics in Medicine 17, 2251-2264: GM g((df - 3) L squared / (2 df))
 // with Finney's g.
 // Accuracy, relative: 8.8E-15 (GSD near 1000); GSD from 1.001.
-double FinneyMeanMMSE(double& df, double& GM, double& GSD);
+double FinneyMeanMMSE(double df, double GM, double GSD);
 
 // Unbiased estimate of the variance of the population (not of its standard deviation).
 // Domain: df > 0, GSD > 0 but not 1, where the sum is 0 and its relative test a division by zero.
-// Changes nothing.
+//
 // Source: D.J. Finney (1941), as above: GM squared (g(2 L squared) - g((df - 1) L squared / df)),
 // the two series summed together so that their common first term cancels.
 // Accuracy, relative: 5.8E-15 for GSD from 1.05 to 8, 4.2E-14 from 1.001 to 1000.
-double FinneyVarianceMVU(double& df, double& GM, double& GSD);
+double FinneyVarianceMVU(double df, double GM, double GSD);
 
 // Estimate of the geometric mean, unbiased but for small samples.
 // Domain: GSD / (df + 1) squared at most 6; beyond there is none.
@@ -83,16 +83,4 @@ struct Estimators {
 };
 Estimators EstimatorsOf(const ExposureSession& s);
 
-inline double FinneyMeanMVU(const double& df, const double& GM, const double& GSD) {
-  double n = df, gm = GM, gsd = GSD;
-  return FinneyMeanMVU(n, gm, gsd);
-}
-inline double FinneyMeanMMSE(const double& df, const double& GM, const double& GSD) {
-  double n = df, gm = GM, gsd = GSD;
-  return FinneyMeanMMSE(n, gm, gsd);
-}
-inline double FinneyVarianceMVU(const double& df, const double& GM, const double& GSD) {
-  double n = df, gm = GM, gsd = GSD;
-  return FinneyVarianceMVU(n, gm, gsd);
-}
 }  // namespace StatFWinBAS

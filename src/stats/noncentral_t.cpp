@@ -71,11 +71,9 @@ double MomentSum(const Owen& o, double& p) {
 
 double ExactArea(const Owen& o, double& p) {
   const double sum = MomentSum(o, p);
-  if (!o.odd) return Checked(NormalUpper(double{o.delta}) + sum * std::sqrt(kTwoPi));
-  const double tail = NormalUpper(double{o.DRB});
-  double h = o.DRB;
-  double a = o.A;
-  return Checked(tail + 2 * sum + 2 * OwenT(h, a));
+  if (!o.odd) return Checked(NormalUpper(o.delta) + sum * std::sqrt(kTwoPi));
+  const double tail = NormalUpper(o.DRB);
+  return Checked(tail + 2 * sum + 2 * OwenT(o.DRB, o.A));
 }
 
 // The series of T for 0 < a <= 1 and h > 0, without the leading arc tangent.
@@ -106,7 +104,7 @@ double OwenArea(double& h, double& a, double& add) {
   double S = 0;
   if (h > 0) {
     if (a > 1) {
-      const double q1 = NormalUpper(double{h});
+      const double q1 = NormalUpper(h);
       const double q2 = NormalUpper(Checked(h * a));
       add = (q1 + q2) / 2 - q1 * q2;
       h = h * a;
@@ -120,17 +118,21 @@ double OwenArea(double& h, double& a, double& add) {
 
 }  // namespace
 
-double NoncentralTUpper(double& f, double& p, double& K) {
+double NoncentralTUpper(double f, double p, double K) { return NoncentralTUpperInPlace(f, p, K); }
+
+double NoncentralTUpperInPlace(double f, double& p, double K) {
   if (std::abs(p - 0.5) <= 1E-16) return StudentUpper(f, K);
   if (p <= 1E-16) return 0;
   if (p >= 1) return 1;
-  const double z = NormalUpperInverse(double{p});
+  const double z = NormalUpperInverse(p);
   const double delta = z * Sqrt(f + 1);
   if (f > kExactUpTo) return ApproximateArea(f, delta, K);
   return ClampArea(ExactArea(MakeOwen(f, delta, K), p));
 }
 
-double OwenT(double& h, double& a) {
+double OwenT(double h, double a) { return OwenTInPlace(h, a); }
+
+double OwenTInPlace(double& h, double& a) {
   if (std::isnan(h) || std::isnan(a)) fault::Throw(FaultKind::InvalidOperation);
   h = std::abs(h);
   const bool neg = a < 0;
@@ -139,11 +141,11 @@ double OwenT(double& h, double& a) {
   double add = 0;
   double T = 0;
   if (a == 1) {
-    const double q = NormalUpper(double{h});
+    const double q = NormalUpper(h);
     T = (1 - q) * q / 2;
   } else if (a > 4E-08) {
     if (h > 0 && h * a > 4) {
-      T = NormalUpper(double{h}) / 2;
+      T = NormalUpper(h) / 2;
       return neg ? -T : T;
     }
     T = OwenArea(h, a, add);

@@ -92,7 +92,7 @@ double Corrected(double x, double p) {
 
 }  // namespace
 
-double NormalUpper(double& x) {
+double NormalUpper(double x) {
   if (std::isnan(x)) fault::Throw(FaultKind::InvalidOperation);
   double area = 0;
   if (-1E-15 <= x && x <= 1E-15) {
@@ -108,7 +108,7 @@ double NormalUpper(double& x) {
   return Clamp(area);
 }
 
-double NormalUpperHill(double& x) {
+double NormalUpperHill(double x) {
   if (std::isnan(x)) fault::Throw(FaultKind::InvalidOperation);
   const bool neg = x < 0;
   const double a = std::abs(x);
@@ -129,7 +129,9 @@ double NormalUpperHill(double& x) {
   return Clamp(area);
 }
 
-double NormalUpperInverse(double& p) {
+double NormalUpperInverse(double p) { return NormalUpperInverseInPlace(p); }
+
+double NormalUpperInverseInPlace(double& p) {
   if (p <= 1E-300) return kOuterLimit;
   if (p >= 0.9999999999999999) return Needed(Block::InverseNormal).InverseNormalCoefficients[1];
   double x = StartDeviate(p);

@@ -99,12 +99,12 @@ StudentDeviate NewtonSearch(double p, double df) {
 
 }  // namespace
 
-double StudentUpper(double& df, double& t) {
+double StudentUpper(double df, double t) {
   if (std::abs(t) < 1E-16) return 0.5;
   return ClampArea(df > kNormalAbove ? NormalArea(df, t) : FiniteArea(df, t));
 }
 
-StudentDeviate StudentUpperInverseSearch(double& p, double& df) {
+StudentDeviate StudentUpperInverseSearch(double p, double df) {
   if (IsHalf(p)) return {0, 0};
   if (df > kSeriesAbove) return {StudentUpperInverseSeries(p, df), 0};
   if (df == 1) return {Checked(std::tan((0.5 - p) * kPi)), 0};
@@ -116,11 +116,11 @@ StudentDeviate StudentUpperInverseSearch(double& p, double& df) {
   return NewtonSearch(p, df);
 }
 
-double StudentUpperInverse(double& p, double& df) { return StudentUpperInverseSearch(p, df).t; }
+double StudentUpperInverse(double p, double df) { return StudentUpperInverseSearch(p, df).t; }
 
-double StudentUpperInverseSeries(double& p, double& df) {
+double StudentUpperInverseSeries(double p, double df) {
   if (IsHalf(p)) return 0;
-  const double z = NormalUpperInverse(double{p});  // which may change the last place of its own
+  const double z = NormalUpperInverse(p);
   const double n = df;
   const double z3 = Power(z, 3);
   const double z5 = Power(z, 5);

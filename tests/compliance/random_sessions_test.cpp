@@ -103,7 +103,7 @@ double SingleSteps(const ExposureSession& s) {
     x = x * s.GSD;
     const double r = std::log(x / s.GM) / std::log(s.GSD);
     const double p = 1 - s.U / 100;
-    const double ConfNow = StatFWinBAS::NoncentralTUpper(double{s.df}, double{p}, double{r}) * 100;
+    const double ConfNow = StatFWinBAS::NoncentralTUpper(s.df, p, r) * 100;
     if (x > 1E+300 || ConfNow > s.D || std::abs(ConfNow - s.D) < 0.001) return x;
   }
 }

@@ -50,14 +50,6 @@ TEST_F(NormalArea, EndsAt37) {
   EXPECT_EQ(NormalUpper(-38.0), 1);
 }
 
-TEST_F(NormalArea, LeavesItsArgumentAlone) {
-  for (double x : {-38.0, -6.0, -2.0, 0.0, 1e-15, 3.0, 7.0, 40.0}) {
-    const double before = x;
-    NormalUpper(x);
-    EXPECT_EQ(x, before);
-  }
-}
-
 TEST_F(NormalArea, StaysWithin0And1AndBothTailsAddTo1) {
   for (int k = -4000; k <= 4000; ++k) {
     const double x = k / 100.0;
@@ -85,9 +77,8 @@ TEST_F(NormalArea, ANumberThatIsNoneIsAnInvalidOperation) {
 
 TEST_F(HillsArea, GivesTheValuesOfTheReferenceTable) {
   for (const support::Row& row : support::ReadTable("normal_upper_hill.csv")) {
-    double x = row.Number("x");
+    const double x = row.Number("x");
     table::Expect(row, {"x"}, "result", 1e-12, [&] { return NormalUpperHill(x); });
-    EXPECT_EQ(x, row.Number("x_after")) << row.Where();
   }
 }
 
@@ -105,10 +96,8 @@ TEST_F(HillsArea, At1Point28GoesByTheCentreForm) {
   EXPECT_NEAR(centre, 0.5 - 1.28 * (y * H[19] / D + H[18]), 1e-15);
 }
 
-TEST_F(HillsArea, OfMinus2IsTheRestOf1AndTheArgumentIsMinus2Again) {
-  double x = -2;
-  EXPECT_EQ(NormalUpperHill(x), 1 - NormalUpperHill(2.0));
-  EXPECT_EQ(x, -2);
+TEST_F(HillsArea, OfMinus2IsTheRestOf1) {
+  EXPECT_EQ(NormalUpperHill(-2.0), 1 - NormalUpperHill(2.0));
 }
 
 TEST_F(HillsArea, EndsAt37AndHasItsHalfAroundZero) {
@@ -131,7 +120,8 @@ TEST_F(HillsArea, StaysWithin0And1AndBothTailsAddTo1) {
 TEST_F(NormalDeviate, GivesTheValuesOfTheReferenceTable) {
   for (const support::Row& row : support::ReadTable("normal_upper_inverse.csv")) {
     double p = row.Number("p");
-    table::Expect(row, {"p"}, "result", 1e-12, [&] { return NormalUpperInverse(p); });
+    table::Expect(row, {"p"}, "result", 1e-12,
+                  [&] { return StatFWinBAS::NormalUpperInverseInPlace(p); });
     EXPECT_EQ(p, row.Number("p_after")) << row.Where();
   }
 }
@@ -158,7 +148,7 @@ TEST_F(NormalDeviate, OutsideZeroToOneThereIsNoErrorButAFloorAndACeiling) {
 TEST_F(NormalDeviate, AnAreaAboveAHalfComesBackAs1Minus1MinusIt) {
   for (double p : {0.51, 0.6, 0.92, 0.95, 0.999}) {
     const double before = p;
-    NormalUpperInverse(p);
+    StatFWinBAS::NormalUpperInverseInPlace(p);
     EXPECT_EQ(p, 1 - (1 - before));
   }
 }

@@ -51,7 +51,7 @@ void HoldAbsolute(const char* name, const Truth& truth, double ratchet, const Ta
   worst.Hold(name, ratchet);
 }
 
-Truth StudentTruth(double (*routine)(const double&, const double&), bool dfFirst) {
+Truth StudentTruth(double (*routine)(double, double), bool dfFirst) {
   return {"student_truth.csv", {"function", "df", "argument"}, [=](const Row& row) {
             const double df = Number(row, "df"), argument = Number(row, "argument");
             return dfFirst ? routine(df, argument) : routine(argument, df);

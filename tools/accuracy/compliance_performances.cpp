@@ -53,9 +53,9 @@ bool WilksComplies(const DrawnSample& sample) {
   return compliance::WilksComplies(compliance::WilksExceedance(sample.M - 1, Distance(sample)));
 }
 bool En689Complies(const DrawnSample& sample) {
-  ExposureSession s = Record(sample);
-  s.UTL = std::exp(En689Limit(sample));
-  return compliance::En689Complies(s).value_or(false);
+  const ExposureSession s = Record(sample);
+  const double UTL = std::exp(En689Limit(sample));
+  return compliance::En689Complies(s.df, UTL, s.OELV.value_or(0)).value_or(false);
 }
 
 std::string Of(double M) { return "M " + NumberText(M) + ", U 95"; }

@@ -43,7 +43,7 @@ Search LookAtOne() {
   search.axes.pop_back();
   const auto factor = [](double f) { return 1 / std::sqrt(1 + 1 / f); };
   search.call = [factor](const Point& at) {
-    return StatFWinBAS::NoncentralTUpper(double{at[0]}, double{at[1]}, factor(at[0]));
+    return StatFWinBAS::NoncentralTUpper(at[0], at[1], factor(at[0]));
   };
   search.truth = [factor](const Point& at) {
     return truth::NoncentralLower(at[0], truth::NormalUpperInverse(at[1]), factor(at[0]));
@@ -64,9 +64,7 @@ Search LookAtNoDistance() {
 Search LookAtEqual() {
   Search search = LookAtF(1, 29999, 1, 1);
   search.axes = {{"d1", 1, 29999, 1}, {"argument", 1 - 1e-10, 1 + 1e-10}};
-  search.call = [](const Point& at) {
-    return StatFWinBAS::FUpper(double{at[0]}, double{at[0]}, double{at[1]});
-  };
+  search.call = [](const Point& at) { return StatFWinBAS::FUpper(at[0], at[0], at[1]); };
   search.truth = [](const Point& at) { return truth::FUpper(at[0], at[0], at[1]); };
   search.takes = [](const Point& at) { return std::abs(at[1] - 1) <= 1e-10; };
   return search;

@@ -25,7 +25,7 @@ bool IsHalf(double p) { return std::abs(p - 0.5) <= 1e-16; }
 Search LookAtStudent(double from, double to) {
   Search search;
   search.axes = {Degrees("df", from, to), {"argument", -1e4, 1e4, 0, {-3, -1, 1, 1.4, 2, 3, 3.09}}};
-  search.call = [](const Point& at) { return StudentUpper(double{at[0]}, double{at[1]}); };
+  search.call = [](const Point& at) { return StudentUpper(at[0], at[1]); };
   search.truth = [](const Point& at) { return truth::StudentUpper(at[0], at[1]); };
   search.tries = 6000;
   return search;
@@ -34,7 +34,7 @@ Search LookAtStudent(double from, double to) {
 Search LookAtDeviate(double from, double to, double step) {
   Search search;
   search.axes = {Degrees("df", from, to, step), kDeviateArea};
-  search.call = [](const Point& at) { return StudentUpperInverse(double{at[1]}, double{at[0]}); };
+  search.call = [](const Point& at) { return StudentUpperInverse(at[1], at[0]); };
   search.truth = [](const Point& at) { return truth::StudentUpperInverse(at[0], at[1]); };
   search.takes = [](const Point& at) { return !IsHalf(at[1]); };
   search.tries = 3000;
@@ -43,9 +43,7 @@ Search LookAtDeviate(double from, double to, double step) {
 
 Search LookAtExpansion(double from, double to) {
   Search search = LookAtDeviate(from, to);
-  search.call = [](const Point& at) {
-    return StudentUpperInverseSeries(double{at[1]}, double{at[0]});
-  };
+  search.call = [](const Point& at) { return StudentUpperInverseSeries(at[1], at[0]); };
   search.takes = [](const Point& at) { return std::abs(at[1] - 0.5) >= 0.001; };
   return search;
 }
@@ -55,9 +53,7 @@ Search LookAtNoncentral(double from, double to, double step) {
   search.axes = {Degrees("f", from, to, step),
                  {"p", 0.0001, 0.9999, 0, {0.001, 0.05, 0.5, 0.95}},
                  {"K", -1000, 1000, 0, {-4, -2, 1, 2, 4}}};
-  search.call = [](const Point& at) {
-    return NoncentralTUpper(double{at[0]}, double{at[1]}, double{at[2]});
-  };
+  search.call = [](const Point& at) { return NoncentralTUpper(at[0], at[1], at[2]); };
   search.truth = [](const Point& at) {
     return truth::NoncentralLower(at[0], truth::NormalUpperInverse(at[1]), at[2]);
   };
@@ -71,7 +67,7 @@ Search LookAtNoncentral(double from, double to, double step) {
 Search LookAtOwen(double hTo, double aFrom, double aTo) {
   Search search;
   search.axes = {{"h", 1e-10, hTo, 0, {0.95, 4}}, {"a", aFrom, aTo, 0, {1, 4.21}}};
-  search.call = [](const Point& at) { return OwenT(double{at[0]}, double{at[1]}); };
+  search.call = [](const Point& at) { return OwenT(at[0], at[1]); };
   search.truth = [](const Point& at) { return truth::OwenT(at[0], at[1]); };
   search.tries = 5000;
   return search;
@@ -81,7 +77,7 @@ Search LookAtChi(double from, double to, double chiFrom, double chiTo) {
   Search search;
   search.axes = {Degrees("d1", from, to),
                  {"argument", chiFrom, chiTo, 0, {4.02, 4.87, 13.66, 16.4, 20, 24}}};
-  search.call = [](const Point& at) { return ChiUpper(double{at[0]}, double{at[1]}); };
+  search.call = [](const Point& at) { return ChiUpper(at[0], at[1]); };
   search.truth = [](const Point& at) { return truth::ChiUpper(at[0], at[1]); };
   return search;
 }
@@ -92,7 +88,7 @@ Search LookAtF(double d1From, double d1To, double d2From, double d2To) {
       Degrees("d1", d1From, d1To),
       Degrees("d2", d2From, d2To),
       {"argument", 1e-30, 1e30, 0, {1e-4, 0.01, 0.1, 0.3, 0.5, 0.8, 1, 1.3, 2, 10, 100}}};
-  search.call = [](const Point& at) { return FUpper(double{at[0]}, double{at[1]}, double{at[2]}); };
+  search.call = [](const Point& at) { return FUpper(at[0], at[1], at[2]); };
   search.truth = [](const Point& at) { return truth::FUpper(at[0], at[1], at[2]); };
   search.takes = [](const Point& at) {
     return at[0] != at[1] || std::abs(at[2] - 1) > 1e-10;  // which count as 1
