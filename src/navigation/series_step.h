@@ -22,7 +22,6 @@ class SeriesStep final : public screen::Step {
   const std::string& Words() const override { return words_; }
   void Undo() override { record_.Restore(*before_); }
   void Redo() override { record_.Restore(*after_); }
-  bool GoesOn() const override { return true; }  // if the step before is of its movement
   bool Absorb(const screen::Step& next) override;
   bool ChangesNothing() const override { return *before_ == *after_; }
   const GivenSeries& Before() const { return *before_; }

@@ -13,9 +13,7 @@ class Step {
   virtual const std::string& Words() const = 0;
   virtual void Undo() = 0;
   virtual void Redo() = 0;
-  // It goes on with the movement of the step before.
-  virtual bool GoesOn() const = 0;
-  // Takes `next`, which goes on with it, into itself; false when it can't.
+  // Takes `next` into itself where that goes on with its movement; false where it doesn't.
   virtual bool Absorb(const Step& next) = 0;
   // What it has absorbed has led back to where it began.
   virtual bool ChangesNothing() const = 0;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "catalog/own_texts.h"
 #include "ui/readable_colour.h"
 #include "ui/text.h"
 
@@ -16,7 +17,7 @@ namespace ui {
 
 StripView::StripView(QWidget* parent) : QTabBar(parent) {
   setObjectName(QStringLiteral("TabStrip"));
-  setAccessibleName(tr("Screens"));
+  setAccessibleName(Shown(OwnText(Own::Screens)));
   setExpanding(false);
   setDrawBase(true);
   setElideMode(Qt::ElideNone);
@@ -49,7 +50,8 @@ void StripView::Fill(const screen::TabStrip& strip) {
     setTabText(i, Shown(tab.caption));
     setTabToolTip(i, Lines(tab.closed.empty() ? tab.tip : tab.closed).trimmed());
     const QString name = Shown(tab.caption).trimmed();
-    setAccessibleTabName(i, tab.closed.empty() ? name : tr("%1, closed").arg(name));
+    setAccessibleTabName(
+        i, tab.closed.empty() ? name : Shown(OwnText(Own::ClosedTabSpoken, {Typed(name)})));
     setTabData(i, Shown(tab.key));
   }
   shown_ = strip.tabs;

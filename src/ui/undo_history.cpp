@@ -21,7 +21,7 @@ class StepOnStack final : public QUndoCommand {
   int id() const override { return kSteps; }
   bool mergeWith(const QUndoCommand* other) override {
     const screen::Step& next = *static_cast<const StepOnStack*>(other)->step_;
-    if (!next.GoesOn() || !step_->Absorb(next)) return false;
+    if (!step_->Absorb(next)) return false;
     setText(Shown(step_->Words()));
     setObsolete(step_->ChangesNothing());
     return true;

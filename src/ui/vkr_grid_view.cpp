@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "catalog/own_texts.h"
 #include "ui/outcome_editor.h"
 #include "ui/text.h"
 #include "ui/vkr_grid_model.h"
@@ -43,7 +44,7 @@ VkrGridView::VkrGridView(QWidget* parent) : QTableView(parent) {
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                   QAbstractItemView::EditKeyPressed);
-  setAccessibleName(tr("Outcomes"));
+  setAccessibleName(Shown(OwnText(Own::Outcomes)));
   auto* outcomes = new OutcomeDelegate(this);
   connect(outcomes, &OutcomeDelegate::TablePasted, this, &VkrGridView::PasteText);
   setItemDelegate(outcomes);

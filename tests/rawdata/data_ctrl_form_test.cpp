@@ -7,11 +7,12 @@
 #include "catalog/catalog.h"
 #include "session/derivation.h"
 #include "tests/support/csv.h"
-#include "tests/support/program_session.h"
+#include "tests/support/data_table.h"
 
 // The data control screen: its activation, its states, unit and width of numbers.
 namespace {
 
+using support::OpenTable;
 using support::ProgramSession;
 using testing::ElementsAre;
 
@@ -25,13 +26,6 @@ void Edit(ProgramSession& user, int row, const std::string& text) {
 }
 
 // The table of a new series of `rows` outcomes.
-void OpenTable(ProgramSession& user, const std::string& rows) {
-  user.Click("MenuNewVkrFil");
-  user.Type("NameTxB", "Solvent");
-  user.Type("SampSizTxB", rows);
-  user.Click("CmdContinu");
-}
-
 TEST(DataControl, ShowsTheSeriesItsRangeAndItsSize) {
   ProgramSession user;
   user.OpenSeries({8, 1.5, 4, 2});

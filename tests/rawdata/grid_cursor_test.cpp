@@ -1,16 +1,14 @@
 #include <gmock/gmock.h>
 
+#include "tests/support/data_table.h"
 #include "tests/support/start_screen.h"
 
 // Where the table's cursor and selection are behind what the user does.
 namespace {
 
+using support::GridOf;
 using support::ProgramSession;
 using testing::ElementsAre;
-
-screen::Grid& GridOf(ProgramSession& user) {
-  return static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr"));
-}
 
 TEST(Cursor, OnArrivalStandsWhereToGoOn) {
   ProgramSession user;

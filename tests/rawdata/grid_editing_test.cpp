@@ -5,24 +5,15 @@
 #include <sstream>
 
 #include "rawdata/data_ctrl_form.h"
-#include "tests/support/program_session.h"
+#include "tests/support/data_table.h"
 
 // Editing the series in the grid, and saving it.
 namespace {
 
+using support::GridOf;
+using support::OpenTable;
 using support::ProgramSession;
 using testing::ElementsAre;
-
-screen::Grid& GridOf(ProgramSession& user) {
-  return static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr"));
-}
-
-void OpenTable(ProgramSession& user, const std::string& rows) {
-  user.Click("MenuNewVkrFil");
-  user.Type("NameTxB", "Solvent");
-  user.Type("SampSizTxB", rows);
-  user.Click("CmdContinu");
-}
 
 std::string Content(const std::string& path) {
   std::ifstream in(path, std::ios::binary);

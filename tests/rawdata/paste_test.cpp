@@ -1,26 +1,17 @@
 #include <gmock/gmock.h>
 
 #include "rawdata/data_ctrl_form.h"
-#include "tests/support/program_session.h"
+#include "tests/support/data_table.h"
 
 // Pasting into the grid, and copying from it.
 namespace {
 
+using support::GridOf;
+using support::OpenTable;
 using support::ProgramSession;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
-
-screen::Grid& GridOf(ProgramSession& user) {
-  return static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr"));
-}
-
-void OpenTable(ProgramSession& user, const std::string& rows) {
-  user.Click("MenuNewVkrFil");
-  user.Type("NameTxB", "Solvent");
-  user.Type("SampSizTxB", rows);
-  user.Click("CmdContinu");
-}
 
 TEST(Paste, FillsTheRowsFromTheCurrentOneOnAndAddsWhatIsMissing) {
   ProgramSession user;

@@ -4,17 +4,15 @@
 
 #include "navigation/series_step.h"
 #include "screen/picture.h"
+#include "tests/support/data_table.h"
 #include "tests/support/start_screen.h"
 
 // What the user has done is taken back, and done again.
 namespace {
 
+using support::GridOf;
 using support::ProgramSession;
 using testing::ElementsAre;
-
-screen::Grid& GridOf(ProgramSession& user) {
-  return static_cast<screen::Grid&>(user.At("DataCtrlForm.DBGridVkr"));
-}
 
 // The series, its range and its unit, without whose estimates are in force.
 GivenSeries Standing(ProgramSession& user) {

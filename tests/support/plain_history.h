@@ -14,7 +14,7 @@ class PlainHistory final : public screen::History {
  public:
   void Push(std::unique_ptr<screen::Step> step) override {
     steps.resize(done);
-    if (done > 0 && step->GoesOn() && steps.back()->Absorb(*step)) {
+    if (done > 0 && steps.back()->Absorb(*step)) {
       if (steps.back()->ChangesNothing()) steps.resize(--done);
       return;
     }
