@@ -21,7 +21,6 @@ TwoSampCompForm::TwoSampCompForm(Record& sessionRecord, navigation::Desk& progra
 
 void TwoSampCompForm::Load() {
   loaded = true;
-  MenuPrint.enabled = false;
   caption = LoadResString(2800);
   IntroLbl.text =
       LoadResString(2805) + session.CR + LoadResString(2810) + session.CR + LoadResString(2815);

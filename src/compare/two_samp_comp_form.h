@@ -13,8 +13,6 @@ namespace compare {
 struct TwoSampCompForm final : navigation::SessionForm {
   TwoSampCompForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
-  screen::Control MenuPrint{*this, screen::Kind::Menu, "MenuPrint"};
-
   screen::Control HuidigFrame{*this, screen::Kind::Frame, "HuidigFrame"};
   screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
   screen::Control NameTxB{*this, screen::Kind::TextBox, "NameTxB"};

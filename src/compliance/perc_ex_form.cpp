@@ -29,7 +29,6 @@ void PercExForm::AddTestButtons() {
 
 void PercExForm::Load() {
   loaded = true;
-  MenuPrint.enabled = false;
   caption = LoadResString(2304);
   CommentLbl.Hide();
   ComplianceLbl.Hide();

@@ -17,8 +17,6 @@ void ColourVerdict(screen::Control& label, std::optional<bool> compliance);
 struct PercExForm final : navigation::SessionForm {
   PercExForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
-  screen::Control MenuPrint{*this, screen::Kind::Menu, "MenuPrint"};
-
   screen::Control Frame2{*this, screen::Kind::Frame, "Frame2"};
   screen::Control NameLbl{*this, screen::Kind::Label, "NameLbl"};
   screen::Control SampSizLbl0{*this, screen::Kind::Label, "SampSizLbl(0)"};

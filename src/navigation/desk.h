@@ -7,6 +7,10 @@
 #include "catalog/text_id.h"
 #include "session/workflow.h"
 
+namespace screen {
+struct Form;
+}
+
 namespace navigation {
 
 using workflow::ScreenId;
@@ -18,6 +22,26 @@ struct ExtrapolationMenu {
   std::string_view name;
   std::string_view home;  // the menu that it stands in
   TextId caption;
+};
+
+// What leaves the program, on paper or in a file beside that of the series.
+enum class OutputAction {
+  Form,        // the shown screen, to the printer
+  Grid,        // the table, to the printer
+  Report,      // the screen's record, to the document that gathers reports
+  Log,         // the screen's record, to the log
+  ShowLog,     // the window with the log, or its end
+  Document,    // one document of all results
+  Gathered,    // the document that has gathered reports, to the printer
+  Printer,     // the choice of the printer
+  PrinterFont  // the trial of a printer's font
+};
+
+// How the menu item of such an action stands.
+struct OutputOffer {
+  bool enabled = true;
+  std::string caption = {};  // in place of the item's own
+  std::string tip = {};
 };
 
 // What a screen may ask of the program around it.
@@ -56,6 +80,10 @@ class Desk {
   virtual bool MayDropSeries() = 0;
   // Asks for a file and writes the series to it; true when that is done.
   virtual bool SaveSeries() = 0;
+  // Lets what `form` shows, or what the action names, leave the program.
+  virtual void Output(screen::Form& form, OutputAction action) = 0;
+  // How the item of that action now stands.
+  virtual OutputOffer Offered(OutputAction action) const = 0;
   // "Close all data": asks about unsaved changes, shows the start screen, ends the session. False
   // when the user kept the session; the screen then stays.
   virtual bool CloseAllData() = 0;

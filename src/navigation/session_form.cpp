@@ -131,6 +131,7 @@ void ShowLine(screen::Control& line, const Record& record, ScreenId screen) {
 
 void SessionForm::TellState() {
   MenuSave.enabled = CompleteSeries(session);
+  printMenus.Offer();
   ShowLine(StatusLbl, record, id);
   for (screen::Tab& tab : Tabs.tabs)
     if (const workflow::TabText* found = workflow::TabByKey(tab.key))

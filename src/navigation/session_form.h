@@ -5,6 +5,7 @@
 #include <string>
 
 #include "navigation/desk.h"
+#include "navigation/print_menus.h"
 #include "screen/form.h"
 #include "session/global_bas.h"
 #include "session/record.h"
@@ -39,6 +40,8 @@ struct SessionForm : screen::Form {
 
   screen::Control MenuFile{*this, screen::Kind::Menu, "MenuFile"};
   screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
+  PrintMenus printMenus{*this, desk};
+  screen::Control& MenuPrint = printMenus.MenuPrint;
   screen::Control Menuclose{*this, screen::Kind::Menu, "Menuclose"};
   screen::Control MenuExit{*this, screen::Kind::Menu, "MenuExit"};
   screen::Control menuTools{*this, screen::Kind::Menu, "menuTools"};

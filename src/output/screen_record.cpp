@@ -3,7 +3,9 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "catalog/own_texts.h"
 #include "output/screen_records.h"
+#include "stats/coefficient_status.h"
 
 namespace output {
 namespace {
@@ -20,7 +22,8 @@ constexpr FormRecord::Columns kWide = {80, 105};
 constexpr Screen kScreens[] = {
     {"DataCtrlForm", kWide, WriteDataControl}, {"DescriptForm", kNarrow, WriteDescriptive},
     {"GrenzenForm", kWide, WriteLimits},       {"PercExForm", kNarrow, WriteTests},
-    {"UCLForm", kNarrow, WriteMean},           {"TwoSampCompForm", kWide, WriteComparison}};
+    {"UCLForm", kNarrow, WriteMean},           {"TwoSampCompForm", kWide, WriteComparison},
+    {"PlotForm", kNarrow, WritePlot}};
 
 const Screen* ScreenOf(const screen::Form& form) {
   for (const Screen& screen : kScreens)
@@ -38,6 +41,7 @@ std::string ScreenRecord(const screen::Form& form, const ExposureSession& s,
   if (!screen) throw std::logic_error(form.name + " has no record");
   FormRecord record(form, screen->columns);
   screen->write(record, s, {now, medium == Medium::Report});
+  if (!StatFWinBAS::CoefficientWarning("").empty()) record.Line(OwnText(Own::OtherCoefficients));
   return record.Lines().Text();
 }
 

@@ -16,6 +16,7 @@ void WriteDescriptive(FormRecord& record, const ExposureSession& s, const Occasi
 void WriteLimits(FormRecord& record, const ExposureSession& s, const Occasion& occasion);
 void WriteTests(FormRecord& record, const ExposureSession& s, const Occasion& occasion);
 void WriteMean(FormRecord& record, const ExposureSession& s, const Occasion& occasion);
+void WritePlot(FormRecord& record, const ExposureSession& s, const Occasion& occasion);
 void WriteComparison(FormRecord& record, const ExposureSession& s, const Occasion& occasion);
 
 }  // namespace output

@@ -57,7 +57,10 @@ void VerdelingForm::Draw() {
 
 ScreenId VerdelingForm::From() const { return record.Now().CurrentTab.value_or(ScreenId::Basis); }
 
-void VerdelingForm::TellState() { navigation::ShowLine(StatusLbl, record, From()); }
+void VerdelingForm::TellState() {
+  printMenus.Offer();
+  navigation::ShowLine(StatusLbl, record, From());
+}
 
 void VerdelingForm::HideLabels() {
   for (screen::Control* control : controls)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "navigation/desk.h"
+#include "navigation/print_menus.h"
 #include "plots/density.h"
 #include "screen/picture.h"
 #include "session/record.h"
@@ -18,6 +19,7 @@ struct VerdelingForm final : screen::Form {
   screen::Control MenuFile{*this, screen::Kind::Menu, "MenuFile"};
   screen::Control MenuSave{*this, screen::Kind::Menu, "MenuSave"};
   screen::Control menuSavePicture{*this, screen::Kind::Menu, "menuSavePicture"};
+  navigation::PrintMenus printMenus{*this, desk};
   screen::Control Menuclose{*this, screen::Kind::Menu, "Menuclose"};
   screen::Control MenuExit{*this, screen::Kind::Menu, "MenuExit"};
 

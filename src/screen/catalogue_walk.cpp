@@ -34,6 +34,7 @@ void ApplyTo(Control& control) {
       ReplaceById(control.text, control.tag);
       break;
     case Kind::TextBox:
+    case Kind::TextView:
       ReplaceTip(control);
       break;
     case Kind::ComboBox:

@@ -28,6 +28,7 @@ enum class Kind {
   ScrollBar,
   Picture,
   PictureLabel,  // a text that its screen draws in a picture; it has no widget
+  TextView,      // a long text to read, to search and to copy from
   StatusLine,    // the live line below the screen; its colour is that of a band
   CommonDialog
 };
@@ -75,6 +76,8 @@ struct Control : ControlState {
   // The design-time name of the menu or frame that takes a menu item or button in which the layout
   // does not know.
   std::string home;
+  // The keys of a menu item that the layout does not know, such as "Ctrl+Shift+P".
+  std::string keys;
 
   // Design-time ids of caption and tip, filled by whoever lays the screen out.
   std::string tag;

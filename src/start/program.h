@@ -63,6 +63,8 @@ class Program final : public navigation::Desk {
   std::string ToUndo() const override;
   std::string ToRedo() const override;
   void ForgetSteps() override;
+  void Output(screen::Form& form, navigation::OutputAction action) override;
+  navigation::OutputOffer Offered(navigation::OutputAction action) const override;
   bool MayDropSeries() override;
   bool CloseAllData() override;
   bool SaveSeries() override;

@@ -9,6 +9,7 @@
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
 #include "navigation/series_step.h"
+#include "output/session_log.h"
 #include "plots/plot_form.h"
 #include "plots/verdeling_form.h"
 #include "rawdata/data_ctrl_form.h"
@@ -44,6 +45,7 @@ struct Program::Parts {
   Record record;
   const ExposureSession& session = record.Now();
   navigation::Steps steps{record, ports.history};
+  output::SessionLog log{record, ports};
   BasisForm basis;
   rawdata::DataCtrlForm dataCtrl;
   limits::GrenzenForm grenzen;
@@ -73,6 +75,13 @@ struct Program::Parts {
     const auto count =
         std::min(static_cast<std::size_t>(SeriesCount(session)), session.C.size() - 1);
     return {session.C.begin() + 1, session.C.begin() + 1 + static_cast<std::ptrdiff_t>(count)};
+  }
+
+  // The file that holds the series; empty where none does.
+  std::string SeriesFile() const {
+    const bool saved =
+        session.Mode == DataMode::Raw && !session.refusedFile && !savedSeries.empty();
+    return saved ? session.Name : std::string();
   }
 
   void OfferSteps() const {

@@ -40,7 +40,6 @@ UCLForm::UCLForm(Record& sessionRecord, navigation::Desk& programDesk, screen::P
 }
 
 void UCLForm::Load() {
-  MenuPrint.enabled = false;
   caption = LoadResString(2400);
   JahrCmb.text = TwoLines(session.CR, 2415, 2416);
   LandCmb.text = TwoLines(session.CR, 2417, 2418);

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include <clocale>
+#include <csignal>
 
 #include "ui/live_label.h"
 #include "ui/outlined_style.h"
@@ -132,6 +133,10 @@ void Application::Start() {
 void PrepareToolkit() {
   // The toolkit has taken the user's locale over; numbers are the program's own.
   std::setlocale(LC_NUMERIC, "C");
+#ifdef SIGXFSZ
+  // A file that may not grow any further is a failed write, not the end of the program.
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
   LoadPictureFont();
   AnnounceLiveLabels();
   QApplication::setStyle(new OutlinedStyle(QStringLiteral("Fusion")));

@@ -205,6 +205,7 @@ void ControlView::PushAction(bool onPage) {
   if (shown_ && *shown_ == now) return;
   shown_ = std::move(now);
   action_->setText(Shown(shown_->text));
+  action_->setToolTip(TipText(shown_->tip));
   action_->setEnabled(shown_->enabled);
   action_->setVisible(shown_->visible);
 }

@@ -55,6 +55,7 @@ QAction* FormBinder::AddItem(const screen::Control& control) {
   if (!menu) return nullptr;
   auto* item = new QAction(page_.content);
   item->setObjectName(DesignName(control.name));
+  item->setShortcut(QKeySequence(Shown(control.keys), QKeySequence::PortableText));
   const QList<QAction*> items = menu->actions();
   const auto submenu = std::find_if(items.begin(), items.end(),
                                     [](const QAction* each) { return each->menu() != nullptr; });

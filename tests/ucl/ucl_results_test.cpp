@@ -17,7 +17,6 @@ TEST_F(MeanScreen, JahrShowsItsLimitAndProbability) {
   EXPECT_EQ(form.Methodlbl.text,
             "The approximate method of Jahr (1987) used in VALKORIN V 2.2 and earlier");
   ExpectResultLayout(true);
-  EXPECT_FALSE(form.MenuPrint.enabled);
   EXPECT_EQ(form.UCLTxB.text, Number(std::exp(p.Record().UCL)));
   EXPECT_EQ(form.PercExTxB.text, Number(p.Record().PercEx));
   ExpectAtRest();
