@@ -3,13 +3,13 @@
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
 #include "navigation/action_text.h"
-#include "navigation/series_text.h"
 #include "session/global_bas.h"
+#include "session/series_text.h"
 
 namespace navigation {
 namespace {
 
-using workflow::Obstacle;
+using namespace wording;
 using workflow::ScreenId;
 using enum workflow::ScreenId;
 
@@ -33,10 +33,7 @@ bool ShowsResults(ScreenId screen) {
 }
 
 std::string LimitToState(const ExposureSession& s, ScreenId screen) {
-  constexpr double kStart = 1;
-  if (s.limitStated || !s.OELV || (screen != Grenzen && screen != PercEx)) return {};
-  const Own own = *s.OELV == kStart ? Own::LimitNotStated : Own::LimitLeftEmpty;
-  return OwnText(own, {GlobalBAS::ShownTrimmed(s, s.OELV)});
+  return screen == Grenzen || screen == PercEx ? wording::LimitToState(s) : std::string();
 }
 
 std::string Confidence(const ExposureSession& s, ScreenId screen) {
@@ -69,31 +66,11 @@ std::string NoTabs(const ExposureSession& s, ScreenId screen) {
   return table ? why + " " + OwnText(Own::ContinueToRawData) : why;
 }
 
-std::string ObstacleText(const ExposureSession& s, Obstacle obstacle) {
-  switch (obstacle) {
-    case Obstacle::None:
-      return {};
-    case Obstacle::RowsUnfilled:
-      return MissingRows(s);
-    case Obstacle::NoEstimates:
-      return NoEstimates(s);
-    case Obstacle::OtherValues:
-      return OwnText(Own::OtherValuesTried);
-    case Obstacle::NoLimit:
-      return OwnText(Own::NoLimitYet);
-    case Obstacle::FewOutcomes:
-      return OwnText(Own::TooFewForLine);
-    case Obstacle::NotDescribed:
-      return OwnText(Own::NotDescribed);
-  }
-  return {};
-}
-
 std::string Action(const Record& record, ScreenId screen) {
   const LastAction* action = record.Reported(screen);
   if (!action) return {};
   if (action->did != Did::TabClosed || !action->target) return ActionText(record.Now(), *action);
-  const std::string why = WhyClosed(record.Now(), screen, *action->target);
+  const std::string why = wording::WhyClosed(record.Now(), screen, *action->target);
   if (why.empty()) return {};
   const std::string tab = LoadResString(workflow::TabOf(*action->target).caption);
   return OwnText(Own::TabClosed, {GlobalBAS::Trim(tab)}) + " " + why;
@@ -121,7 +98,7 @@ LiveText LiveLine(const Record& record, ScreenId screen) {
 }
 
 std::string WhyClosed(const ExposureSession& s, ScreenId from, ScreenId target) {
-  return ObstacleText(s, workflow::ObstacleTo(s, from, target));
+  return wording::WhyClosed(s, from, target);
 }
 
 }  // namespace navigation

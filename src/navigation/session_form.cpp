@@ -3,6 +3,7 @@
 #include "catalog/catalog.h"
 #include "navigation/live_line.h"
 #include "session/derivation.h"
+#include "session/series_text.h"
 
 namespace navigation {
 
@@ -149,10 +150,7 @@ GlobalBAS::Notify SessionForm::Notifier() {
 }
 
 std::string RegressionWords(const ExposureSession& session, const std::string& estimate) {
-  constexpr int kEstimates = 1760;  // "estimates:", of which the singular is taken
-  std::string word = GlobalBAS::Trim(LoadResString(kEstimates));
-  word.resize(word.size() - 2);
-  return session.RegressionLabel + " Rankit " + word + " " + estimate + "=";
+  return wording::RegressionWords(session, estimate);
 }
 
 }  // namespace navigation

@@ -3,10 +3,10 @@
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
 #include "files/safe_writer.h"
-#include "navigation/series_text.h"
 #include "rawdata/data_ctrl_form.h"
 #include "rawdata/rows.h"
 #include "session/derivation.h"
+#include "session/series_text.h"
 
 // The grid of the data control screen: its cells, and what editing them does to the series.
 namespace rawdata {
@@ -62,11 +62,8 @@ std::string DataCtrlForm::CellText(int row, int column) {
   return text;
 }
 
-// The operators follow from the detection range: they are neither stored nor read from a file.
 std::string DataCtrlForm::OperatorOf(double value) const {
-  if (!session.DetecOn) return "=";
-  if (value < session.LOQ) return "<";
-  return value >= session.URR ? ">" : "=";
+  return wording::OperatorOf(session, value);
 }
 
 bool DataCtrlForm::Refuses(double value) {
@@ -205,9 +202,9 @@ void DataCtrlForm::TellReading(const ReadingNotes* notes) {
   }
   std::string how;
   if (!notes->trailingText.empty())
-    how += OwnText(Own::TrailingText, {navigation::NumberList(notes->trailingText)});
+    how += OwnText(Own::TrailingText, {wording::NumberList(notes->trailingText)});
   if (!notes->commaAndPoint.empty())
-    how += OwnText(Own::CommaAndPoint, {navigation::NumberList(notes->commaAndPoint)});
+    how += OwnText(Own::CommaAndPoint, {wording::NumberList(notes->commaAndPoint)});
   Report({.did = Did::Read, .count = session.M, .what = how});
 }
 

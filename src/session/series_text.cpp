@@ -1,12 +1,14 @@
-#include "navigation/series_text.h"
+#include "session/series_text.h"
 
 #include <algorithm>
 
+#include "catalog/catalog.h"
 #include "catalog/own_texts.h"
 #include "session/derivation.h"
 #include "session/global_bas.h"
+#include "session/workflow.h"
 
-namespace navigation {
+namespace wording {
 namespace {
 
 std::string Count(double number) { return GlobalBAS::GeneralText(number); }
@@ -89,4 +91,44 @@ std::string InForce(const ExposureSession& s) {
   return {};
 }
 
-}  // namespace navigation
+std::string OperatorOf(const Given& given, double outcome) {
+  if (!given.DetecOn) return "=";
+  if (outcome < given.LOQ) return "<";
+  return outcome >= given.URR ? ">" : "=";
+}
+
+std::string LimitToState(const ExposureSession& s) {
+  constexpr double kStart = 1;
+  if (s.limitStated || !s.OELV) return {};
+  const Own own = *s.OELV == kStart ? Own::LimitNotStated : Own::LimitLeftEmpty;
+  return OwnText(own, {GlobalBAS::ShownTrimmed(s, s.OELV)});
+}
+
+std::string WhyClosed(const ExposureSession& s, ScreenId from, ScreenId target) {
+  switch (workflow::ObstacleTo(s, from, target)) {
+    case workflow::Obstacle::None:
+      return {};
+    case workflow::Obstacle::RowsUnfilled:
+      return MissingRows(s);
+    case workflow::Obstacle::NoEstimates:
+      return NoEstimates(s);
+    case workflow::Obstacle::OtherValues:
+      return OwnText(Own::OtherValuesTried);
+    case workflow::Obstacle::NoLimit:
+      return OwnText(Own::NoLimitYet);
+    case workflow::Obstacle::FewOutcomes:
+      return OwnText(Own::TooFewForLine);
+    case workflow::Obstacle::NotDescribed:
+      return OwnText(Own::NotDescribed);
+  }
+  return {};
+}
+
+std::string RegressionWords(const ExposureSession& s, const std::string& estimate) {
+  constexpr int kEstimates = 1760;  // "estimates:", of which the singular is taken
+  std::string word = GlobalBAS::Trim(LoadResString(kEstimates));
+  word.resize(word.size() - 2);
+  return s.RegressionLabel + " Rankit " + word + " " + estimate + "=";
+}
+
+}  // namespace wording
