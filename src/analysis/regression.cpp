@@ -142,13 +142,18 @@ Regression FitLine(const ExposureSession& s, FitState& state) {
   return fit;
 }
 
+ShownFit ShownFitOf(const ExposureSession& s, const ShapiroResult& test) {
+  if (!test.tested) return {};
+  if (test.W > 0.9999) return {"1.00", "100"};
+  return {"0" + FourDecimals(test.W), GlobalBAS::ShownTrimmed(s, Checked(100 * test.PW))};
+}
+
 std::string ShapiroText(const ExposureSession& s, const ShapiroResult& test) {
   std::string text;
   for (const int row : {1766, 1767, 1768}) text += LoadResString(row) + s.CR;
   if (!test.tested) return text + LoadResString(1781) + s.CR;
-  if (test.W > 0.9999) return text + "W=1.00" + s.CR + "A(W)=100%" + s.CR;
-  return text + "W=0" + FourDecimals(test.W) + s.CR +
-         "A(W)=" + GlobalBAS::ShownTrimmed(s, Checked(100 * test.PW)) + "%" + s.CR;
+  const ShownFit shown = ShownFitOf(s, test);
+  return text + "W=" + shown.W + s.CR + "A(W)=" + shown.percent + "%" + s.CR;
 }
 
 std::string VariabilityComplaint(const Given& s) {

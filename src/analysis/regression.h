@@ -69,6 +69,13 @@ RegressionSums SumsOverRange(const ExposureSession& s, const FitState& state);
 // Accuracy: see ProbabilityRegression in regression_on_record.h.
 Regression FitLine(const ExposureSession& s, FitState& state);
 
+// W and its probability in percent, as they are shown; both empty where there was no test.
+struct ShownFit {
+  std::string W;
+  std::string percent;
+};
+ShownFit ShownFitOf(const ExposureSession& s, const ShapiroResult& test);
+
 // The text beside the plot: what the test found, each line with CR behind it.
 std::string ShapiroText(const ExposureSession& s, const ShapiroResult& test);
 

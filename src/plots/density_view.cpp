@@ -58,34 +58,9 @@ void AddMarks(DensityData& data, const PictureNumbers& n) {
   if (n.of == PictureOf::Mean) AddMeanMarks(data, n);
 }
 
-PictureNumbers PopulationNumbers(const ExposureSession& s) {
-  PictureNumbers n;
-  n.window = "20d";
-  n.Name = s.Name;
-  n.Unit = s.Unit;
-  n.SigDigits = s.SigDigits;
-  n.GM = s.GM;
-  n.GSD = s.GSD;
-  n.U = s.U;
-  n.D = s.D;
-  return n;
-}
-
 std::optional<PictureNumbers> TestNumbers(const Record& record) {
-  const ExposureSession& s = record.Now();
   const TestResult* result = record.Test();
-  const compliance::ComplianceTest* test = compliance::FindTest(s.TestTag);
-  if (!result || !test || !result->PercEx.value || !result->UTL.value || result->olderLimit)
-    return std::nullopt;
-  PictureNumbers n = PopulationNumbers(s);
-  n.of = PictureOf::Test;
-  n.window = test->window;
-  n.upperLimit = *result->UTL.value;
-  n.limit = s.OELV;
-  n.exceeded = result->PercEx.value;
-  n.explanation = test->pictureWords(s, n.upperLimit);
-  n.note = test->pictureNote(s);
-  return n;
+  return result ? NumbersOf(record.Now(), *result) : std::nullopt;
 }
 
 std::optional<PictureNumbers> MeanNumbers(const Record& record) {
@@ -107,6 +82,33 @@ std::optional<PictureNumbers> MeanNumbers(const Record& record) {
 }
 
 }  // namespace
+
+PictureNumbers PopulationNumbers(const ExposureSession& s) {
+  PictureNumbers n;
+  n.window = "20d";
+  n.Name = s.Name;
+  n.Unit = s.Unit;
+  n.SigDigits = s.SigDigits;
+  n.GM = s.GM;
+  n.GSD = s.GSD;
+  n.U = s.U;
+  n.D = s.D;
+  return n;
+}
+
+std::optional<PictureNumbers> NumbersOf(const ExposureSession& s, const TestResult& result) {
+  const compliance::ComplianceTest* test = compliance::FindTest(result.test);
+  if (!test || !result.PercEx.value || !result.UTL.value || result.olderLimit) return std::nullopt;
+  PictureNumbers n = PopulationNumbers(s);
+  n.of = PictureOf::Test;
+  n.window = test->window;
+  n.upperLimit = *result.UTL.value;
+  n.limit = s.OELV;
+  n.exceeded = result.PercEx.value;
+  n.explanation = test->pictureWords(s, n.upperLimit);
+  n.note = test->pictureNote(s);
+  return n;
+}
 
 std::optional<PictureNumbers> NumbersOf(const Record& record) {
   const ExposureSession& s = record.Now();

@@ -40,6 +40,12 @@ struct PictureNumbers {
 // did not compute every number of its picture, or a series without estimates.
 std::optional<PictureNumbers> NumbersOf(const Record& record);
 
+// Of the population alone. Domain: a series with estimates.
+PictureNumbers PopulationNumbers(const ExposureSession& s);
+// Of a test of the present sample and limits, whichever screen is shown; none where it did not
+// compute every number of its picture.
+std::optional<PictureNumbers> NumbersOf(const ExposureSession& s, const TestResult& result);
+
 // The axis of the relative concentrations.
 struct DensityExtent {
   double xStart = 0;
