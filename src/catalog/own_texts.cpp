@@ -1,5 +1,7 @@
 #include "catalog/own_texts.h"
 
+#include "catalog/arguments.h"
+
 namespace {
 
 struct Row {
@@ -255,13 +257,5 @@ const char* OwnText(Own id) {
 }
 
 std::string OwnText(Own id, std::initializer_list<std::string> arguments) {
-  std::string text = OwnText(id);
-  char mark[] = "{0}";
-  for (const std::string& argument : arguments) {
-    for (std::size_t at = text.find(mark); at != std::string::npos;
-         at = text.find(mark, at + argument.size()))
-      text.replace(at, 3, argument);
-    ++mark[1];
-  }
-  return text;
+  return WithArguments(OwnText(id), arguments);
 }
