@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -15,6 +16,7 @@
 #include "drive/failure.h"
 #include "drive/text.h"
 #include "screen/picture.h"
+#include "screen/text_view.h"
 #include "ui/readable_colour.h"
 #include "ui/text.h"
 #include "ui/verdict_label.h"
@@ -51,6 +53,7 @@ std::optional<QString> TextOf(const QWidget& widget) {
   if (auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
   if (auto* group = qobject_cast<const QGroupBox*>(&widget)) return group->title();
   if (auto* label = qobject_cast<const QLabel*>(&widget)) return label->text().remove(ui::kBreak);
+  if (auto* text = qobject_cast<const QPlainTextEdit*>(&widget)) return text->toPlainText();
   return std::nullopt;
 }
 
@@ -88,6 +91,8 @@ Look StateOf(Stage& stage, const Target& target, QWidget& widget) {
             control.locked, control.ticked,   control.colour};
   if (const auto* side = dynamic_cast<const screen::SideWindow*>(target.form))
     look.hidden |= !side->shown;
+  if (const auto* reading = dynamic_cast<const screen::ReadingWindow*>(target.form))
+    look.hidden |= !reading->shown;
   for (QWidget* at = widget.parentWidget(); at; at = at->parentWidget()) {
     const Control* around = stage.ControlOf(*target.form, at);
     if (!around) continue;
@@ -242,7 +247,8 @@ std::string Line(const std::string& name, const Look& look) {
 
 void NeedUsable(Stage& stage, const Target& target) {
   const Look look = LookOf(stage, target);
-  if (target.form != &stage.Shown()) throw Failure(target.form->name + " is not shown");
+  const bool beside = dynamic_cast<const screen::ReadingWindow*>(target.form) != nullptr;
+  if (target.form != &stage.Shown() && !beside) throw Failure(target.form->name + " is not shown");
   if (look.hidden) throw Failure(target.control->name + " is hidden");
   if (look.disabled) throw Failure(target.control->name + " is disabled");
 }

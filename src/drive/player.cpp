@@ -10,7 +10,7 @@ namespace {
 
 const Action* Known(const std::string& name) {
   for (const CommandTable* table : {&WindowCommands(), &FieldCommands(), &AnswerCommands(),
-                                    &RecordCommands(), &TableCommands()}) {
+                                    &RecordCommands(), &FileCommands(), &TableCommands()}) {
     const auto found = table->find(name);
     if (found != table->end()) return &found->second;
   }

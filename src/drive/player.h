@@ -30,6 +30,7 @@ const CommandTable& WindowCommands();  // queued answers, menus, tabs, the windo
 const CommandTable& FieldCommands();   // buttons, fields, the table
 const CommandTable& AnswerCommands();  // get, expect, dump, box
 const CommandTable& RecordCommands();  // set, eval, mask
+const CommandTable& FileCommands();    // what the program has written
 const CommandTable& TableCommands();   // undo, redo, the cursor and the selection of the table
 
 // Plays one command; throws what ends a script.

@@ -19,6 +19,8 @@ struct OutputItem {
 
 namespace {
 
+bool OnDescriptive(std::string_view form) { return form == "DescriptForm"; }
+
 bool OnPlot(std::string_view form) { return form == "PlotForm"; }
 
 bool WithRecord(std::string_view form) {
@@ -31,6 +33,7 @@ bool WithRecord(std::string_view form) {
 constexpr OutputItem kItems[] = {
     {OutputAction::Log, "MenuLog", 62, "MenuPrint", "", WithRecord},
     {OutputAction::Log, "MenuLogFile", 62, "MenuPrint", "", OnPlot},
+    {OutputAction::ShowLog, "MenuReportOpen", 73, "MenuPrint", "", OnDescriptive},
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "output/log_name.h"
 
+#include <filesystem>
+
 #include "catalog/catalog.h"
 #include "session/global_bas.h"
 
@@ -31,6 +33,12 @@ std::string LogCaption(const std::string& name) {
   std::string kept = name;
   for (int i = 0; i < kCut; ++i) CutCharacter(kept);
   return LoadResString(kToFile) + kept + LoadResString(kEnding);
+}
+
+std::string WholePath(const std::string& name) {
+  std::error_code error;
+  const std::filesystem::path whole = std::filesystem::absolute(name, error);
+  return error ? name : whole.string();
 }
 
 }  // namespace output

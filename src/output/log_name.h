@@ -12,4 +12,7 @@ std::string LogNameOf(const std::string& name);
 // and ".LOG". It agrees with the log's name for a plain path with an ending of three letters only.
 std::string LogCaption(const std::string& name);
 
+// The log's name with the folders that lead to it, as a user finds it.
+std::string WholePath(const std::string& name);
+
 }  // namespace output

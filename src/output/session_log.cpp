@@ -24,13 +24,6 @@ constexpr int kNoName = 740;
 // reason.
 constexpr std::chrono::milliseconds kPatience(2000);
 
-// A name as a folder's name and its own, so that the user finds the file.
-std::string WholePath(const std::string& name) {
-  std::error_code error;
-  const std::filesystem::path whole = std::filesystem::absolute(name, error);
-  return error ? name : whole.string();
-}
-
 Own WhyNotOpened(Appended outcome) {
   switch (outcome) {
     case Appended::NoFolder:

@@ -10,7 +10,10 @@ void Program::Output(screen::Form& form, OutputAction action) {
   Parts& p = *parts_;
   switch (action) {
     case OutputAction::Log:
-      return p.log.Append(form, p.SeriesFile());
+      p.log.Append(form, p.SeriesFile());
+      return p.report.Renew();
+    case OutputAction::ShowLog:
+      return p.report.MenuReportOpen_Click();
     default:
       return;
   }
@@ -21,6 +24,8 @@ OutputOffer Program::Offered(OutputAction action) const {
   switch (action) {
     case OutputAction::Log:
       return p.log.Offer();
+    case OutputAction::ShowLog:
+      return p.report.Offer();
     default:
       return {};
   }

@@ -59,6 +59,7 @@ screen::Form& Program::Shown() const { return *parts_->shown; }
 
 void Program::TellState() {
   Parts& p = *parts_;
+  p.report.FollowSession();
   if (ShowsPicture())
     p.verdeling.TellState();
   else

@@ -9,6 +9,7 @@
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
 #include "navigation/series_step.h"
+#include "output/report_form.h"
 #include "output/session_log.h"
 #include "plots/plot_form.h"
 #include "plots/verdeling_form.h"
@@ -34,9 +35,11 @@ struct Program::Parts {
         mean(record, program, formPorts),
         compare(record, program, formPorts),
         verdeling(record, program, formPorts),
+        report(record, formPorts),
         forms{&basis, &dataCtrl, &grenzen, &descript, &plot, &percEx, &mean, &compare} {
     allForms.push_back(&mean.landHulp);
     allForms.push_back(&verdeling);
+    allForms.push_back(&report);
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
 
@@ -55,6 +58,7 @@ struct Program::Parts {
   ucl::UCLForm mean;
   compare::TwoSampCompForm compare;
   plots::VerdelingForm verdeling;
+  output::ReportForm report;
   std::vector<navigation::SessionForm*> forms;
   std::vector<screen::Form*> allForms{forms.begin(), forms.end()};
 

@@ -14,6 +14,7 @@
 
 #include "ui/elided_label.h"
 #include "ui/picture_view.h"
+#include "ui/reading_text.h"
 #include "ui/spoken.h"
 #include "ui/text.h"
 #include "ui/title_frame.h"
@@ -87,6 +88,8 @@ void ControlView::Push(bool onPage) {
     gridRevision_ = grid.revision;
   }
   if (auto* picture = qobject_cast<PictureView*>(widget_)) picture->Refresh();
+  if (auto* text = qobject_cast<ReadingText*>(widget_))
+    text->Push(static_cast<const screen::TextView&>(control_));
   if (!shown_ || !(*shown_ == control_)) {
     const screen::ControlState old = shown_.value_or(screen::ControlState{});
     const bool first = !shown_;

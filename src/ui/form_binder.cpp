@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "screen/text_view.h"
 #include "ui/tab_order.h"
 #include "ui/text.h"
 #include "ui/up_down_pair.h"
@@ -262,7 +263,8 @@ Control* FormBinder::ControlOf(const QWidget* widget) const {
 
 void FormBinder::Push(bool onPage) {
   for (ControlView& view : views_) view.Push(onPage);
-  if (!onPage) return;
+  const auto* reading = dynamic_cast<const screen::ReadingWindow*>(&form_);
+  if (!onPage && !(reading && reading->shown)) return;
   GiveAccessKeys();
   NameFields();
 }

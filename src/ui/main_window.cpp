@@ -44,6 +44,8 @@ void MainWindow::Private::Add(screen::Form& form) {
   FormBinder& binder = *binders_.back();
   if (const auto* side = dynamic_cast<const screen::SideWindow*>(&form))
     sides_.push_back(new SideView(window_, *side, *binder.TakeContent()));
+  else if (auto* reading = dynamic_cast<screen::ReadingWindow*>(&form))
+    readings_.push_back(new ReadingView(window_, *reading, *binder.TakeContent(), gate_));
   else
     pages_->addWidget(binder.Frame());
 }
@@ -98,6 +100,7 @@ void MainWindow::Private::Push() {
   const screen::Form& shown = program_.Shown();
   for (auto& binder : binders_) binder->Push(&binder->Form() == &shown);
   for (SideView* side : sides_) side->Push();
+  for (ReadingView* reading : readings_) reading->Push();
   strip_->Push(shown.strip);
   ShowPage(BinderOf(shown), before);
   PushBar();

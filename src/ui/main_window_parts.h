@@ -10,6 +10,7 @@
 #include "ui/focus_watch.h"
 #include "ui/form_binder.h"
 #include "ui/main_window.h"
+#include "ui/reading_view.h"
 #include "ui/side_view.h"
 #include "ui/strip_view.h"
 #include "ui/tab_walk.h"
@@ -44,6 +45,7 @@ class MainWindow::Private {
   QStackedWidget* pages_;
   std::vector<std::unique_ptr<FormBinder>> binders_;
   std::vector<SideView*> sides_;  // the window owns them
+  std::vector<ReadingView*> readings_;
   const FormBinder* shownPage_ = nullptr;
   QPointer<QWidget> beforeDetour_;
   bool onDetour_ = false;

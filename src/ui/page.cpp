@@ -17,6 +17,7 @@
 #include "ui/ui_land_hulp_form.h"
 #include "ui/ui_perc_ex_form.h"
 #include "ui/ui_plot_form.h"
+#include "ui/ui_report_form.h"
 #include "ui/ui_two_samp_comp_form.h"
 #include "ui/ui_ucl_form.h"
 #include "ui/ui_verdeling_form.h"
@@ -44,6 +45,7 @@ const std::map<std::string, Shell (*)()>& Designs() {
       {"UCLForm", &Lay<Ui::UCLForm>},
       {"LandHulpForm", &Lay<Ui::LandHulpForm>},
       {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
+      {"ReportForm", &Lay<Ui::ReportForm>},
       {"VerdelingForm", &Lay<Ui::VerdelingForm>},
   };
   return designs;

@@ -1,0 +1,51 @@
+#include "ui/reading_text.h"
+
+#include <QFontDatabase>
+#include <QScrollBar>
+
+#include "ui/text.h"
+
+namespace ui {
+namespace {
+
+int Characters(const std::string& text, std::size_t bytes) {
+  return static_cast<int>(Shown(text.substr(0, bytes)).size());
+}
+
+}  // namespace
+
+ReadingText::ReadingText(QWidget* parent) : QPlainTextEdit(parent) {
+  setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  setLineWrapMode(NoWrap);
+  setReadOnly(true);
+  // By the keyboard, too.
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setTabChangesFocus(true);
+}
+
+void ReadingText::Push(const screen::TextView& view) {
+  if (view.text != shown_) PushText(view.text);
+  if (view.revision != revision_) Select(view);
+  revision_ = view.revision;
+}
+
+void ReadingText::PushText(const std::string& text) {
+  QScrollBar* bar = verticalScrollBar();
+  const bool atEnd = bar->value() == bar->maximum();
+  const int place = bar->value();
+  shown_ = text;
+  setPlainText(Shown(text));
+  bar->setValue(atEnd ? bar->maximum() : place);
+}
+
+void ReadingText::Select(const screen::TextView& view) {
+  const int from = Characters(view.text, view.from);
+  QTextCursor cursor(document());
+  cursor.setPosition(from);
+  cursor.setPosition(from + Characters(view.text.substr(view.from), view.length),
+                     QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+}  // namespace ui
