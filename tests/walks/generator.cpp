@@ -95,7 +95,7 @@ void Generator::OfferOptions(std::vector<Offer>& offers) {
 // The roads that need no mouse.
 void Generator::OfferKeys(std::vector<Offer>& offers) {
   const screen::TabStrip* strip = page_.Stage().Shown().strip;
-  if (!strip) return;
+  if (!strip || LogOpen(page_.Stage())) return;
   offers.push_back({3, "", [this] {
                       static const std::vector<std::string> keys = {"Ctrl+PgDown", "Ctrl+PgUp",
                                                                     "Ctrl+Tab", "Ctrl+Shift+Tab"};

@@ -50,9 +50,8 @@ bool Scene::OptionPressed() const {
 
 bool Scene::Closed() const {
   using screen::Answer;
-  const bool kept = std::ranges::any_of(step.answers, [](Answer answer) {
-    return answer == Answer::No || answer == Answer::Cancel;
-  });
+  const bool kept = std::ranges::any_of(
+      step.answers, [](Answer answer) { return answer == Answer::No || answer == Answer::Cancel; });
   return Chosen("Menuclose") && !kept && after.M == 0 && after.Name.empty();
 }
 

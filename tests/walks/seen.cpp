@@ -9,6 +9,7 @@
 #include "drive/look.h"
 #include "drive/record_fields.h"
 #include "drive/text.h"
+#include "screen/text_view.h"
 
 namespace walks {
 namespace {
@@ -98,6 +99,12 @@ std::string TickedScale(drive::Stage& stage) {
 
 }  // namespace
 
+bool LogOpen(drive::Stage& stage) {
+  const auto* form =
+      dynamic_cast<const screen::ReadingWindow*>(stage.Program().FormByName("ReportForm"));
+  return form && form->shown;
+}
+
 Seen Look(drive::Stage& stage) {
   Seen seen;
   seen.form = stage.Shown().name;
@@ -108,6 +115,7 @@ Seen Look(drive::Stage& stage) {
   seen.gridRows = static_cast<const screen::Grid*>(table)->selectedRows;
   const screen::TabStrip* strip = stage.Shown().strip;
   seen.strip = strip && strip->visible && !strip->tabs.empty();
+  seen.logOpen = LogOpen(stage);
   const Reader record(stage.Session());
   ReadTexts(record, seen);
   ReadFlags(record, seen);

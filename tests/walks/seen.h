@@ -20,7 +20,8 @@ struct Seen {
   bool IdentOk = false, DescOk = false, LimitsOk = false, RawIncomplete = false;
   bool ModifyMode = false, DetecOn = false, RegressionOn = false;
   bool unsaved = false;
-  bool strip = false;  // the shown screen has tabs and menus that lead to others
+  bool logOpen = false;  // the window with the log, to which keys go
+  bool strip = false;    // the shown screen has tabs and menus that lead to others
   int FirstInRange = 0, LastInRange = 0, NInRange = 0, SigDigits = 0;
   double M = 0, df = 0, LOQ = 0, URR = 0, GM = 0, GSD = 0;
   double U = 0, D = 0, GM2 = 0, GSD2 = 0, M2 = 0, AMu = 0;
@@ -30,6 +31,9 @@ struct Seen {
   // M as a number of outcomes; 0 for one that no series can have.
   int Count() const { return M >= 2 && M <= 2000 ? static_cast<int>(M) : 0; }
 };
+
+// The window with the log is open, beside the main one.
+bool LogOpen(drive::Stage& stage);
 
 Seen Look(drive::Stage& stage);
 

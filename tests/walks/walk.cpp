@@ -1,6 +1,7 @@
 #include "tests/walks/walk.h"
 
 #include "tests/walks/generator.h"
+#include "tests/walks/output_watch.h"
 #include "tests/walks/theatre.h"
 
 namespace walks {
@@ -45,6 +46,7 @@ class Run {
       if (sought(view)) outcome_.finding = Finding{"sought", {}};
     } else {
       CheckAll(view);
+      output_.Check(view);
       if (roads && !findings.Any()) roads->Compare(view, spot);
       if (spot.steps % kWidgetsEvery == 0) CheckWidgets(view);
       for (const Finding& finding : findings.All())
@@ -63,6 +65,7 @@ class Run {
   Theatre theatre_;
   Page page_;
   Model model_{folder_};
+  OutputWatch output_;
   Seen before_;
   Outcome outcome_;
 };

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "tests/walks/checks.h"
+
+namespace walks {
+
+// What leaves the program: a log grows by what its screen shows, when its menu item is chosen, and
+// at no other time.
+class OutputWatch {
+ public:
+  void Check(const View& view);
+
+ private:
+  void CheckAppended(const View& view, const std::string& log);
+
+  std::map<std::string, std::uintmax_t> sizes_;  // of the logs that there are
+};
+
+}  // namespace walks
