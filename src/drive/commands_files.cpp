@@ -23,15 +23,15 @@ std::string LineAt(const std::string& bytes, std::size_t number) {
   return bytes.substr(begin, bytes.find('\n', begin) + 1 - begin);
 }
 
-void ExpectFile(Play& play, std::string rest) {
-  const std::string path = TakeWord(rest);
-  const std::string bytes = BytesOf(path);
-  const std::string wanted = BytesOf(TextArgument(rest));
-  play.stage.Settle();
+void ExpectFile(Play&, std::string rest) {
+  const std::vector<std::string> paths = Words(rest);
+  if (paths.size() != 2) throw Failure("expect-file wants a file and what it should hold");
+  const std::string bytes = BytesOf(paths[0]);
+  const std::string wanted = BytesOf(paths[1]);
   const auto differs = std::ranges::mismatch(bytes, wanted);
   if (differs.in1 == bytes.end() && differs.in2 == wanted.end()) return;
   const auto line = static_cast<std::size_t>(std::count(bytes.begin(), differs.in1, '\n')) + 1;
-  throw Failure(path + " line " + IntText(static_cast<int>(line)) + " is " +
+  throw Failure(paths[0] + " line " + IntText(static_cast<int>(line)) + " is " +
                 Quoted(LineAt(bytes, line)) + ", expected " + Quoted(LineAt(wanted, line)));
 }
 

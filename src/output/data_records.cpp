@@ -7,6 +7,7 @@ namespace {
 
 void WriteRange(FormRecord& record, const ExposureSession& s) {
   record.Line(record.Caption("DetecChB"));
+  record.Within("FrmDetec");
   const int unit = 105;
   record.Row("DegreesLbl(0)", "DegreesLbl");
   record.RowWithText("DetcLbl(0)", "DetecLTxb", unit, s.Unit);

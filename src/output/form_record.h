@@ -33,6 +33,8 @@ class FormRecord {
   void Heading(std::string_view frame);
   // The same, with the date at the value column.
   void Heading(std::string_view frame, const base::DateTime& date);
+  // The rows behind are those of this frame, whose caption is none of the record's.
+  void Within(std::string_view frame) { frame_ = &Of(frame); }
   // Left out where the frame or the value is hidden.
   void Row(std::string_view caption, std::string_view value, std::string_view unit = {});
   // The same with a text for a unit, at a column of its own.

@@ -32,6 +32,7 @@ int TitleOf(Extrapolation tag) {
 
 void WriteSampleSize(FormRecord& record) {
   record.Line(record.Caption("SampSizeCkb"));
+  record.Within("SampsizeFrm");
   record.Row("DegrMinLbl", "DegrMinTxb");
   record.Row("PercExLbl(3)", "PercExTxB(3)");
   record.Row("SampMinLbl", "SampMinTxB");
