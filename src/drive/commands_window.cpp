@@ -33,8 +33,11 @@ void Menu(Play& play, std::string rest) { ChooseMenu(play.stage, play.stage.Find
 void Tab(Play& play, std::string rest) { ClickTab(play.stage, rest); }
 
 void Shot(Play& play, std::string rest) {
+  const std::string form = rest.starts_with("ReportForm ") ? TakeWord(rest) : std::string();
   const std::string file = TextArgument(rest);
-  if (!play.stage.Window().grab().save(QString::fromStdString(file), "PNG"))
+  QWidget* window = &play.stage.Window();
+  if (!form.empty()) window = window->findChild<QWidget*>(QString::fromStdString(form));
+  if (!window || !window->grab().save(QString::fromStdString(file), "PNG"))
     throw Failure("the picture can't be saved as " + file);
 }
 

@@ -69,7 +69,8 @@ void SessionLog::Append(const screen::Form& form, const std::string& seriesFile)
   }
   record_.Flow().LogName = LogNameOf(s.Name);
   const std::string whole = WholePath(s.LogName);
-  if (!seriesFile.empty() && files::SameFile(s.LogName, seriesFile)) {
+  const bool series = s.LogName == seriesFile || files::SameFile(s.LogName, seriesFile);
+  if (!seriesFile.empty() && series) {
     Tell(OwnText(Own::LogIsSeries, {whole}), error, screen::Icon::Exclamation);
     return;
   }

@@ -161,6 +161,7 @@ void ControlView::PushTip() {
 
 void ControlView::FontChanged() {
   designWidth_.reset();
+  if (auto* text = qobject_cast<ReadingText*>(widget_)) text->TakeFont();
   auto* box = qobject_cast<QLineEdit*>(widget_);
   if (box && shown_ && shown_->locked) ShowWhole(*box);
 }

@@ -1,5 +1,6 @@
 #include "ui/reading_text.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QScrollBar>
 
@@ -15,12 +16,19 @@ int Characters(const std::string& text, std::size_t bytes) {
 }  // namespace
 
 ReadingText::ReadingText(QWidget* parent) : QPlainTextEdit(parent) {
-  setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  TakeFont();
   setLineWrapMode(NoWrap);
   setReadOnly(true);
   // By the keyboard, too.
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
+}
+
+void ReadingText::TakeFont() {
+  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  const qreal size = QApplication::font().pointSizeF();
+  if (size > 0) fixed.setPointSizeF(size);
+  setFont(fixed);
 }
 
 void ReadingText::Push(const screen::TextView& view) {

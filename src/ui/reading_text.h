@@ -17,6 +17,9 @@ class ReadingText : public QPlainTextEdit {
   // end, what has been added comes into sight.
   void Push(const screen::TextView& view);
 
+  // Takes the desktop's fixed-width font, as large as its other letters are.
+  void TakeFont();
+
  private:
   void PushText(const std::string& text);
   void Select(const screen::TextView& view);

@@ -3,7 +3,7 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -25,7 +25,7 @@ ReadingView::ReadingView(QWidget& owner, screen::ReadingWindow& form, QWidget& c
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(&content);
-  resize(kSize);
+  resize(kSize.boundedTo(screen()->availableSize()));
   AddKeys(content);
   pause_.setSingleShot(true);
   pause_.setInterval(kPauseMs);

@@ -116,6 +116,15 @@ TEST_F(TheLog, IsNeverTheSeriesItself) {
   }
 }
 
+// Its file would otherwise come back as a log.
+TEST_F(TheLog, IsNotTheSeriesThatWasRemovedMeanwhile) {
+  OpenSeries("weld.LOG");
+  std::filesystem::remove(folder_.Path("weld.LOG"));
+  Append();
+  EXPECT_THAT(p.LastBox().text, StartsWith("Nothing was appended: the log would be the file"));
+  EXPECT_THAT(folder_.Names(), testing::IsEmpty());
+}
+
 // There is no file with typed statistics that could be spoilt.
 TEST_F(TheLog, OfTypedStatisticsMayHaveTheirName) {
   p.EnterStatistics("weld.LOG", "10", "0.3", "2");

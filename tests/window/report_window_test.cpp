@@ -61,6 +61,19 @@ TEST_F(ReportWindow, ShowsTheEndInLettersOfOneWidth) {
   EXPECT_TRUE(Text().isReadOnly());
 }
 
+TEST_F(ReportWindow, HasLettersAsLargeAsTheDesktops) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPointSize(19);
+  QApplication::setFont(large);
+  qApp->processEvents();
+  EXPECT_EQ(Text().font().pointSize(), 19);
+  EXPECT_TRUE(QFontInfo(Text().font()).fixedPitch());
+  QApplication::setFont(before);
+  qApp->processEvents();
+  EXPECT_EQ(Text().font().pointSize(), before.pointSize());
+}
+
 TEST_F(ReportWindow, FollowsWhatAnotherProgramAppends) {
   Append("by another");
   EXPECT_TRUE(Shows("by another"));
