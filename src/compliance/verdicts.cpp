@@ -1,6 +1,7 @@
 #include "compliance/verdicts.h"
 
-#include <set>
+#include <algorithm>
+#include <iterator>
 
 #include "base/fault.h"
 #include "compliance/compliance_tests.h"
@@ -36,11 +37,20 @@ Verdict VerdictOf(const ComplianceTest& test, const ExposureSession& s) {
   return verdict;
 }
 
-std::string Why(const std::vector<Verdict>& rows, const ExposureSession& s) {
-  std::set<bool> decided;
+// How far the verdicts agree; a test may decide nothing.
+Own Agreement(const std::vector<Verdict>& rows) {
+  std::vector<bool> decided;
   for (const Verdict& row : rows)
-    if (row.compliance) decided.insert(*row.compliance);
-  std::string why = OwnText(decided.size() > 1 ? Own::VerdictsDisagree : Own::VerdictsAgree);
+    if (row.compliance) decided.push_back(*row.compliance);
+  if (decided.empty()) return Own::VerdictsNone;
+  if (decided.size() == 1) return Own::VerdictsOne;
+  if (std::ranges::count(decided, decided.front()) < std::ssize(decided))
+    return Own::VerdictsDisagree;
+  return decided.size() < rows.size() ? Own::VerdictsSomeAgree : Own::VerdictsAgree;
+}
+
+std::string Why(const std::vector<Verdict>& rows, const ExposureSession& s) {
+  std::string why = OwnText(Agreement(rows));
   const std::string df = GlobalBAS::ShownTrimmed(s, s.df);
   const std::string D = GlobalBAS::ShownTrimmed(s, s.D);
   std::string separator;

@@ -136,7 +136,8 @@ void ExpectBand(Play& play, std::string rest) {
 // Which tabs are closed, by their keys.
 void ExpectClosed(Play& play, std::string rest) {
   std::string closed;
-  const screen::TabStrip* strip = play.stage.Shown().strip;
+  screen::TabStrip* strip = play.stage.Shown().strip;
+  if (strip) LookOf(play.stage, {&play.stage.Shown(), strip});  // the strip shows what it is to
   for (const screen::Tab& tab : strip ? strip->tabs : std::vector<screen::Tab>())
     if (!tab.closed.empty()) closed += (closed.empty() ? "" : " ") + tab.key;
   if (closed != rest) throw Failure("closed are: " + closed + ", expected " + rest);

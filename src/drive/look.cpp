@@ -145,6 +145,8 @@ Look WidgetLook(Stage& stage, const Target& target) {
   if (auto* edit = qobject_cast<QLineEdit*>(&widget))
     Same(control, "locked", edit->isReadOnly(), look.locked);
   CompareColour(control, widget);
+  if (control.kind == Kind::StatusLine)
+    Same(control, "the band", widget.autoFillBackground(), control.colour.has_value());
   CompareSign(control, widget);
   return look;
 }
@@ -195,6 +197,12 @@ Look StripLook(Stage& stage, const Target& target) {
   for (int i = 0; i < strip.count(); ++i)
     shown += (shown.empty() ? "" : ", ") + strip.tabText(i).toStdString();
   Same(state, "the tabs", Comparable(shown), Comparable(look.text));
+  for (int i = 0; i < strip.count(); ++i) {
+    const std::string& closed = state.tabs[static_cast<std::size_t>(i)].closed;
+    Same(state, "a tab greyed", strip.tabTextColor(i).isValid(), !closed.empty());
+    if (!closed.empty())
+      Same(state, "the tip", Comparable(strip.tabToolTip(i).toStdString()), Comparable(closed));
+  }
   return look;
 }
 

@@ -1,6 +1,7 @@
 #include "navigation/session_form.h"
 
 #include "catalog/catalog.h"
+#include "catalog/own_texts.h"
 #include "navigation/live_line.h"
 #include "session/derivation.h"
 #include "session/series_text.h"
@@ -20,7 +21,12 @@ SessionForm::SessionForm(std::string formName, ScreenId screenId, std::string st
   Tabs.Choose = [this](const std::string& key) { Tab_Click(key); };
   MenuSave.Click = [this] { desk.SaveSeries(); };
   MenuSave.enabled = false;
-  MenuSave.Refused = [this] { Report({.did = Did::SaveRefused}); };
+  MenuSave.Refused = [this] {
+    if (workflow::SeriesBegun(session))
+      Report({.did = Did::SaveRefused});
+    else
+      Report({.did = Did::Said, .what = OwnText(Own::NoSeriesToSave)});
+  };
   Menuclose.Click = [this] { desk.CloseAllData(); };
   MenuExit.Click = [this] { desk.Exit(); };
   MenuPlot.Click = [this] { Tab_Click(workflow::TabOf(ScreenId::Plot).key); };
@@ -131,6 +137,7 @@ void ShowLine(screen::Control& line, const Record& record, ScreenId screen) {
 }
 
 void SessionForm::TellState() {
+  OfferSteps();
   MenuSave.enabled = CompleteSeries(session);
   printMenus.Offer();
   ShowLine(StatusLbl, record, id);

@@ -69,7 +69,9 @@ void PlotForm::SavePicture() {
   const std::string path =
       ports.fileDialog.Ask({true, title, OwnText(Own::PictureFiles), "", "", 0});
   if (path.empty()) return;
-  if (!ports.pictureFile.Write(path, PicPlot.drawing))
+  if (ports.pictureFile.Write(path, PicPlot.drawing))
+    Report({.did = Did::PictureSaved, .what = path});
+  else
     Complain(OwnText(Own::PictureNotWrittenTo, {path}), title);
 }
 

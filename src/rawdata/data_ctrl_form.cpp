@@ -200,8 +200,28 @@ void DataCtrlForm::LeaveDetectionLimit(screen::Control& field) {
   // Looking at a limit changes nothing, and what was refused has been told.
   if (!field.touched) return;
   const double entered = GlobalBAS::ReadNumber(field.text);
-  const Own words = &field == &DetecLTxb ? Own::StepLOQ : Own::StepURR;
-  Edit(OwnText(words, {ShownTrimmed(entered)}), [&] { TakeDetectionLimit(field, entered); });
+  const bool lower = &field == &DetecLTxb;
+  const auto words = [&](double limit) {
+    return OwnText(lower ? Own::StepLOQ : Own::StepURR, {GlobalBAS::FileText(limit)});
+  };
+  // A refused limit gives way to another one, which is then what the step has brought.
+  std::string step = words(entered);
+  Edit(step, [&] {
+    TakeDetectionLimit(field, entered);
+    step = words(lower ? session.LOQ : session.URR);
+  });
+}
+
+// What can be entered, and what stands, with all its digits: the field shows it rounded.
+std::string DataCtrlForm::LimitAdvice(bool lower) const {
+  const double least =
+      lower ? DefaultLOQ(session) : NearestOutcome(session, session.FirstInRange + 2);
+  const double most =
+      lower ? NearestOutcome(session, session.LastInRange - 2) : DefaultURR(session);
+  const auto text = [](double limit) { return GlobalBAS::FileText(limit); };
+  const std::string now = OwnText(Own::NowStands, {text(lower ? session.LOQ : session.URR)});
+  if (SampleCount(session) < 3 || least > most) return now;
+  return OwnText(Own::AllowedRange, {text(least), text(most)}) + " " + now;
 }
 
 void DataCtrlForm::TakeDetectionLimit(screen::Control& field, double entered) {
@@ -214,8 +234,7 @@ void DataCtrlForm::TakeDetectionLimit(screen::Control& field, double entered) {
   flow.MsgText = complaint.MsgText;
   flow.MsgTitle = complaint.MsgTitle;
   if (!GlobalBAS::Trim(session.MsgText).empty()) {
-    const double stands = lower ? session.LOQ : session.URR;
-    Complain(session.MsgText, session.MsgTitle, OwnText(Own::NowStands, {ShownTrimmed(stands)}));
+    Complain(session.MsgText, session.MsgTitle, LimitAdvice(lower));
     SetFocus(field);
   }
   ShowNewRange();

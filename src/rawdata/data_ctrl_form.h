@@ -71,6 +71,7 @@ struct DataCtrlForm final : navigation::SessionForm {
   void DetectionOn();
   void LeaveDetectionLimit(screen::Control& field);
   void TakeDetectionLimit(screen::Control& field, double entered);
+  std::string LimitAdvice(bool lower) const;
   void ShowNewRange();
   // Changes what was given, and tells what the checks of the range had to say. The cursor and the
   // selection, which mean rows as the change leaves them, go with their outcomes to where the order
@@ -84,7 +85,8 @@ struct DataCtrlForm final : navigation::SessionForm {
 
   std::string CellText(int row, int column);
   std::string OperatorOf(double value) const;
-  bool Refuses(double value);
+  // `stands`: what the row holds and keeps; 0 for nothing.
+  bool Refuses(double value, double stands);
   bool HasRoomFor(int rows);
   void TellEntry(int row, double value, const std::string& text);
   bool WriteCell(int row, int column, const std::string& text);
@@ -100,7 +102,7 @@ struct DataCtrlForm final : navigation::SessionForm {
   std::optional<PastedColumn> Understood(const std::string& text);
   void GoBehindPaste(int row);
   void TellPaste(const PastedColumn& column);
-  std::string CopyRows(const std::vector<int>& rows) const;
+  std::string CopyRows(const std::vector<int>& rows);
 
   // Asks when another program has changed the file at `path` since the series was read from it or
   // saved to it.

@@ -66,10 +66,13 @@ std::string DataCtrlForm::OperatorOf(double value) const {
   return wording::OperatorOf(session, value);
 }
 
-bool DataCtrlForm::Refuses(double value) {
+bool DataCtrlForm::Refuses(double value, double stands) {
   // An unfilled row reads as 0 or below: the series is incomplete, the entry no error.
   if (value <= 0 || RefusalOf(value) == 0) return false;
-  Complain(LoadResString(920), LoadResString(1530));
+  const std::string now = stands > 0 ? OwnText(Own::NowStands, {GlobalBAS::FileText(stands)})
+                                     : OwnText(Own::NothingStands);
+  Complain(LoadResString(920), LoadResString(1530),
+           OwnText(Own::AllowedRange, {"1E-10", "1E+10"}) + " " + now);
   return true;
 }
 
@@ -83,11 +86,12 @@ bool DataCtrlForm::HasRoomFor(int rows) {
 bool DataCtrlForm::WriteCell(int row, int column, const std::string& text) {
   if (column != kConcentration || row < 0 || row >= DBGridVkr.rowCount) return false;
   const double value = GlobalBAS::ReadNumber(text);
-  if (Refuses(value)) return false;
-  const std::string number = GlobalBAS::GeneralText(row + 1);
-  const std::string words = value > 0 ? OwnText(Own::StepTyped, {ShownTrimmed(value), number})
-                                      : OwnText(Own::StepEmptied, {number});
   const std::size_t place = static_cast<std::size_t>(row) + 1;
+  if (Refuses(value, session.C[place])) return false;
+  const std::string number = GlobalBAS::GeneralText(row + 1);
+  const std::string words = value > 0
+                                ? OwnText(Own::StepTyped, {GlobalBAS::FileText(value), number})
+                                : OwnText(Own::StepEmptied, {number});
   if (session.C[place] != value) {
     EditRows(words, [&](Given& given) {
       CutSeries(given);
@@ -105,6 +109,14 @@ void DataCtrlForm::TellEntry(int row, double value, const std::string& text) {
     if (!typed.empty()) Report({.did = Did::NoOutcome, .count = row + 1.0, .what = typed});
     return;
   }
+  // A number is taken from the beginning of what was typed; what it says as a whole may differ.
+  const PastedCell cell = ReadCell(typed, session.Unit);
+  if (cell.kind != CellKind::Number || (cell.byComma != value && cell.byPoint != value)) {
+    const std::string number = GlobalBAS::GeneralText(row + 1);
+    Report({.did = Did::Said,
+            .what = OwnText(Own::ReadAs, {typed, number, GlobalBAS::FileText(value)})});
+    return;
+  }
   const auto begin = session.C.begin() + 1;
   if (session.RawIncomplete || begin[row] == value) return;
   const auto end = begin + SampleCount(session);
@@ -114,8 +126,8 @@ void DataCtrlForm::TellEntry(int row, double value, const std::string& text) {
 
 bool DataCtrlForm::AddRow(const std::string& text) {
   const double value = GlobalBAS::ReadNumber(text);
-  if (!HasRoomFor(SampleCount(session) + 1) || Refuses(value)) return false;
-  EditRows(OwnText(Own::StepAdded, {ShownTrimmed(value)}), [&](Given& given) {
+  if (!HasRoomFor(SampleCount(session) + 1) || Refuses(value, 0)) return false;
+  EditRows(OwnText(Own::StepAdded, {GlobalBAS::FileText(value)}), [&](Given& given) {
     CutSeries(given);
     given.M += 1;
     given.C.push_back(value);

@@ -78,14 +78,19 @@ void DataCtrlForm::TellPaste(const PastedColumn& column) {
 }
 
 // The concentrations alone, one a line, each with all its digits.
-std::string DataCtrlForm::CopyRows(const std::vector<int>& rows) const {
+std::string DataCtrlForm::CopyRows(const std::vector<int>& rows) {
   std::string text;
+  int count = 0;
   for (const int row : rows) {
     if (row < 0 || row >= DBGridVkr.rowCount) continue;
     const double value = session.C[static_cast<std::size_t>(row) + 1];
-    if (value > 0) text += GlobalBAS::FileText(value);
+    if (value > 0) {
+      text += GlobalBAS::FileText(value);
+      ++count;
+    }
     text += '\n';
   }
+  if (!text.empty()) Report({.did = Did::Copied, .count = static_cast<double>(count)});
   return text;
 }
 

@@ -130,13 +130,39 @@ void VkrGridView::PasteClipboard() {
   PasteText(PlainText(QGuiApplication::clipboard()->mimeData()));
 }
 
+// Over what is selected, from its first row on, whichever end the cursor stands at: a copy comes
+// back to where it was taken from. Where the cursor has gone on from the selection, it says where.
+int VkrGridView::PasteRow() const {
+  const int cursor = std::max(currentIndex().row(), 0);
+  const std::vector<int> rows = SelectedRows();
+  return std::ranges::binary_search(rows, cursor) ? rows.front() : cursor;
+}
+
 void VkrGridView::PasteText(const QString& text) {
-  const int row = std::max(currentIndex().row(), 0);
+  const int row = PasteRow();
   gate_->Later([this, row, typed = Typed(text)] { grid_->Paste(row, typed); });
 }
 
-void VkrGridView::CopySelection() const {
-  QGuiApplication::clipboard()->setText(Shown(grid_->Copy(SelectedRows())));
+void VkrGridView::CopySelection() {
+  gate_->Run([this] {
+    const std::string copied = grid_->Copy(SelectedRows());
+    if (!copied.empty()) QGuiApplication::clipboard()->setText(Shown(copied));
+  });
+}
+
+// With Ctrl the toolkit moves the cursor alone: Delete would take a row that it has left, and
+// Ctrl+Shift+End would select none.
+QItemSelectionModel::SelectionFlags VkrGridView::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const {
+  if (event && event->type() == QEvent::KeyPress) {
+    const auto& press = static_cast<const QKeyEvent&>(*event);
+    const bool moves = press.key() >= Qt::Key_Home && press.key() <= Qt::Key_PageDown;
+    const bool extends = press.modifiers() & Qt::ShiftModifier;
+    if (moves && (press.modifiers() & Qt::ControlModifier))
+      return extends ? QItemSelectionModel::SelectCurrent | QItemSelectionModel::Rows
+                     : kThisRowAlone;
+  }
+  return QTableView::selectionCommand(index, event);
 }
 
 void VkrGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

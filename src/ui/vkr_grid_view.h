@@ -40,13 +40,16 @@ class VkrGridView : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
 
  private:
   void GoTo(int row, QItemSelectionModel::SelectionFlags selection);
   void ShowSelection();
   std::vector<int> SelectedRows() const;
   void TellSelection();
-  void CopySelection() const;
+  void CopySelection();
+  int PasteRow() const;
   void PasteText(const QString& text);
   void FitRows();
   void SpreadColumns();

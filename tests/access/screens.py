@@ -11,7 +11,8 @@ SCREENS = [
         "answer yes", "menu Menuclose", "menu MenuNewVkrFil", "type NameTxB weld"]),
     ("raw data", [
         "answer yes", "menu Menuclose", "file welding_fume.vkr", "menu menuopen"]),
-    ("raw data, detection range", ["click DetecChB", "type DetecLTxb 0.7"]),
+    ("raw data, an empty row", ["cell 2 none"]),
+    ("raw data, detection range", ["undo", "click DetecChB", "type DetecLTxb 0.7"]),
     ("limits", ["tab grenzen", "type VkrValTxB 5"]),
     ("descriptive statistics, detection range", ["tab descript"]),
     ("probability paper", ["tab plot"]),
@@ -32,3 +33,14 @@ SCREENS = [
         "answer no", "type SampSizTxB2 15", "answer no", "type GMTxB2 2.2", "answer no",
         "type GSDTxB2 1.8"]),
 ]
+
+# What must be called by these names on a screen: a field by its label and its unit as both stand
+# there, a closed tab as one.
+NAMES = {
+    "raw data, an empty row": ["Limits, closed"],
+    "raw data, detection range": ["Lower limit LOQ, mg/m3", "Upper Limit UL, mg/m3"],
+    "limits": [
+        "Occupational Exposure Limit Value OELV, mg/m3", "Cover U, %", "Confidence D, %"],
+    "mean": ["AM unbiased, mg/m3"],
+    "comparison": ["Reference sample size Mref", "Reference sample location GMref, mg/m3"],
+}

@@ -9,7 +9,7 @@ from collections import Counter
 
 from order import order_faults
 from program import Program, wait_for
-from screens import SCREENS
+from screens import NAMES, SCREENS
 
 # Tags and entities, a mark of an access key, and the place where a long word may be broken.
 MARKUP = re.compile(r"</?(qt|html|body|p|b|i|u|br|font|span|a)\b[^>]*>|&\w+;|&\w|\u200b", re.I)
@@ -24,6 +24,13 @@ def names_and_markup(program):
         for text in (each.name, each.description):
             if MARKUP.search(text):
                 yield f"{each} has markup: {text!r}"
+
+
+def speaking_names(program, screen):
+    names = {each.spoken for each in program.objects()}
+    for wanted in NAMES.get(screen, []):
+        if wanted not in names:
+            yield f"nothing is called {wanted!r}"
 
 
 def access_keys(program):
@@ -86,10 +93,10 @@ def walk(program):
     wrong = 0
     for screen, commands in SCREENS:
         program.play(*commands)
-        for check in CHECKS:
-            for fault in check(program):
-                wrong += 1
-                print(f"{screen}: {fault}", flush=True)
+        faults = [fault for check in CHECKS for fault in check(program)]
+        for fault in [*faults, *speaking_names(program, screen)]:
+            wrong += 1
+            print(f"{screen}: {fault}", flush=True)
     return wrong
 
 

@@ -55,6 +55,11 @@ TEST_F(VerdictsOfAllTests, AgreeFarFromTheLimit) {
   EXPECT_EQ(Of(10, 5, 2, 1).why.find("These verdicts agree."), 0U);
 }
 
+TEST_F(VerdictsOfAllTests, AreCalledInAgreementOnlyWhereTheyDecide) {
+  EXPECT_EQ(Of(4, 0.03, 2, 1.1).why.find("The tests that decide here agree."), 0U);
+  EXPECT_EQ(Of(10, 0.3, 1, 1).why.find("No test decides here."), 0U);
+}
+
 TEST_F(VerdictsOfAllTests, SayWhyATestDoesNotDecide) {
   const Verdict few = Of(5, 0.3, 2, 1).rows[2];
   EXPECT_FALSE(few.compliance);

@@ -51,6 +51,32 @@ TEST(ClosedTabs, HaveAReasonInEveryStateAndOpenOnesHaveNone) {
   }
 }
 
+TEST(ClosedTabs, TellWhatIsMissing) {
+  Record nine;
+  Nine(nine);
+  nine.Flow().LimitsOk = false;
+  EXPECT_EQ(WhyClosed(nine.Now(), Descript, PercEx),
+            "There is no valid limit value yet: state it on Limits.");
+  Record two;
+  Give(two, {1, 3});
+  EXPECT_EQ(WhyClosed(two.Now(), Descript, Plot), "A line needs three outcomes.");
+  Record typed;
+  typed.Change([](Given& given) {
+    given.Mode = DataMode::Statistics;
+    given.Name = "Welders";
+    given.M = 12;
+  });
+  typed.StatusFlags();
+  EXPECT_EQ(WhyClosed(typed.Now(), Basis, Descript),
+            "Name, sample size, GM and GSD are not all there yet.");
+  Record unsized;
+  unsized.Change([](Given& given) {
+    given.Mode = DataMode::Raw;
+    given.newSeries = true;
+  });
+  EXPECT_EQ(WhyClosed(unsized.Now(), Basis, Grenzen), "The series has no sample size yet.");
+}
+
 TEST(ClosedTabs, TellThatOtherValuesAreTried) {
   Record record;
   Nine(record);

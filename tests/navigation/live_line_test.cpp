@@ -52,6 +52,17 @@ std::vector<Case> Actions() {
       {"saved", on({Did::Saved, 9}), DataCtrl, "9 outcomes saved."},
       {"not saved", on({Did::NotSaved, 0, "a.vkr"}), DataCtrl,
        "The file could not be written: a.vkr. The series is not saved."},
+      {"one read", on({Did::Read, 1}), DataCtrl, "1 outcome read."},
+      {"one copied", on({Did::Copied, 1}), DataCtrl, "1 outcome copied."},
+      {"one saved", on({Did::Saved, 1}), DataCtrl, "1 outcome saved."},
+      {"another program's changes were kept", on({Did::NotOverwritten}), DataCtrl,
+       "The file was left as the other program has made it. The series is not saved."},
+      {"a picture was saved", Then(Nine, Reports(Plot, {Did::PictureSaved, 0, "a.bmp"})), Plot,
+       "Picture saved to a.bmp."},
+      {"a line beyond numbers", Then(Nine, Reports(Plot, {Did::LineBeyondNumbers})), Plot,
+       "The estimates of this line are beyond what can be calculated with: GM and GSD stay those "
+       "of "
+       "all outcomes."},
       {"undone", on({Did::Undone, 0, "9 outcomes pasted"}), DataCtrl, "Undone: 9 outcomes pasted."},
       {"redone", on({Did::Redone, 0, "9 outcomes pasted"}), DataCtrl, "Redone: 9 outcomes pasted."},
       {"a sentence of its own", on({Did::Said, 0, "Something."}), DataCtrl, "Something."},

@@ -42,6 +42,26 @@ TEST(Paste, ThatIsRefusedNamesEveryLineAndTellsOfTheDetectionRange) {
   EXPECT_EQ(user.Text("StatusLbl"), "Nothing was pasted.");
 }
 
+TEST(Paste, ThatIsRefusedSaysOfEachLineWhatIsWrong) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  GridOf(user).Paste(0, "1\n12-03-2024\n1,2,3\n> 9\n\n\"5 x\n6\"\n7");
+  EXPECT_EQ(user.LastBox().text,
+            "Nothing was pasted. Not understood:\r"
+            "Line 2: \"12-03-2024\" is a date or a time, no outcome.\r"
+            "Line 3: \"1,2,3\" has points or commas that part neither thousands nor decimals.\r"
+            "Line 4: \"> 9\" says only that the outcome lies above a limit.\r"
+            "Line 5 is empty.\r"
+            "Line 6: \"5 x 6\" is one cell of several lines.\r"
+            "For an outcome above what can be measured, paste that limit itself as a number, tick "
+            "Detection range and state it as the upper limit: outcomes from it on count as above "
+            "it.");
+  GridOf(user).Paste(0, "12.5 mg/m3\n800 ug/m3");
+  EXPECT_EQ(user.LastBox().text,
+            "Nothing was pasted. Not understood:\r"
+            "Line 2: \"800 ug/m3\" has another unit than the lines above it.");
+}
+
 TEST(Paste, WithoutALimitSaysNothingOfTheDetectionRange) {
   ProgramSession user;
   user.OpenSeries({1, 2, 4});
@@ -163,6 +183,15 @@ TEST(Paste, AsksWhatACommaMeansThatMayPartThousands) {
               ElementsAre("The comma is the decimal sign: \"1,234\" is 1.234",
                           "The point is the decimal sign: \"1,234\" is 1234"));
   EXPECT_EQ(user.Record().C, (std::vector<double>{1234, 2.7, 1234, 1234.5}));
+}
+
+TEST(Copy, SaysHowMany) {
+  ProgramSession user;
+  user.OpenSeries({1, 2, 4});
+  GridOf(user).Copy({0, 1});
+  EXPECT_EQ(user.Text("StatusLbl"), "2 outcomes copied.");
+  GridOf(user).Copy({2});
+  EXPECT_EQ(user.Text("StatusLbl"), "1 outcome copied.");
 }
 
 TEST(Copy, GivesTheConcentrationsOnlyAndTheyComeBackAsTheyWere) {

@@ -43,7 +43,8 @@ const Edit kEdits[] = {
     {"unit ppm", [](auto& user) { user.Pick("DimCbo", "ppm"); }},
     {"detection range off", [](auto& user) { user.Click("DetecChB"); }},
     {"LOQ 1.2", [](auto& user) { user.Type("DetecLTxb", "1.2"); }},
-    {"URR 7", [](auto& user) { user.Type("DetecUTxb", "7"); }},
+    // 7 would leave too few within the range: 8 stands in its place.
+    {"URR 8", [](auto& user) { user.Type("DetecUTxb", "7"); }},
 };
 
 void OpenWithRange(ProgramSession& user) {

@@ -58,7 +58,20 @@ void CheckWidgets(const View& view) {
   }
 }
 
+// The menu offers to take back whatever the user has done, and nothing else.
+void CheckSteps(const View& view) {
+  const Seen& now = view.Now();
+  if (now.Mode != "R" || now.ModifyMode || now.C.size() <= 1) return;
+  const auto check = [&view](const char* item, bool wanted) {
+    const screen::Control* menu = view.page.Stage().Shown().Find(item);
+    if (menu && menu->enabled != wanted)
+      view.Wrong("undo", std::string(item) + (wanted ? " is closed" : " is open"));
+  };
+  check("MenuUndo", view.model.Steps().CanUndo());
+}
+
 void CheckAll(const View& view) {
+  CheckSteps(view);
   CheckBoxes(view);
   CheckStrip(view);
   CheckWays(view);

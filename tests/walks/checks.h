@@ -35,6 +35,7 @@ void CheckPicture(const View& view);
 
 // The rules that hold on every screen.
 void CheckBoxes(const View& view);
+void CheckSteps(const View& view);
 void CheckStrip(const View& view);
 void CheckWays(const View& view);
 void CheckLine(const View& view);

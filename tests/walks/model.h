@@ -68,6 +68,8 @@ class Model {
   // The outcomes 1 to M, in ascending order when all are filled.
   const Outcomes& Series() const { return series_; }
   bool Complete() const { return complete_; }
+  // What the user has done and can take back, or do again.
+  const StepList& Steps() const { return steps_; }
   const std::set<Whose>& Force() const { return force_; }
   std::optional<LastLimit> lastLimit;
 

@@ -44,7 +44,9 @@ bool Model::FollowSteps(const Scene& scene) {
   const Seen& after = scene.after;
   const RawFile* file =
       scene.Chosen("menuopen") && scene.step.asked ? folder_.Find(scene.step.file) : nullptr;
-  if ((file && file->accepted) || scene.Closed() || after.Mode != before.Mode) steps_.Clear();
+  const bool none = after.C.size() <= 1;
+  if ((file && file->accepted) || scene.Closed() || none || after.Mode != before.Mode)
+    steps_.Clear();
   if (scene.StepsBack()) {
     const auto wanted = scene.step.Command() == "undo" ? steps_.Undo() : steps_.Redo();
     const std::string difference =

@@ -31,6 +31,8 @@ class StepList {
   std::optional<Standing> Undo();
   std::optional<Standing> Redo();
   void Clear();
+  bool CanUndo() const { return done_ > 0; }
+  bool CanRedo() const { return done_ < edits_.size(); }
 
  private:
   struct Edit {
