@@ -19,6 +19,7 @@ ReadingText::ReadingText(QWidget* parent) : QPlainTextEdit(parent) {
   TakeFont();
   setLineWrapMode(NoWrap);
   setReadOnly(true);
+  setUndoRedoEnabled(false);
   // By the keyboard, too.
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
@@ -41,9 +42,25 @@ void ReadingText::PushText(const std::string& text) {
   QScrollBar* bar = verticalScrollBar();
   const bool atEnd = bar->value() == bar->maximum();
   const int place = bar->value();
+  if (!shown_.empty() && text.starts_with(shown_))
+    AddAtEnd(Shown(text.substr(shown_.size())));
+  else
+    setPlainText(Shown(text));
   shown_ = text;
-  setPlainText(Shown(text));
   bar->setValue(atEnd ? bar->maximum() : place);
+}
+
+// What is selected stays so: a cursor at the end would go along.
+void ReadingText::AddAtEnd(const QString& text) {
+  QTextCursor selected = textCursor();
+  const int anchor = selected.anchor();
+  const int position = selected.position();
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(text);
+  selected.setPosition(anchor);
+  selected.setPosition(position, QTextCursor::KeepAnchor);
+  setTextCursor(selected);
 }
 
 void ReadingText::Select(const screen::TextView& view) {

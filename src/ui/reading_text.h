@@ -22,6 +22,7 @@ class ReadingText : public QPlainTextEdit {
 
  private:
   void PushText(const std::string& text);
+  void AddAtEnd(const QString& text);
   void Select(const screen::TextView& view);
 
   std::string shown_;

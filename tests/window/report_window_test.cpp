@@ -89,6 +89,14 @@ TEST_F(ReportWindow, LeavesWhoReadsInTheMiddleThere) {
   EXPECT_EQ(Bar().value(), 100);
 }
 
+TEST_F(ReportWindow, KeepsWhatIsSelectedForACopy) {
+  Text().selectAll();
+  const QString before = Text().textCursor().selectedText();
+  Append("by another");
+  ASSERT_TRUE(Shows("line 500\nby another\n"));
+  EXPECT_EQ(Text().textCursor().selectedText(), before);
+}
+
 TEST_F(ReportWindow, ClosesByItsButtonByEscAndByItsItem) {
   View().close();
   EXPECT_FALSE(View().isVisible());
