@@ -137,4 +137,22 @@ TEST_F(Records, OfTheDescriptiveStatisticsBeginDifferentlyInAReport) {
                                std::string(48, ' ') + "    4   8 hours\r\n\r\n"));
 }
 
+// Who reads the log later must be able to tell why its numbers are others.
+TEST_F(Records, SayAtTheirEndThatOtherCoefficientsWereInUse) {
+  const std::string said = "The standard coefficient files were not in use.\r\n";
+  folder_.Write("VALKORIN.COF", "1\r\n2\r\n");
+  {
+    support::ProgramSession other;  // finds the file in the current directory
+    folder_.Write("weld.vkr", "1\r\n2\r\n4\r\n8\r\n");
+    other.OpenFile("weld.vkr");
+    const std::string record =
+        output::ScreenRecord(other.Shown(), other.Record(), {2024, 1, 3, 12, 0, 0}, Medium::Log);
+    EXPECT_TRUE(record.ends_with(said));
+  }
+  std::filesystem::remove(folder_.Path("VALKORIN.COF"));
+  support::ProgramSession();  // loads the delivered files
+  OpenSeries();
+  EXPECT_EQ(Record().find(said), std::string::npos);
+}
+
 }  // namespace
