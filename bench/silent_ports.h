@@ -32,7 +32,19 @@ class SilentTableDialog final : public screen::TableDialog {
 
 class NoPrinter final : public screen::PrinterSurface {
  public:
-  bool PrintPage(const drawing::DrawingRecord&) override { return false; }
+  bool AnyPrinter() override { return false; }
+  bool Choose() override { return false; }
+  screen::Extent Paper() override { return {11906, 16838}; }
+  bool Print(const screen::PrintJob&) override { return false; }
+  bool WritePdf(const std::string&, const screen::PrintJob&) override { return false; }
+  bool TakeLine(const std::string&) override { return true; }
+  const std::vector<std::string>& OpenDocument() const override { return none_; }
+  void CloseDocument() override {}
+  std::vector<std::string> Fonts() override { return none_; }
+  screen::Extent TextExtent(const std::string&, const drawing::TextStyle&) override { return {}; }
+
+ private:
+  std::vector<std::string> none_;
 };
 
 }  // namespace bench

@@ -36,6 +36,7 @@ struct TextStyle {
   double size = 9;  // in printer's points
   bool bold = false;
   Colour colour{};
+  std::string family = {};  // of a font of the system; that of all drawings (font.h) when empty
   bool operator==(const TextStyle&) const = default;
 };
 

@@ -24,6 +24,11 @@ double LetterWidth(char32_t letter, bool bold);
 double Ascent();
 double Descent();
 
+// The font of texts in columns, as a TextStyle names it: it comes with the program, too.
+inline constexpr char kFixedFont[] = "Liberation Mono";
+// Of each of its letters, in font sizes.
+inline constexpr double kFixedWidth = 1229.0 / 2048;
+
 // Of one line, in twips; `size` in printer's points.
 double LineWidth(std::string_view line, double size, bool bold);
 

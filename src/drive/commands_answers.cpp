@@ -211,10 +211,6 @@ void ExpectClipboard(Play&, std::string rest) {
     throw Failure("the clipboard holds " + Quoted(text) + ", expected " + rest);
 }
 
-void Printed(Play& play, std::string) {
-  for (const std::string& line : play.printer.Take()) play.Say("printed " + Quoted(line));
-}
-
 void DumpTabs(Play& play, const screen::TabStrip& strip) {
   const QTabBar& shown = play.stage.Strip();
   for (std::size_t i = 0; i < strip.tabs.size(); ++i) {
@@ -270,7 +266,6 @@ const CommandTable& AnswerCommands() {
       {"question", Question},
       {"expect-question", ExpectQuestion},
       {"expect-clipboard", ExpectClipboard},
-      {"printed", Printed},
       {"dump", Dump},
   };
   return table;

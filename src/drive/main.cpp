@@ -12,6 +12,7 @@
 #include "drive/player.h"
 #include "drive/script.h"
 #include "drive/scripted_ports.h"
+#include "drive/scripted_printer.h"
 #include "drive/stage.h"
 #include "ui/application.h"
 

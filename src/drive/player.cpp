@@ -9,8 +9,9 @@ namespace drive {
 namespace {
 
 const Action* Known(const std::string& name) {
-  for (const CommandTable* table : {&WindowCommands(), &FieldCommands(), &AnswerCommands(),
-                                    &RecordCommands(), &FileCommands(), &TableCommands()}) {
+  for (const CommandTable* table :
+       {&WindowCommands(), &FieldCommands(), &AnswerCommands(), &RecordCommands(), &FileCommands(),
+        &PrinterCommands(), &TableCommands()}) {
     const auto found = table->find(name);
     if (found != table->end()) return &found->second;
   }
@@ -19,7 +20,8 @@ const Action* Known(const std::string& name) {
 
 // The commands that ask nothing of the window.
 bool NeedsNoWindow(const std::string& name) {
-  return name == "box" || name == "expect-box" || name == "expect-no-box" || name == "expect-ended";
+  return name == "box" || name == "expect-box" || name == "expect-no-box" ||
+         name == "expect-ended" || name == "printed" || name == "expect-printed";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "drive/script.h"
 #include "drive/scripted_ports.h"
+#include "drive/scripted_printer.h"
 #include "drive/stage.h"
 
 namespace drive {
@@ -26,12 +27,13 @@ struct Play {
 using Action = void (*)(Play&, std::string rest);
 using CommandTable = std::map<std::string, Action>;
 
-const CommandTable& WindowCommands();  // queued answers, menus, tabs, the window itself
-const CommandTable& FieldCommands();   // buttons, fields, the table
-const CommandTable& AnswerCommands();  // get, expect, dump, box
-const CommandTable& RecordCommands();  // set, eval, mask
-const CommandTable& FileCommands();    // what the program has written
-const CommandTable& TableCommands();   // undo, redo, the cursor and the selection of the table
+const CommandTable& WindowCommands();   // queued answers, menus, tabs, the window itself
+const CommandTable& FieldCommands();    // buttons, fields, the table
+const CommandTable& AnswerCommands();   // get, expect, dump, box
+const CommandTable& RecordCommands();   // set, eval, mask
+const CommandTable& FileCommands();     // what the program has written
+const CommandTable& PrinterCommands();  // the printer, and what it has printed
+const CommandTable& TableCommands();    // undo, redo, the cursor and the selection of the table
 
 // Plays one command; throws what ends a script.
 void PlayCommand(Play& play, const Command& command);

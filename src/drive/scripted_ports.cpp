@@ -26,6 +26,12 @@ const char* Name(Answer answer) {
       return "save";
     case Answer::Discard:
       return "discard";
+    case Answer::Print:
+      return "print";
+    case Answer::Keep:
+      return "keep";
+    case Answer::Drop:
+      return "drop";
   }
   return "?";
 }
@@ -42,6 +48,8 @@ const char* Name(Buttons buttons) {
       return "yes-no-cancel";
     case Buttons::SaveDiscardCancel:
       return "save-discard-cancel";
+    case Buttons::PrintKeepDropCancel:
+      return "print-keep-drop-cancel";
   }
   return "?";
 }
@@ -66,13 +74,17 @@ bool Offers(Buttons buttons, Answer answer) {
       return buttons == Buttons::Ok || buttons == Buttons::OkCancel;
     case Answer::Cancel:
       return buttons == Buttons::OkCancel || buttons == Buttons::YesNoCancel ||
-             buttons == Buttons::SaveDiscardCancel;
+             buttons == Buttons::SaveDiscardCancel || buttons == Buttons::PrintKeepDropCancel;
     case Answer::Yes:
     case Answer::No:
       return buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel;
     case Answer::Save:
     case Answer::Discard:
       return buttons == Buttons::SaveDiscardCancel;
+    case Answer::Print:
+    case Answer::Keep:
+    case Answer::Drop:
+      return buttons == Buttons::PrintKeepDropCancel;
   }
   return false;
 }
@@ -127,17 +139,9 @@ std::vector<ScriptedTableDialog::Shown> ScriptedTableDialog::Take() {
 
 std::string ScriptedTableDialog::TakeTrouble() { return std::exchange(trouble_, {}); }
 
-bool ScriptedPrinter::PrintPage(const drawing::DrawingRecord& drawing) {
-  for (const auto& item : drawing.Items())
-    if (const auto* text = std::get_if<drawing::DrawnText>(&item)) lines_.push_back(text->text);
-  return true;
-}
-
-std::vector<std::string> ScriptedPrinter::Take() { return std::exchange(lines_, {}); }
-
 Answer AnswerByName(const std::string& name) {
-  for (const Answer answer :
-       {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No, Answer::Save, Answer::Discard})
+  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No, Answer::Save,
+                              Answer::Discard, Answer::Print, Answer::Keep, Answer::Drop})
     if (name == Name(answer)) return answer;
   throw Failure("no such answer: " + Quoted(name));
 }

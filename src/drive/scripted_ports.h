@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "drawing/drawing.h"
 #include "screen/ports.h"
 
 namespace drive {
@@ -73,18 +72,6 @@ class ScriptedTableDialog final : public screen::TableDialog {
 class StandingClock final : public screen::Clock {
  public:
   base::DateTime Now() const override { return {2024, 3, 7, 9, 5, 30}; }
-};
-
-// Keeps the pages instead of printing them.
-class ScriptedPrinter final : public screen::PrinterSurface {
- public:
-  bool PrintPage(const drawing::DrawingRecord& drawing) override;
-
-  // The texts on the pages since the last call, one a line.
-  std::vector<std::string> Take();
-
- private:
-  std::vector<std::string> lines_;
 };
 
 // The answer with that name, or Failure.

@@ -19,6 +19,18 @@ struct OutputItem {
 
 namespace {
 
+bool Everywhere(std::string_view) { return true; }
+
+bool OnStart(std::string_view form) { return form == "BasisForm"; }
+
+bool BehindStart(std::string_view form) { return !OnStart(form); }
+
+bool OnTable(std::string_view form) { return form == "DataCtrlForm"; }
+
+bool WithReport(std::string_view form) {
+  return form == "DescriptForm" || form == "PercExForm" || form == "UCLForm";
+}
+
 bool OnDescriptive(std::string_view form) { return form == "DescriptForm"; }
 
 bool OnPlot(std::string_view form) { return form == "PlotForm"; }
@@ -31,9 +43,15 @@ bool WithRecord(std::string_view form) {
 
 // In the order of the menus. On the plot, MenuLog is the name of a scale.
 constexpr OutputItem kItems[] = {
+    {OutputAction::Form, "MenuPrinterPrint", 76, "MenuPrint", "Ctrl+P", Everywhere},
+    {OutputAction::Grid, "menuPrintgrid", 75, "MenuPrint", "", OnTable},
+    {OutputAction::Report, "MenuRapport", 77, "MenuPrint", "", WithReport},
     {OutputAction::Log, "MenuLog", 62, "MenuPrint", "", WithRecord},
     {OutputAction::Log, "MenuLogFile", 62, "MenuPrint", "", OnPlot},
     {OutputAction::ShowLog, "MenuReportOpen", 73, "MenuPrint", "", OnDescriptive},
+    {OutputAction::Gathered, "MenuGathered", Own::PrintGathered, "MenuPrint", "", BehindStart},
+    {OutputAction::Printer, "MenuPrinter", Own::ChoosePrinter, "MenuPrint", "", BehindStart},
+    {OutputAction::PrinterFont, "MenuPrinterFont", Own::PrinterFont, "MenuOptions", "", OnStart},
 };
 
 }  // namespace

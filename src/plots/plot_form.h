@@ -18,7 +18,6 @@ namespace plots {
 struct PlotForm final : navigation::SessionForm {
   PlotForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
-  screen::Control MenuPrinterPrint{*this, screen::Kind::Menu, "MenuPrinterPrint"};
   screen::Control menuSavePicture{*this, screen::Kind::Menu, "menuSavePicture"};
   screen::Control MenuReg{*this, screen::Kind::Menu, "MenuReg"};
   screen::Control MenuLowLim{*this, screen::Kind::Menu, "MenuLowLim"};
@@ -103,7 +102,6 @@ struct PlotForm final : navigation::SessionForm {
   void ToggleDeveloperMode();
   void ShowDevelopment();
   void SavePicture();
-  void Print();
 
   bool Upright() const { return session.PlotKind != PlotStyle::Inverse && !AnnexE(); }
   bool AnnexE() const { return session.PlotKind == PlotStyle::AnnexE; }

@@ -12,7 +12,6 @@ void PlotForm::ConnectMenus() {
     };
   MenuRedraw.Click = [this] { PlotStatus(); };
   menuSavePicture.Click = [this] { SavePicture(); };
-  MenuPrinterPrint.Click = [this] { Print(); };
   memuVALKOplot.Click = [this] { ShowKind(PlotStyle::Paper); };
   MenuInvPlot.Click = [this] { ShowKind(PlotStyle::Inverse); };
   MenuAnnexEPlot.Click = [this] { ShowKind(PlotStyle::AnnexE); };
@@ -73,14 +72,6 @@ void PlotForm::SavePicture() {
     Report({.did = Did::PictureSaved, .what = path});
   else
     Complain(OwnText(Own::PictureNotWrittenTo, {path}), title);
-}
-
-void PlotForm::Print() {
-  constexpr int kPrintError = 755;
-  constexpr int kNotPrinted = 760;
-  if (!ports.printer.PrintPage(PicPlot.drawing))
-    Complain(LoadResString(kNotPrinted), LoadResString(kPrintError));
-  PlotStatus();
 }
 
 }  // namespace plots

@@ -49,6 +49,13 @@ struct Place {
   bool operator==(const Place&) const = default;
 };
 
+// In which a text box shows its text.
+struct Font {
+  std::string family;
+  double points = 0;
+  bool operator==(const Font&) const = default;
+};
+
 // What of a control can be seen. A control's handlers never run because of a change made here.
 struct ControlState {
   std::string text;  // caption, or the text of a text or combo box
@@ -61,6 +68,7 @@ struct ControlState {
   std::optional<Colour> colour;  // of the text, a button's face; the system's when absent
   Sign sign = Sign::None;        // before the words of a label that shows a verdict
   std::vector<std::string> items;
+  std::optional<Font> font;    // the page's when absent
   std::optional<Place> place;  // of a control that its screen places; the layout's when absent
   bool operator==(const ControlState&) const = default;
 };

@@ -17,8 +17,8 @@ struct Control;
 struct Form;
 
 enum class Icon { None, Exclamation, Question, Information };
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, SaveDiscardCancel };
-enum class Answer { Ok, Cancel, Yes, No, Save, Discard };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, SaveDiscardCancel, PrintKeepDropCancel };
+enum class Answer { Ok, Cancel, Yes, No, Save, Discard, Print, Keep, Drop };
 
 struct Message {
   std::string text;
@@ -73,6 +73,8 @@ class Surface {
   virtual void Repaint(Form& form) = 0;
   // The same for one control of it, cheap enough for every step of a search.
   virtual void RepaintControl(Form& form, Control&) { Repaint(form); }
+  // What of `form` can be seen, whatever the colours of the desktop, as lines and texts on paper.
+  virtual drawing::DrawingRecord Drawn(Form& form) = 0;
 };
 
 class PictureFile {
@@ -83,11 +85,42 @@ class PictureFile {
   virtual bool Write(const std::string& path, const drawing::DrawingRecord& drawing) = 0;
 };
 
+// Of paper, or of a text on it; in twips.
+struct Extent {
+  double width = 0;
+  double height = 0;
+};
+
+// A document for the printer.
+struct PrintJob {
+  std::string title;                          // as the list of the printer's jobs has it
+  std::vector<drawing::DrawingRecord> pages;  // each as large as the paper, upright or lying
+};
+
 class PrinterSurface {
  public:
   virtual ~PrinterSurface() = default;
-  // Prints `drawing` on a page of its own, as large as the page allows. False when it can't.
-  virtual bool PrintPage(const drawing::DrawingRecord& drawing) = 0;
+  // Whether the system's list of printers has one.
+  virtual bool AnyPrinter() = 0;
+  // Asks for the printer of all further jobs. False when the user gave none.
+  virtual bool Choose() = 0;
+  // Upright, that of the chosen printer.
+  virtual Extent Paper() = 0;
+  // False when the chosen printer does not take the job; then nothing of it is printed.
+  virtual bool Print(const PrintJob& job) = 0;
+  // Writes the job as a PDF file, beside the file first. False, with nothing changed, on any
+  // failure.
+  virtual bool WritePdf(const std::string& path, const PrintJob& job) = 0;
+
+  // The document that stays open for one report behind the other. False when a line can't be taken.
+  virtual bool TakeLine(const std::string& line) = 0;
+  virtual const std::vector<std::string>& OpenDocument() const = 0;
+  virtual void CloseDocument() = 0;
+
+  // The families of fonts that a text can be printed in.
+  virtual std::vector<std::string> Fonts() = 0;
+  // What one line of text takes on the paper.
+  virtual Extent TextExtent(const std::string& line, const drawing::TextStyle& style) = 0;
 };
 
 struct Ports {

@@ -13,6 +13,7 @@ namespace start {
 struct BasisForm final : navigation::SessionForm {
   BasisForm(Record& sessionRecord, navigation::Desk& programDesk, screen::Ports& formPorts);
 
+  screen::Control MenuOptions{*this, screen::Kind::Menu, "MenuOptions"};
   screen::Control menuopen{*this, screen::Kind::Menu, "menuopen"};
   screen::Control MenuNewVkrFil{*this, screen::Kind::Menu, "MenuNewVkrFil"};
   screen::Control MenuOpdatbas{*this, screen::Kind::Menu, "MenuOpdatbas"};

@@ -60,6 +60,7 @@ screen::Form& Program::Shown() const { return *parts_->shown; }
 void Program::TellState() {
   Parts& p = *parts_;
   p.report.FollowSession();
+  if (p.shown == &p.printkeu) return;
   if (ShowsPicture())
     p.verdeling.TellState();
   else
@@ -166,12 +167,14 @@ std::string Program::PictureObstacle() const {
   return PlotWBas::Drawable(*numbers) ? "" : OwnText(Own::NoPicture);
 }
 
-void Program::ShowPicture() {
+void Program::ShowPicture() { ShowInstead(parts_->verdeling); }
+
+void Program::ShowInstead(screen::Form& form) {
   Parts& p = *parts_;
   p.behindPicture = p.shown;
-  p.shown = &p.verdeling;
-  if (onShow) onShow(p.verdeling);
-  p.verdeling.Activate();
+  p.shown = &form;
+  if (onShow) onShow(form);
+  form.Activate();
 }
 
 void Program::ClosePicture() {
@@ -181,6 +184,8 @@ void Program::ClosePicture() {
   if (onShow) onShow(*p.shown);
 }
 
-bool Program::ShowsPicture() const { return parts_->shown == &parts_->verdeling; }
+bool Program::ShowsPicture() const {
+  return parts_->shown == &parts_->verdeling || parts_->shown == &parts_->printkeu;
+}
 
 }  // namespace start

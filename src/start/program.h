@@ -44,6 +44,9 @@ class Program final : public navigation::Desk {
 
   // The user closes the window: true when the program may end.
   bool MayUnload();
+  // The program ends, and nobody can be asked: what would be lost without a file of its own is
+  // kept.
+  void EndUnasked();
   // Set by MenuExit's Yes: the window toolkit ends its loop.
   bool EndRequested() const;
 
@@ -73,6 +76,9 @@ class Program final : public navigation::Desk {
  private:
   std::string ExitAdvice() const;
   bool SeriesMayGo();
+  // Shows the form in place of the present screen, which stays as it is.
+  void ShowInstead(screen::Form& form);
+  void AddReport(screen::Form& form);
   void ShowRestored(const LastAction& action);
 
   struct Parts;

@@ -9,6 +9,8 @@
 #include "compliance/perc_ex_form.h"
 #include "limits/grenzen_form.h"
 #include "navigation/series_step.h"
+#include "output/printing.h"
+#include "output/printkeu_form.h"
 #include "output/report_form.h"
 #include "output/session_log.h"
 #include "plots/plot_form.h"
@@ -40,6 +42,8 @@ struct Program::Parts {
     allForms.push_back(&mean.landHulp);
     allForms.push_back(&verdeling);
     allForms.push_back(&report);
+    allForms.push_back(&printkeu);
+    printkeu.close = [&program] { program.ClosePicture(); };
     basis.tellReading = [this](const rawdata::ReadingNotes* notes) { dataCtrl.TellReading(notes); };
   }
 
@@ -49,6 +53,7 @@ struct Program::Parts {
   const ExposureSession& session = record.Now();
   navigation::Steps steps{record, ports.history};
   output::SessionLog log{record, ports};
+  output::Printing printing{ports, record};
   BasisForm basis;
   rawdata::DataCtrlForm dataCtrl;
   limits::GrenzenForm grenzen;
@@ -59,11 +64,13 @@ struct Program::Parts {
   compare::TwoSampCompForm compare;
   plots::VerdelingForm verdeling;
   output::ReportForm report;
+  output::PrintkeuForm printkeu{printing, ports};
   std::vector<navigation::SessionForm*> forms;
   std::vector<screen::Form*> allForms{forms.begin(), forms.end()};
 
   screen::Form* shown = &basis;
-  screen::Form* behindPicture = nullptr;  // the screen that the picture was called from
+  // The screen that the picture, or the trial of a font, was called from.
+  screen::Form* behindPicture = nullptr;
   bool endRequested = false;
   std::vector<double> savedSeries;  // C(1) to C(M) as the file holds them
 

@@ -50,9 +50,12 @@ bool Program::MayUnload() {
   if (p.endRequested) return true;
   const Message question{ExitQuestion(p.session), LoadResString(210), Icon::Question,
                          Buttons::OkCancel,       Answer::Ok,         ExitAdvice()};
-  p.endRequested = p.ports.messageBox.Show(question) == Answer::Ok && SeriesMayGo();
+  p.endRequested =
+      p.ports.messageBox.Show(question) == Answer::Ok && SeriesMayGo() && p.printing.MayEnd();
   return p.endRequested;
 }
+
+void Program::EndUnasked() { parts_->printing.End(); }
 
 std::string Program::ExitAdvice() const { return Unsaved() ? OwnText(Own::ChangesNotSaved) : ""; }
 
@@ -109,6 +112,8 @@ bool Program::MayDropSeries() {
 bool Program::CloseAllData() {
   Parts& p = *parts_;
   if (!MayDropSeries()) return false;
+  // What can't be printed now waits on.
+  p.printing.PrintGathered();
   if (p.shown != &p.basis) Open(ScreenId::Basis);
   p.basis.Menuclose_Click();
   return true;
@@ -120,7 +125,7 @@ void Program::Exit() {
   const Message question{ExitQuestion(p.session), LoadResString(210), Icon::None,
                          Buttons::YesNo,          Answer::No,         ExitAdvice()};
   if (p.ports.messageBox.Show(question) == Answer::Yes)
-    p.endRequested = SeriesMayGo();
+    p.endRequested = SeriesMayGo() && p.printing.MayEnd();
   else
     Open(ScreenId::Basis);
 }

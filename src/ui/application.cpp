@@ -72,6 +72,11 @@ class WindowSurface final : public screen::Surface {
     if (window_) window_->RepaintControl(form, control);
     ClearVectorRegisters();
   }
+  drawing::DrawingRecord Drawn(screen::Form& form) override {
+    drawing::DrawingRecord drawn = window_->Drawn(form);
+    ClearVectorRegisters();
+    return drawn;
+  }
 
  private:
   MainWindow* window_ = nullptr;

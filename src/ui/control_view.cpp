@@ -107,6 +107,7 @@ void ControlView::PushWidget(const screen::ControlState& old, bool first) {
   if (first || now.ticked != old.ticked) PushTicked();
   if (first || now.value != old.value) PushValue();
   if (first || now.enabled != old.enabled) widget_->setEnabled(now.enabled);
+  if (now.font && now.font != old.font) PushFont();
   if (first || now.visible != old.visible) widget_->setVisible(now.visible);
   if (now.place && (first || now.place != old.place)) PushPlace();
   if (first || now.colour != old.colour || now.sign != old.sign || now.locked != old.locked)
@@ -190,6 +191,12 @@ void ControlView::PushPlace() {
   widget_->setGeometry(
       QRectF(twips.topLeft() / drawing::kTwipsPerPixel, twips.size() / drawing::kTwipsPerPixel)
           .toRect());
+}
+
+void ControlView::PushFont() {
+  QFont font(Shown(shown_->font->family));
+  font.setPointSizeF(shown_->font->points);
+  widget_->setFont(font);
 }
 
 void ControlView::PushValue() {

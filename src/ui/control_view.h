@@ -47,6 +47,7 @@ class ControlView {
   void ShowWhole(QLineEdit& box);
   void PushItems();
   void PushTicked();
+  void PushFont();
   void PushPlace();
   void PushValue();
   void PushLook();

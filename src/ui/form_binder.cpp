@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "screen/text_view.h"
+#include "ui/live_label.h"
 #include "ui/tab_order.h"
 #include "ui/text.h"
 #include "ui/up_down_pair.h"
@@ -66,6 +67,13 @@ QWidget* FormBinder::TakeContent() {
   delete std::exchange(page_.frame, nullptr);
   page_.area = nullptr;
   return page_.content;
+}
+
+QList<const QWidget*> FormBinder::PaperParts() const {
+  QList<const QWidget*> parts{page_.content};
+  if (page_.frame)
+    for (const auto* line : page_.frame->findChildren<LiveLabel*>()) parts += line;
+  return parts;
 }
 
 void FormBinder::Connect(FocusWatch& focus) {

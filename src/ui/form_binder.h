@@ -37,6 +37,8 @@ class FormBinder : public QObject {
   screen::Form& Form() const { return form_; }
   const std::vector<QAction*>& BarItems() const { return page_.barItems; }
   QWidget* Frame() const { return page_.frame; }
+  // What of the page goes on paper: all of it, in sight or not, and the live line.
+  QList<const QWidget*> PaperParts() const;
   // The laid-out controls for a window of their own; there is no frame any more.
   QWidget* TakeContent();
   QWidget* WidgetOf(const screen::Control& control) const;

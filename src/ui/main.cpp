@@ -2,8 +2,10 @@
 
 #include "ui/application.h"
 #include "ui/clock.h"
+#include "ui/cups_system.h"
 #include "ui/file_dialog.h"
 #include "ui/message_box.h"
+#include "ui/print_dialog.h"
 #include "ui/printer.h"
 #include "ui/table_dialog.h"
 
@@ -13,7 +15,9 @@ int main(int argc, char** argv) {
   ui::MessageBox messageBox;
   ui::FileDialog fileDialog;
   ui::Clock clock;
-  ui::Printer printer;
+  ui::CupsSystem printSystem;
+  ui::PrintDialog printDialog;
+  ui::Printer printer(printSystem, printDialog);
   ui::TableDialog tableDialog;
   ui::Application application({messageBox, fileDialog, clock, printer, tableDialog});
   application.Start();

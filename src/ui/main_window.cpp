@@ -56,6 +56,12 @@ FormBinder* MainWindow::Private::BinderOf(const screen::Form& form) const {
   return nullptr;
 }
 
+QList<const QWidget*> MainWindow::Private::PartsOf(const FormBinder& binder) const {
+  QList<const QWidget*> parts;
+  if (strip_->isVisible()) parts += strip_;
+  return parts + binder.PaperParts();
+}
+
 screen::Control* MainWindow::Private::ControlOf(QWidget* widget) const {
   for (const auto& binder : binders_)
     if (screen::Control* control = binder->ControlOf(widget)) return control;

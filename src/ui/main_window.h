@@ -31,6 +31,7 @@ class MainWindow : public QMainWindow, public screen::Surface {
   // screen::Surface
   void Repaint(screen::Form& form) override;
   void RepaintControl(screen::Form& form, screen::Control& control) override;
+  drawing::DrawingRecord Drawn(screen::Form& form) override;
 
   // The widget of a control that is no menu and no tab strip; the action of a menu (a submenu's
   // own action included). Null when the form has no such widget.

@@ -4,6 +4,7 @@
 #include <QSessionManager>
 #include <QWindow>
 
+#include "ui/form_drawing.h"
 #include "ui/main_window_parts.h"
 #include "ui/window_place.h"
 
@@ -52,6 +53,27 @@ void MainWindow::KeepOnScreen() {
   setGeometry(ContentPlace(size(), available, frame));
 }
 
+// The strip, the whole page, and the live line below it.
+drawing::DrawingRecord MainWindow::Drawn(screen::Form& form) {
+  const FormBinder* binder = private_->BinderOf(form);
+  if (!binder) return {1, 1};
+  const QList<const QWidget*> parts = private_->PartsOf(*binder);
+  QSize size;
+  for (const QWidget* part : parts)
+    size = {std::max(size.width(), part->width()), size.height() + part->height()};
+  drawing::DrawingRecord drawn(size.width() * drawing::kTwipsPerPixel,
+                               size.height() * drawing::kTwipsPerPixel);
+  FormDrawing drawing(drawn, [binder](const QWidget* widget) -> const screen::Control* {
+    return binder->ControlOf(widget);
+  });
+  double top = 0;
+  for (const QWidget* part : parts) {
+    drawing.Add(*part, {0, top});
+    top += part->height();
+  }
+  return drawn;
+}
+
 bool MainWindow::MayEnd() {
   start::Program& program = private_->program_;
   bool mayEnd = program.EndRequested();
@@ -72,7 +94,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 // The toolkit closes no window by itself when the desktop ends the session.
 void MainWindow::EndSession(QSessionManager& session) {
-  if (!session.allowsInteraction()) return;
+  if (!session.allowsInteraction()) {
+    private_->program_.EndUnasked();
+    return;
+  }
   if (!MayEnd()) session.cancel();
   session.release();
 }

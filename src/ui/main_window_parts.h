@@ -22,6 +22,8 @@ class MainWindow::Private {
  public:
   Private(MainWindow& window, start::Program& program, screen::Ports& ports);
 
+  // What is seen of a screen, from top to bottom.
+  QList<const QWidget*> PartsOf(const FormBinder& binder) const;
   FormBinder* BinderOf(const screen::Form& form) const;
   screen::Control* ControlOf(QWidget* widget) const;
   void Add(screen::Form& form);

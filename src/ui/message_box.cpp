@@ -37,6 +37,8 @@ QMessageBox::StandardButtons ButtonsOf(screen::Buttons buttons) {
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case screen::Buttons::SaveDiscardCancel:
       return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
+    case screen::Buttons::PrintKeepDropCancel:
+      return QMessageBox::Yes | QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     case screen::Buttons::Ok:
       break;
   }
@@ -51,14 +53,43 @@ QMessageBox::StandardButton ButtonOf(screen::Answer answer) {
       return QMessageBox::Yes;
     case screen::Answer::No:
       return QMessageBox::No;
+    case screen::Answer::Print:
+      return QMessageBox::Yes;
     case screen::Answer::Save:
+    case screen::Answer::Keep:
       return QMessageBox::Save;
     case screen::Answer::Discard:
+    case screen::Answer::Drop:
       return QMessageBox::Discard;
     case screen::Answer::Ok:
       break;
   }
   return QMessageBox::Ok;
+}
+
+// The toolkit has no buttons of its own for what becomes of a document: others take their words.
+screen::Answer AnswerOfDocument(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return screen::Answer::Print;
+    case QMessageBox::Save:
+      return screen::Answer::Keep;
+    case QMessageBox::Discard:
+      return screen::Answer::Drop;
+    default:
+      return screen::Answer::Cancel;
+  }
+}
+
+void NameButtons(QMessageBox& box, screen::Buttons buttons) {
+  const auto name = [&box](QMessageBox::StandardButton button, Own words) {
+    if (QAbstractButton* found = box.button(button)) found->setText(Lines(OwnText(words)));
+  };
+  const bool document = buttons == screen::Buttons::PrintKeepDropCancel;
+  name(QMessageBox::Discard, document ? Own::DropThem : Own::DontSave);
+  if (!document) return;
+  name(QMessageBox::Yes, Own::PrintThem);
+  name(QMessageBox::Save, Own::KeepAsPdf);
 }
 
 screen::Answer AnswerOf(int button) {
@@ -84,6 +115,7 @@ QMessageBox::StandardButton EscapeOf(screen::Buttons buttons) {
     case screen::Buttons::OkCancel:
     case screen::Buttons::YesNoCancel:
     case screen::Buttons::SaveDiscardCancel:
+    case screen::Buttons::PrintKeepDropCancel:
       return QMessageBox::Cancel;
     case screen::Buttons::YesNo:
       return QMessageBox::No;
@@ -143,10 +175,11 @@ screen::Answer MessageBox::Show(const screen::Message& message) {
   box.setStandardButtons(ButtonsOf(message.buttons));
   box.setDefaultButton(ButtonOf(message.defaultAnswer));
   box.setEscapeButton(EscapeOf(message.buttons));
-  if (QAbstractButton* discard = box.button(QMessageBox::Discard))
-    discard->setText(Lines(OwnText(Own::DontSave)));
+  NameButtons(box, message.buttons);
   Widen(box);
-  return AnswerOf(box.exec());
+  const int button = box.exec();
+  return message.buttons == screen::Buttons::PrintKeepDropCancel ? AnswerOfDocument(button)
+                                                                 : AnswerOf(button);
 }
 
 }  // namespace ui

@@ -17,6 +17,7 @@
 #include "ui/ui_land_hulp_form.h"
 #include "ui/ui_perc_ex_form.h"
 #include "ui/ui_plot_form.h"
+#include "ui/ui_printkeu_form.h"
 #include "ui/ui_report_form.h"
 #include "ui/ui_two_samp_comp_form.h"
 #include "ui/ui_ucl_form.h"
@@ -46,6 +47,7 @@ const std::map<std::string, Shell (*)()>& Designs() {
       {"LandHulpForm", &Lay<Ui::LandHulpForm>},
       {"TwoSampCompForm", &Lay<Ui::TwoSampCompForm>},
       {"ReportForm", &Lay<Ui::ReportForm>},
+      {"frmPrintkeu", &Lay<Ui::frmPrintkeu>},
       {"VerdelingForm", &Lay<Ui::VerdelingForm>},
   };
   return designs;

@@ -44,6 +44,10 @@ void PainterSurface::Dot(drawing::Point at, drawing::Colour colour) {
 
 void PainterSurface::Text(drawing::Point at, const std::string& text,
                           const drawing::TextStyle& style, const std::string&) {
+  if (!style.family.empty()) {
+    SystemText(at, text, style);
+    return;
+  }
   const double pixels = style.size * drawing::kTwipsPerPoint * factor_;
   const PictureFont font(pixels, style.bold);
   painter_.setPen(Shade(style.colour));
@@ -55,6 +59,29 @@ void PainterSurface::Text(drawing::Point at, const std::string& text,
   for (const QString& line : lines) {
     const double indent = Share(style.across) * font.Width(line);
     font.Draw(painter_, corner - QPointF(indent, 0), line);
+    corner.ry() += spacing;
+  }
+}
+
+void PainterSurface::SystemText(drawing::Point at, const std::string& text,
+                                const drawing::TextStyle& style) {
+  constexpr double kPointsToTheInch = 72;
+  const double pixels = style.size * drawing::kTwipsPerPoint * factor_;
+  QFont font(Shown(style.family));
+  font.setPointSizeF(pixels * kPointsToTheInch / painter_.device()->logicalDpiY());
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setKerning(false);
+  const QFontMetricsF metrics(font, painter_.device());
+  painter_.setFont(font);
+  painter_.setPen(Shade(style.colour));
+  const QStringList lines = Lines(text).split(QLatin1Char('\n'));
+  QPointF corner = Place(at);
+  const double spacing = pixels * drawing::kLineSpacing;
+  corner.ry() -= Share(style.down) * spacing * static_cast<double>(lines.size());
+  corner.ry() += (spacing + metrics.ascent() - metrics.descent()) / 2;
+  for (const QString& line : lines) {
+    const double indent = Share(style.across) * metrics.horizontalAdvance(line);
+    painter_.drawText(corner - QPointF(indent, 0), line);
     corner.ry() += spacing;
   }
 }

@@ -24,6 +24,7 @@ class PainterSurface final : public drawing::DrawSurface {
 
  private:
   QPointF Place(drawing::Point at) const;
+  void SystemText(drawing::Point at, const std::string& text, const drawing::TextStyle& style);
 
   QPainter& painter_;
   QRectF target_;

@@ -1,8 +1,10 @@
 #include "ui/picture_font.h"
 
 #include <QCoreApplication>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QPaintEngine>
 #include <QPointer>
 
 #include <algorithm>
@@ -22,17 +24,32 @@ class FontFiles final : public QObject {
     NameResource();
     regular = Read(QStringLiteral(":/fonts/LiberationSans-Regular.ttf"));
     bold = Read(QStringLiteral(":/fonts/LiberationSans-Bold.ttf"));
+    fixed = Known(QStringLiteral(":/fonts/LiberationMono-Regular.ttf"));
+    regularInFile = Known(QStringLiteral(":/fonts/LiberationSans-Regular.ttf"));
+    boldInFile = Known(QStringLiteral(":/fonts/LiberationSans-Bold.ttf"));
+    boldInFile.setBold(true);
   }
 
   QRawFont regular;
   QRawFont bold;
+  // The same for a document that takes its fonts along, which the toolkit does by their names.
+  QFont regularInFile;
+  QFont boldInFile;
+  QFont fixed;
 
  private:
   // Without hinting letters keep their widths and shapes at every size.
-  static QRawFont Read(const QString& path) {
-    constexpr double kAnySize = 12;
-    return QRawFont(path, kAnySize, QFont::PreferNoHinting);
+  static QRawFont Read(const QString& path) { return QRawFont(path, kAnySize, kHinting); }
+  static QFont Known(const QString& path) {
+    const int known = QFontDatabase::addApplicationFont(path);
+    QFont font(QFontDatabase::applicationFontFamilies(known).value(0));
+    font.setPixelSize(kAnySize);
+    font.setHintingPreference(kHinting);
+    return font;
   }
+
+  static constexpr int kAnySize = 12;
+  static constexpr QFont::HintingPreference kHinting = QFont::PreferNoHinting;
 };
 
 const FontFiles& TheFiles() {
@@ -45,7 +62,10 @@ QString AsText(char32_t letter) { return QString::fromUcs4(&letter, 1); }
 
 }  // namespace
 
-bool LoadPictureFont() { return TheFiles().regular.isValid() && TheFiles().bold.isValid(); }
+bool LoadPictureFont() {
+  const FontFiles& files = TheFiles();
+  return files.regular.isValid() && files.bold.isValid() && !files.fixed.family().isEmpty();
+}
 
 PictureFont::PictureFont(double pixels, bool bold)
     : pixels_(pixels), bold_(bold), font_(bold ? TheFiles().bold : TheFiles().regular) {
@@ -58,7 +78,15 @@ double PictureFont::Width(const QString& line) const {
   return width * pixels_;
 }
 
+QRawFont PictureFont::FontFor(const QPainter& painter) const {
+  if (painter.paintEngine()->type() != QPaintEngine::Pdf) return font_;
+  QRawFont font = QRawFont::fromFont(bold_ ? TheFiles().boldInFile : TheFiles().regularInFile);
+  font.setPixelSize(pixels_);
+  return font;
+}
+
 void PictureFont::Draw(QPainter& painter, QPointF start, const QString& line) const {
+  const QRawFont font = FontFor(painter);
   QList<quint32> glyphs;
   QList<QPointF> places;
   double along = 0;
@@ -69,12 +97,12 @@ void PictureFont::Draw(QPainter& painter, QPointF start, const QString& line) co
       DrawStrange(painter, start + at, letter);
       continue;
     }
-    const QList<quint32> found = font_.glyphIndexesForString(AsText(letter));
+    const QList<quint32> found = font.glyphIndexesForString(AsText(letter));
     glyphs += found.value(0);
     places += at;
   }
   QGlyphRun run;
-  run.setRawFont(font_);
+  run.setRawFont(font);
   run.setGlyphIndexes(glyphs);
   run.setPositions(places);
   painter.drawGlyphRun(start, run);

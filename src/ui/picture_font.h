@@ -19,6 +19,7 @@ class PictureFont {
   void Draw(QPainter& painter, QPointF start, const QString& line) const;
 
  private:
+  QRawFont FontFor(const QPainter& painter) const;
   void DrawStrange(QPainter& painter, QPointF at, char32_t letter) const;
 
   double pixels_;

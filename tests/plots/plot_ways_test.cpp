@@ -271,7 +271,7 @@ TEST_F(PlotWays, TellOfAPictureThatCouldNotBeSaved) {
 TEST_F(PlotWays, PrintThePicture) {
   p.See(kTen);
   p.Click("MenuPrinterPrint");
-  ASSERT_EQ(p.printer.pages.size(), 1U);
+  ASSERT_EQ(p.printer.jobs.size(), 1U);
   EXPECT_TRUE(p.box.shown.empty());
   p.printer.fails = true;
   p.Click("MenuPrinterPrint");

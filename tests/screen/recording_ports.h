@@ -4,6 +4,7 @@
 
 #include "screen/form.h"
 #include "tests/support/plain_history.h"
+#include "tests/support/recording_printer.h"
 
 // Ports that keep what was asked of them.
 namespace recording {
@@ -26,6 +27,7 @@ struct Surface : screen::Surface {
   void RepaintControl(screen::Form& form, screen::Control& control) override {
     repainted.push_back(form.name + "." + control.name);
   }
+  drawing::DrawingRecord Drawn(screen::Form&) override { return {12000, 9000}; }
 };
 
 struct Clock : screen::Clock {
@@ -34,10 +36,6 @@ struct Clock : screen::Clock {
 
 struct PictureFile : screen::PictureFile {
   bool Write(const std::string&, const drawing::DrawingRecord&) override { return false; }
-};
-
-struct Printer : screen::PrinterSurface {
-  bool PrintPage(const drawing::DrawingRecord&) override { return false; }
 };
 
 struct TableDialog : screen::TableDialog {
@@ -50,7 +48,7 @@ struct Ports {
   Surface surface;
   Clock clock;
   PictureFile pictureFile;
-  Printer printer;
+  support::RecordingPrinter printer;
   support::PlainHistory history;
   TableDialog tableDialog;
   screen::Ports ports{messageBox,  fileDialog, surface, clock,

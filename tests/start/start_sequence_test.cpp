@@ -106,6 +106,7 @@ TEST(Start, AMissingCoefficientFileDoesNotStopIt) {
 
 TEST(Start, TheMenusWithoutARoutineDoNothing) {
   ProgramSession user;
+  user.program.TellState();
   const auto before = Look(user.Shown());
   for (const char* menu : {"MenuWebsite", "MenuOpdatbas", "MenuOpSprSht"}) {
     user.Click(menu);

@@ -43,9 +43,13 @@ bool RecordingPictures::Write(const std::string& path, const drawing::DrawingRec
   return !fails;
 }
 
-bool RecordingPrinter::PrintPage(const drawing::DrawingRecord& drawing) {
-  if (!fails) pages.push_back(drawing);
-  return !fails;
+drawing::DrawingRecord CountingSurface::Drawn(screen::Form& form) {
+  drawing::DrawingRecord drawing(12000, 9000);
+  double top = 0;
+  for (const screen::Control* control : form.controls)
+    if (control->visible && !control->text.empty())
+      drawing.Text({0, top += 180}, control->text, {}, control->name);
+  return drawing;
 }
 
 ProgramSession::ProgramSession() : program(ports, {VALKORIN_SOURCE_DIR "/data"}) {

@@ -10,6 +10,7 @@
 #include "screen/ports.h"
 #include "start/program.h"
 #include "tests/support/plain_history.h"
+#include "tests/support/recording_printer.h"
 
 namespace support {
 
@@ -50,6 +51,8 @@ class CountingSurface final : public screen::Surface {
   void RepaintControl(screen::Form&, screen::Control& control) override {
     if (onControl) onControl(control);
   }
+  // The texts of its controls, one below the other.
+  drawing::DrawingRecord Drawn(screen::Form& form) override;
   int repaints = 0;
   std::function<void()> onRepaint;
   std::function<void(const screen::Control&)> onControl;
@@ -70,14 +73,6 @@ class RecordingPictures final : public screen::PictureFile {
   };
   bool Write(const std::string& path, const drawing::DrawingRecord& drawing) override;
   std::vector<Written> written;
-  bool fails = false;
-};
-
-// Keeps the printed pages, or has no paper.
-class RecordingPrinter final : public screen::PrinterSurface {
- public:
-  bool PrintPage(const drawing::DrawingRecord& drawing) override;
-  std::vector<drawing::DrawingRecord> pages;
   bool fails = false;
 };
 

@@ -20,6 +20,9 @@ bool Offers(Buttons buttons, Answer answer) {
       return answer == Answer::Yes || answer == Answer::No;
     case Buttons::SaveDiscardCancel:
       return answer == Answer::Save || answer == Answer::Discard || answer == Answer::Cancel;
+    case Buttons::PrintKeepDropCancel:
+      return answer == Answer::Print || answer == Answer::Keep || answer == Answer::Drop ||
+             answer == Answer::Cancel;
     default:
       return answer == Answer::Yes || answer == Answer::No || answer == Answer::Cancel;
   }

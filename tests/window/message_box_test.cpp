@@ -59,6 +59,23 @@ TEST(MessageBox, SaveDontSaveAndCancelAnswerWhatTheySay) {
   EXPECT_EQ(caption.remove(QLatin1Char('&')), "Don't save");
 }
 
+TEST(MessageBox, AsksWhatBecomesOfADocumentInItsOwnWords) {
+  const screen::Message question = {"text", "title", screen::Icon::Question,
+                                    Buttons::PrintKeepDropCancel, Answer::Print};
+  EXPECT_EQ(AnswerTo(Qt::Key_Return, question), Answer::Print);
+  EXPECT_EQ(AnswerTo(Qt::Key_Escape, question), Answer::Cancel);
+  const auto clicked = [&](QMessageBox::StandardButton button, const char* words) {
+    return AnswerTo(Qt::Key_Shift, question, [&](const QMessageBox& box) {
+      QString caption = box.button(button)->text();
+      EXPECT_EQ(caption.remove(QLatin1Char('&')), QLatin1String(words));
+      box.button(button)->click();
+    });
+  };
+  EXPECT_EQ(clicked(QMessageBox::Yes, "Print"), Answer::Print);
+  EXPECT_EQ(clicked(QMessageBox::Save, "Keep as PDF"), Answer::Keep);
+  EXPECT_EQ(clicked(QMessageBox::Discard, "Drop"), Answer::Drop);
+}
+
 // A title bar that is wider than the box would be cut, and with it the name of the field.
 TEST(MessageBox, IsAtLeastAsWideAsItsTitle) {
   for (const char* title : {"Geometric Standard Deviation",

@@ -7,18 +7,18 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
 #include <filesystem>
 
+#include "drawing/font.h"
 #include "screen/picture.h"
 #include "tests/screen/recording_ports.h"
 #include "tests/window/toolkit.h"
 #include "ui/painter_surface.h"
+#include "ui/pdf_pages.h"
 #include "ui/picture_file.h"
 #include "ui/picture_view.h"
-#include "ui/printer.h"
 
 namespace {
 
@@ -166,22 +166,30 @@ TEST_F(SavedPicture, KeepsTheRightsOfTheFileAndTheLinkToIt) {
   EXPECT_EQ(std::filesystem::status(Path("real.bmp")).permissions(), std::filesystem::perms(0640));
 }
 
-TEST_F(SavedPicture, IsPrintedOnOnePageThatLiesWhenThePictureIsWide) {
+// A page of the printer, upright or lying as the drawing is.
+TEST_F(Painting, IsPrintedOnAPageOfItsSizeForEachDrawing) {
   drawing_.Line({300, 750}, {2700, 750}, kRed, 60);
   drawing_.Text({1500, 300}, "GM", {}, "GMLbl");
-  for (const bool wide : {true, false}) {
-    if (!wide) drawing_.SetScale(1500, 3000);
-    const QString path = folder_.filePath(QStringLiteral("page.pdf"));
-    QPdfWriter page(path);
-    ASSERT_TRUE(ui::PrintOn(page, drawing_));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray pdf = file.readAll();
-    EXPECT_TRUE(pdf.startsWith("%PDF"));
-    EXPECT_TRUE(pdf.contains("/Count 1"));
-    EXPECT_EQ(page.pageLayout().orientation(),
-              wide ? QPageLayout::Landscape : QPageLayout::Portrait);
-  }
+  const DrawingRecord upright(1500, 3000);
+  const QByteArray pdf = ui::PdfOf({"Pages", {drawing_, upright}});
+  EXPECT_TRUE(pdf.startsWith("%PDF"));
+  EXPECT_TRUE(pdf.contains("/Count 2"));
+  EXPECT_TRUE(pdf.contains("/MediaBox [0 0 150.000000 75.000000]")) << "3000 by 1500 twips";
+  EXPECT_TRUE(pdf.contains("/MediaBox [0 0 75.000000 150.000000]"));
+}
+
+TEST_F(Painting, APrintedTextTakesItsFontAlong) {
+  drawing_.Text({1500, 300}, "GM", {}, "GMLbl");
+  drawing_.Text({1500, 600}, "column 85", {.family = drawing::kFixedFont}, "Line");
+  const QByteArray pdf = ui::PdfOf({"Page", {drawing_}});
+  EXPECT_TRUE(pdf.contains("LiberationSans"));
+  EXPECT_TRUE(pdf.contains("LiberationMono"));
+  EXPECT_TRUE(pdf.contains("/FontFile2"));
+  EXPECT_FALSE(pdf.contains("/Subtype /Image")) << "no bitmap";
+}
+
+TEST_F(Painting, AJobWithoutAPageIsNoDocument) {
+  EXPECT_TRUE(ui::PdfOf({"Nothing", {}}).isEmpty());
 }
 
 class PictureOnTheScreen : public Painting {
