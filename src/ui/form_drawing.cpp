@@ -103,9 +103,12 @@ void FormDrawing::AddLabel(const QLabel& label) {
   const auto* verdict = qobject_cast<const VerdictLabel*>(&label);
   if (verdict) AddSign(*verdict);
   const QRectF whole = PlaceOf(label);
-  if (label.frameStyle() != QFrame::NoFrame && label.frameWidth() > 0) pen_.Box(whole);
+  const bool framed = label.frameStyle() != QFrame::NoFrame && label.frameWidth() > 0;
+  if (framed) pen_.Box(whole);
   const QRectF inner = QRectF(label.contentsRect()).translated(whole.topLeft());
-  const int indent = std::max(label.indent(), 0);
+  // As the toolkit has it where the designer says nothing.
+  const int usual = framed ? label.fontMetrics().horizontalAdvance(QLatin1Char('x')) / 2 : 0;
+  const int indent = label.indent() < 0 ? usual : label.indent();
   pen_.Text(inner.adjusted(indent, 0, 0, 0), label.text(), look, NameOf(label));
 }
 
