@@ -23,7 +23,9 @@ std::string OnOneLine(const std::string& text) {
 
 std::string NameOf(const std::string& caption) {
   std::string name = OnOneLine(caption);
-  while (name.ends_with('=') || name.ends_with(' ')) name.pop_back();
+  const auto atEnd = [&name](char c) { return name.ends_with(c); };
+  const auto compares = [&name] { return name.ends_with(">=") || name.ends_with("<="); };
+  while (atEnd(' ') || (atEnd('=') && !compares())) name.pop_back();
   return name;
 }
 

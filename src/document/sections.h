@@ -34,7 +34,7 @@ bool HasTests(const ExposureSession& s);
 bool HasComparison(const ExposureSession& s, const Circumstances& circumstances);
 
 // A row of the catalogue, or a caption made of it, as the name of a result: on one line, without
-// blanks and the sign at its end.
+// blanks and the equals sign at its end.
 std::string NameOf(const std::string& caption);
 std::string RowName(int row);
 // On one line, with single blanks.

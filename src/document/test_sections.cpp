@@ -107,9 +107,11 @@ Section LimitsOf(const ExposureSession& s) {
   Facts facts;
   facts.results = {
       {RowName(2102), Value(s, s.OELV), s.Unit, ""},
-      {DocText(Doc::ReferencePeriod), period.empty() ? DocText(Doc::NotStated) : period, "", ""},
-      {RowName(2103), Value(s, s.U), "%", RowName(2106)},
-      {RowName(2101), Value(s, s.D), "%", RowName(2107)}};
+      {DocText(Doc::ReferencePeriod), period.empty() ? DocText(Doc::NotStated) : period, "", ""}};
+  if (GlobalBAS::InRangeU(s.U))
+    facts.results.push_back({RowName(2103), Value(s, s.U), "%", RowName(2106)});
+  if (GlobalBAS::InRangeD(s.D))
+    facts.results.push_back({RowName(2101), Value(s, s.D), "%", RowName(2107)});
   section.blocks.emplace_back(std::move(facts));
   const std::string toState = wording::LimitToState(s);
   if (!toState.empty()) section.blocks.emplace_back(Words{toState});
