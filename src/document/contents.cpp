@@ -49,8 +49,8 @@ bool HasOutcomes(const ExposureSession& s) {
 }
 
 bool HasEstimates(const ExposureSession& s) {
-  return workflow::ObstacleTo(s, ScreenId::DataCtrl, ScreenId::Descript) ==
-         workflow::Obstacle::None;
+  return !s.RawIncomplete && workflow::ObstacleTo(s, ScreenId::DataCtrl, ScreenId::Descript) ==
+                                 workflow::Obstacle::None;
 }
 
 bool HasPaper(const ExposureSession& s) {

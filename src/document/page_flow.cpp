@@ -30,16 +30,28 @@ void PageFlow::Row(const std::vector<Cell>& cells) {
     height = std::max(height, RowHeight(cell.face));
   }
   Need(std::min(static_cast<double>(rows) * height, foot_ - kTop));
+  // Cell by cell, so that each can be selected and read by itself; a row that is longer than a page
+  // has to go line by line.
+  const bool whole = static_cast<double>(rows) * height <= Room();
+  if (whole) {
+    for (std::size_t i = 0; i < cells.size(); ++i)
+      for (std::size_t row = 0; row < lines[i].size(); ++row)
+        PutLine(cells[i], lines[i][row], static_cast<double>(row) * height, height);
+    y_ += static_cast<double>(rows) * height;
+    return;
+  }
   for (std::size_t row = 0; row < rows; ++row) {
     Need(height);
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-      if (row >= lines[i].size() || lines[i][row].empty()) continue;
-      // The letters of one row stand on one line, whatever their sizes.
-      const double lower = (height - RowHeight(cells[i].face)) * 0.8;
-      Text({cells[i].left, y_ + lower}, lines[i][row], cells[i].face);
-    }
+    for (std::size_t i = 0; i < cells.size(); ++i)
+      if (row < lines[i].size()) PutLine(cells[i], lines[i][row], 0, height);
     y_ += height;
   }
+}
+
+// The letters of one row stand on one line, whatever their sizes.
+void PageFlow::PutLine(const Cell& cell, const std::string& line, double below, double height) {
+  const double lower = (height - RowHeight(cell.face)) * 0.8;
+  if (!line.empty()) Text({cell.left, y_ + below + lower}, line, cell.face);
 }
 
 void PageFlow::Rule(drawing::Colour colour, double width) {

@@ -54,6 +54,8 @@ class PageFlow {
   void Text(drawing::Point at, const std::string& text, const Typeface& face);
 
  private:
+  void PutLine(const Cell& cell, const std::string& line, double below, double height);
+
   double foot_;
   double y_ = kTop;
   std::vector<drawing::DrawingRecord> pages_;
