@@ -132,6 +132,9 @@ constexpr Row kRows[] = {
     {Doc::ColumnMethod, "Method"},
     {Doc::WhatItIs, "What it is"},
     {Doc::NotWritten, "The report could not be written to {0}."},
+    {Doc::Written, "Report saved to {0}."},
+    {Doc::OwnFile, "{0} holds the series itself: choose another name for the report."},
+    {Doc::OtherEnding, "A report is written as .pdf, .txt or .csv: {0} has another ending."},
     {Doc::DialogTitle, "Save the report"},
     {Doc::Files, "PDF document (*.pdf)|*.pdf|Text (*.txt)|*.txt|CSV table (*.csv)|*.csv"},
 };

@@ -96,6 +96,9 @@ enum class Doc {
   ColumnMethod,
   WhatItIs,
   NotWritten,
+  Written,
+  OwnFile,
+  OtherEnding,
   DialogTitle,
   Files,
 };

@@ -41,7 +41,10 @@ bool WithRecord(std::string_view form) {
   return std::ranges::find(kForms, form) != std::end(kForms);
 }
 
-// In the order of the menus. On the plot, MenuLog is the name of a scale.
+bool OnWorkingScreen(std::string_view form) { return OnPlot(form) || WithRecord(form); }
+
+// In the order of the menus. The document stands beside the submenu, which goes where a screen has
+// nothing to show: it needs no result. On the plot, MenuLog is the name of a scale.
 constexpr OutputItem kItems[] = {
     {OutputAction::Form, "MenuPrinterPrint", 76, "MenuPrint", "Ctrl+P", Everywhere},
     {OutputAction::Grid, "menuPrintgrid", 75, "MenuPrint", "", OnTable},
@@ -52,6 +55,8 @@ constexpr OutputItem kItems[] = {
     {OutputAction::Gathered, "MenuGathered", Own::PrintGathered, "MenuPrint", "", BehindStart},
     {OutputAction::Printer, "MenuPrinter", Own::ChoosePrinter, "MenuPrint", "", BehindStart},
     {OutputAction::PrinterFont, "MenuPrinterFont", Own::PrinterFont, "MenuOptions", "", OnStart},
+    {OutputAction::Document, "MenuDocument", Own::ReportAsPdf, "MenuFile", "Ctrl+Shift+P",
+     OnWorkingScreen},
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "catalog/own_texts.h"
+#include "start/hand_over.h"
 #include "start/program_parts.h"
 
 // The ways on which what the screens show leaves the program.
@@ -28,6 +29,8 @@ void Program::Output(screen::Form& form, OutputAction action) {
       return p.printing.ChoosePrinter();
     case OutputAction::PrinterFont:
       return ShowInstead(p.printkeu);
+    case OutputAction::Document:
+      return HandOver(p.record, form);
     default:
       return;
   }

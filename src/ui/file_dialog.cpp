@@ -28,6 +28,15 @@ QString Suffix(const QString& filter) {
   return filter.section(QLatin1Char('|'), 1, 1).section(QLatin1Char('.'), -1);
 }
 
+// The kind of file that is chosen gives the name its ending.
+void FollowKind(QFileDialog& dialog, const QString& kind) {
+  const QString suffix = kind.section(QLatin1Char('.'), -1).chopped(1);
+  dialog.setDefaultSuffix(suffix);
+  const QFileInfo file(dialog.selectedFiles().value(0));
+  if (!file.fileName().isEmpty() && !file.isDir())
+    dialog.selectFile(file.completeBaseName() + QLatin1Char('.') + suffix);
+}
+
 }  // namespace
 
 std::string FileDialog::Ask(const Request& request) {
@@ -36,6 +45,9 @@ std::string FileDialog::Ask(const Request& request) {
   dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setNameFilters(Filters(Shown(request.filter)));
   dialog.setDefaultSuffix(Suffix(Shown(request.filter)));
+  if (request.save && dialog.nameFilters().size() > 1)
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString& kind) { FollowKind(dialog, kind); });
   if (const QFileInfo file(Shown(request.fileName)); !request.fileName.empty()) {
     if (file.isAbsolute()) dialog.setDirectory(file.absolutePath());
     dialog.selectFile(file.fileName());
