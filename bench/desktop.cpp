@@ -6,11 +6,19 @@
 #include <stdexcept>
 #include <utility>
 
+#include "files/safe_writer.h"
+#include "ui/pdf_pages.h"
+
 namespace bench {
 
 void Paint(ui::Application& application) {
   QApplication::processEvents();
   application.Window().repaint();
+}
+
+bool FilePrinter::WritePdf(const std::string& path, const screen::PrintJob& job) {
+  const QByteArray pdf = ui::PdfOf(job);
+  return files::WriteSafely(path, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
 }
 
 Desktop::Desktop() {

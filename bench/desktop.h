@@ -11,6 +11,12 @@ namespace bench {
 // Everything that stands to be shown is on the screen when it returns.
 void Paint(ui::Application& application);
 
+// Prints nothing, but writes a document as the program does.
+class FilePrinter final : public NoPrinter {
+ public:
+  bool WritePdf(const std::string& path, const screen::PrintJob& job) override;
+};
+
 // A started program in its window, and the user's ways to it.
 struct Desktop {
   Desktop();
@@ -18,7 +24,7 @@ struct Desktop {
   SilentMessageBox messageBox;
   OneFile fileDialog;
   StandingClock clock;
-  NoPrinter printer;
+  FilePrinter printer;
   SilentTableDialog tableDialog;
   ui::Application application{{messageBox, fileDialog, clock, printer, tableDialog}};
 

@@ -30,7 +30,7 @@ class SilentTableDialog final : public screen::TableDialog {
   std::optional<std::size_t> Ask(const Question& question) override { return question.proposed; }
 };
 
-class NoPrinter final : public screen::PrinterSurface {
+class NoPrinter : public screen::PrinterSurface {
  public:
   bool AnyPrinter() override { return false; }
   bool Choose() override { return false; }

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <chrono>
 #include <cstring>
+#include <filesystem>
 
 #include "bench/calculations.h"
 #include "bench/desktop.h"
@@ -169,6 +170,22 @@ BENCHMARK_CAPTURE(Activate, TwoSampCompForm, ScreenId::TwoSamp)
     ->Arg(40)
     ->Arg(2000)
     ->Unit(benchmark::kMillisecond);
+
+// From the menu item over all results and the pages to the written file.
+void ReportAsPdf(benchmark::State& state) {
+  const bench::RawSeriesFile file(static_cast<int>(state.range(0)));
+  Desktop desktop;
+  desktop.Open(file.Path());
+  ExposureSession& record = desktop.application.Program().Session();
+  record.OELV = 5;
+  record.LimitsOk = true;
+  desktop.Show(ScreenId::Descript);
+  desktop.fileDialog.path = file.Path() + ".pdf";
+  for (auto _ : state) desktop.Menu("MenuDocument");
+  if (!std::filesystem::remove(desktop.fileDialog.path))
+    state.SkipWithError("no report was written");
+}
+BENCHMARK(ReportAsPdf)->Arg(40)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 // One press of a test's button with everything that it paints.
 void TestInItsWindow(benchmark::State& state, const char* menu, void (*change)(ExposureSession&)) {
