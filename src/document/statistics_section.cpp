@@ -38,7 +38,7 @@ void AddGeometric(Facts& facts, const ExposureSession& s, const StatFWinBAS::Est
 void AddArithmetic(Facts& facts, const ExposureSession& s, const StatFWinBAS::Estimators& found) {
   const bool outcomes = s.Mode == DataMode::Raw && !s.DetecOn && !s.ModifyMode;
   const auto add = [&](int name, const std::optional<double>& value, const std::string& method) {
-    facts.results.push_back({RowName(name), OrUnknown(s, value), s.Unit, method});
+    facts.results.push_back({RowName(name), OrUnknown(s, value), value ? s.Unit : "", method});
   };
   add(2012, found.AMml, RowName(2013));
   add(2014, found.AMu, RowName(2015));

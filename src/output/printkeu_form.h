@@ -22,6 +22,8 @@ struct PrintkeuForm final : screen::Form {
   screen::Control TxbBrief{*this, screen::Kind::TextBox, "TxbBrief"};
   screen::Control LblInfo{*this, screen::Kind::Label, "LblInfo"};
   screen::Control CmdAfdrukken{*this, screen::Kind::CommandButton, "CmdAfdrukken"};
+  // Empty: a trial tells nothing of the record.
+  screen::Control StatusLbl{*this, screen::Kind::StatusLine, "StatusLbl"};
 
   // What leads back to the screen before.
   std::function<void()> close;

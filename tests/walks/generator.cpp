@@ -57,6 +57,7 @@ std::vector<Offer> Generator::OffersHere() {
   if (form == "UCLForm") OfferMean(offers);
   if (form == "TwoSampCompForm") OfferComparison(offers);
   if (form == "VerdelingForm") OfferPicture(offers);
+  if (form == "frmPrintkeu") OfferFontTrial(offers);
   return offers;
 }
 
@@ -129,14 +130,22 @@ void Generator::OfferMenus(std::vector<Offer>& offers) {
       offers.push_back({1, name, [this] { return SaveSeries(); }});
       continue;
     }
-    const bool rare =
-        name == "MenuExit" || name == "Menuclose" || name == "MenuLand" || name == "MenuDevMode";
+    if (name == "MenuDocument") {
+      offers.push_back({2, name, [this] { return HandOver(); }});
+      continue;
+    }
+    const bool closes = name == "Menuclose" && page_.Stage().Shown().name != "frmPrintkeu";
+    const bool rare = closes || name == "MenuExit" || name == "MenuLand" || name == "MenuDevMode";
     if (rare && !random_.Chance(12)) continue;
     offers.push_back({1, name, [this, name] { return MenuStep(name); }});
   }
 }
 
-Step Generator::MenuStep(const std::string& name) { return Line("menu " + name); }
+// The log's window takes the keys: it is closed again at once.
+Step Generator::MenuStep(const std::string& name) {
+  if (name == "MenuReportOpen") return Keys({"menu " + name, "key Escape"}, "menu " + name);
+  return Line("menu " + name);
+}
 
 void Generator::Click(std::vector<Offer>& offers, int weight, const std::string& name) const {
   offers.push_back({weight, name, [this, name] { return Line("click " + name); }});
@@ -170,6 +179,11 @@ void Generator::Pick(std::vector<Offer>& offers, int weight, const std::string& 
 Step Generator::SaveSeries() {
   static const std::vector<std::string> names = {"saved1.vkr", "saved2.vkr"};
   return ToSave("MenuSave", random_.Pick(names));
+}
+
+Step Generator::HandOver() {
+  static const std::vector<std::string> names = {"all.csv", "all.csv", "all.txt", "all.pdf"};
+  return ToSave("MenuDocument", random_.Pick(names));
 }
 
 Step Generator::ToSave(const std::string& menu, const std::string& file) {

@@ -44,6 +44,7 @@ class Generator {
   void OfferMean(std::vector<Offer>& offers);
   void OfferComparison(std::vector<Offer>& offers);
   void OfferPicture(std::vector<Offer>& offers);
+  void OfferFontTrial(std::vector<Offer>& offers);
 
   // Offers of one kind.
   void Click(std::vector<Offer>& offers, int weight, const std::string& name) const;
@@ -58,6 +59,7 @@ class Generator {
   Step Keys(std::vector<std::string> lines, const std::string& meant) const;
   Step OpenFile();
   Step SaveSeries();
+  Step HandOver();
   Step ToSave(const std::string& menu, const std::string& file);
   Step PasteRows();
   Step MenuStep(const std::string& name);

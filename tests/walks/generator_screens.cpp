@@ -187,4 +187,13 @@ void Generator::OfferPicture(std::vector<Offer>& offers) {
       {1, "menuSavePicture", [this] { return ToSave("menuSavePicture", "density.bmp"); }});
 }
 
+void Generator::OfferFontTrial(std::vector<Offer>& offers) {
+  static const Texts sizes = {"12", "8", "72", "", "abc", "0", "1e9"};
+  Type(offers, 4, "TxbCorps", sizes);
+  Type(offers, 2, "TxbBrief", kNames);
+  Pick(offers, 4, "CmbFonts");
+  Click(offers, 2, "CmdAfdrukken");
+  offers.push_back({8, "Menuclose", [this] { return MenuStep("Menuclose"); }});
+}
+
 }  // namespace walks

@@ -37,6 +37,16 @@ const std::map<std::string, Names> kValues = {
     {"PlotForm", {}},
 };
 
+// Of these, the results that the document of all results has, too.
+const std::map<std::string, Names> kResults = {
+    {"DescriptForm",
+     {"GMTxB", "GMuTxB", "GSDTxB", "AMmlTxb", "AMuTxb", "AMmvTxb", "AmlinTxb", "SDUTxb",
+      "SDlinTxb"}},
+    {"PercExForm", {"PercExTxB(0)", "PercExTxB(1)"}},
+    {"UCLForm", {"AMuTxb", "UCLTxB", "PercExTxB"}},
+    {"TwoSampCompForm", {"GMInfTxb", "GSDInfTxb"}},
+};
+
 std::uintmax_t SizeOf(const std::string& path) {
   std::error_code none;
   const std::uintmax_t size = std::filesystem::file_size(path, none);
@@ -61,6 +71,13 @@ bool Told(const Scene& scene, const std::string& control) {
   return !linear || scene.before.Mode == "R";
 }
 
+// What the control shows, without the blanks about it; nothing where it is
+// hidden.
+std::string Plain(const View& view, const std::string& control) {
+  if (!view.page.Visible(control)) return {};
+  return std::string(drive::TrimBlanks(view.page.Text(control)));
+}
+
 bool Appends(const Scene& scene) {
   return scene.Chosen("MenuLog") ? !scene.On("PlotForm") : scene.Chosen("MenuLogFile");
 }
@@ -72,9 +89,51 @@ void OutputWatch::Check(const View& view) {
   for (const auto& [path, size] : sizes_)
     if (path != log && SizeOf(path) != size) view.Wrong("log", path + " has changed unasked");
   if (!log.empty()) CheckAppended(view, log);
+  const Scene& scene = view.scene;
+  if (scene.Chosen("MenuPrinterPrint")) CheckPrinted(view);
+  if (scene.Chosen("MenuDocument")) CheckHandedOver(view);
+  const bool leaves = !log.empty() || scene.Chosen("MenuPrinterPrint") ||
+                      scene.Chosen("MenuDocument") || scene.Chosen("MenuRapport") ||
+                      scene.Chosen("MenuGathered") || scene.Chosen("menuPrintgrid");
+  if (leaves && scene.step.boxes.empty() && !(scene.before == scene.after))
+    view.Wrong("output", scene.step.Rest() + " has changed the record");
 }
 
-// Everything that the screen shows of its record's values, and that it was told.
+// A name may lose its middle on paper.
+void OutputWatch::CheckPrinted(const View& view) const {
+  const auto values = kValues.find(view.scene.before.form);
+  if (values == kValues.end()) return;
+  for (const std::string& control : values->second) {
+    const std::string shown = Plain(view, control);
+    if (shown.empty() || control.starts_with("Name")) continue;
+    view.scene.findings.Count();
+    if (std::ranges::none_of(view.scene.step.printed, [&shown](const std::string& text) {
+          return text.find(shown) != std::string::npos;
+        }))
+      view.Wrong("printed", "the page lacks " + control + ", " + drive::Quoted(shown));
+  }
+}
+
+// As a table of its own file, every number of these screens stands between two
+// commas.
+void OutputWatch::CheckHandedOver(const View& view) const {
+  const Scene& scene = view.scene;
+  if (!scene.step.asked || !scene.step.file.ends_with(".csv")) return;
+  const std::string table = Behind(scene.step.file, 0);
+  if (table.empty()) view.Wrong("document", "nothing was written to " + scene.step.file);
+  const auto results = kResults.find(scene.before.form);
+  if (results == kResults.end()) return;
+  for (const std::string& control : results->second) {
+    const std::string shown = Plain(view, control);
+    if (shown.empty() || BlankOrUnknown(view.page.Text(control)) || !Told(scene, control)) continue;
+    scene.findings.Count();
+    if (table.find("," + shown + ",") == std::string::npos)
+      view.Wrong("document", "the table lacks " + control + ", " + drive::Quoted(shown));
+  }
+}
+
+// Everything that the screen shows of its record's values, and that it was
+// told.
 void OutputWatch::CheckAppended(const View& view, const std::string& log) {
   const std::uintmax_t before = std::exchange(sizes_[log], SizeOf(log));
   const std::string record = Behind(log, before);

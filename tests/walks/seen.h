@@ -28,6 +28,8 @@ struct Seen {
   std::optional<double> OELV;
   std::vector<double> C;
 
+  bool operator==(const Seen&) const = default;
+
   // M as a number of outcomes; 0 for one that no series can have.
   int Count() const { return M >= 2 && M <= 2000 ? static_cast<int>(M) : 0; }
 };

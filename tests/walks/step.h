@@ -14,6 +14,7 @@ struct Step {
   bool asked = false;                       // whether one has come
   std::vector<screen::Message> boxes = {};  // that came, in their order
   std::vector<screen::Answer> answers = {};
+  std::vector<std::string> printed = {};  // the texts on the pages that went to the printer
   // By keys: the line that does the same by mouse.
   std::string meant = {};
 

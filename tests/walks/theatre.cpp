@@ -73,7 +73,7 @@ bool Theatre::Perform(Step& step, const Chooser& choose) {
     step.answers.push_back(shown.answer);
   }
   out_.str({});
-  printer_.Take();
+  step.printed = printer_.Take();
   tables_.Take();
   return trouble_.empty();
 }
