@@ -78,6 +78,14 @@ std::string Plain(const View& view, const std::string& control) {
   return std::string(drive::TrimBlanks(view.page.Text(control)));
 }
 
+// The document leaves out, and says why, what rests on estimates out of their ranges, and a
+// comparison that was broken off at its question.
+bool Evaluated(const View& view) {
+  const Seen& now = view.Now();
+  const bool plausible = now.GM >= 0.0001 && now.GM <= 10000 && now.GSD >= 1.001 && now.GSD <= 1000;
+  return plausible && (now.form != "TwoSampCompForm" || !Plain(view, "GMInfTxb").empty());
+}
+
 bool Appends(const Scene& scene) {
   return scene.Chosen("MenuLog") ? !scene.On("PlotForm") : scene.Chosen("MenuLogFile");
 }
@@ -122,7 +130,7 @@ void OutputWatch::CheckHandedOver(const View& view) const {
   const std::string table = Behind(scene.step.file, 0);
   if (table.empty()) view.Wrong("document", "nothing was written to " + scene.step.file);
   const auto results = kResults.find(scene.before.form);
-  if (results == kResults.end()) return;
+  if (results == kResults.end() || !Evaluated(view)) return;
   for (const std::string& control : results->second) {
     const std::string shown = Plain(view, control);
     if (shown.empty() || BlankOrUnknown(view.page.Text(control)) || !Told(scene, control)) continue;
