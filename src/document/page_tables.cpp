@@ -81,7 +81,8 @@ void PutOutcomes(PageFlow& flow, const Outcomes& outcomes) {
     const std::size_t here = std::min(left, rows * columns.count);
     for (std::size_t i = 0; i < here; ++i) {
       const Result& result = outcomes.results[done + i];
-      const double x = kMargin + static_cast<double>(i / rows) * columns.Width() + columns.place;
+      const std::size_t column = i / rows;
+      const double x = kMargin + static_cast<double>(column) * columns.Width() + columns.place;
       const double y = flow.Y() + static_cast<double>(i % rows) * height;
       flow.Text({x, y}, result.name, place);
       flow.Text({x + kGap / 2, y}, result.value, columns.face);

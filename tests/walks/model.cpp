@@ -52,7 +52,9 @@ bool Scene::Closed() const {
   using screen::Answer;
   const bool kept = std::ranges::any_of(
       step.answers, [](Answer answer) { return answer == Answer::No || answer == Answer::Cancel; });
-  return Chosen("Menuclose") && !kept && after.M == 0 && after.Name.empty();
+  // There it leads back to the screen before.
+  const bool back = On("VerdelingForm") || On("frmPrintkeu");
+  return Chosen("Menuclose") && !back && !kept && after.M == 0 && after.Name.empty();
 }
 
 void Model::Advance(const Scene& scene) {
