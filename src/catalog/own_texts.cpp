@@ -150,6 +150,7 @@ constexpr Row kRows[] = {
     {Own::PdfFiles, "PDF files|*.pdf"},
     {Own::PrintToPdf, "Print to a PDF file"},
     {Own::PdfNotWritten, "The file {0} could not be written."},
+    {Own::PdfIsSeries, "{0} holds the series itself: choose another name."},
     {Own::NoPrinter, "The system has no printer. What is printed is offered as a PDF file."},
     {Own::WindowNumber, "window {0}"},
     {Own::PageOf, "page {0} of {1}"},

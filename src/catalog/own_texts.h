@@ -121,6 +121,7 @@ enum class Own {
   PdfFiles,
   PrintToPdf,
   PdfNotWritten,
+  PdfIsSeries,
   NoPrinter,
   WindowNumber,
   PageOf,

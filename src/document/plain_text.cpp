@@ -20,10 +20,18 @@ std::string Padded(const std::string& text, std::size_t length) {
   return text + std::string(length > has ? length - has : 0, ' ');
 }
 
+// What stands in a line of its own or in a cell has no lines.
+std::string Straight(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return text;
+}
+
 // A table whose columns are as wide as their widest cell.
-std::string Columns(const std::vector<std::vector<std::string>>& rows) {
+std::string Columns(std::vector<std::vector<std::string>> rows) {
   std::vector<std::size_t> widths;
-  for (const auto& row : rows) {
+  for (auto& row : rows) {
+    std::ranges::transform(row, row.begin(), Straight);
     widths.resize(std::max(widths.size(), row.size()));
     for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], Length(row[i]));
   }
@@ -106,8 +114,8 @@ std::string AsUtf8(const std::string& text) {
 }
 
 std::string PlainText(const Contents& contents) {
-  std::string text = Heading(contents.title, '=') + contents.name + kEnd + contents.made + kEnd +
-                     contents.product + kEnd;
+  std::string text = Heading(contents.title, '=') + Straight(contents.name) + kEnd + contents.made +
+                     kEnd + contents.product + kEnd;
   for (const Section& section : contents.sections) {
     std::string body;
     for (const Block& block : section.blocks) body += std::visit(Written{}, block);

@@ -96,7 +96,11 @@ class GrowingFile {
  private:
   void CutBack(off_t size) {
     const bool cut = ::ftruncate(handle_, size) == 0;
-    if (cut && created_ && size == 0) ::unlink(path_.c_str());
+    if (!cut || !created_ || size != 0) return;
+    // A link that led to no file leads to none again.
+    std::error_code error;
+    const std::filesystem::path file = std::filesystem::canonical(path_, error);
+    if (!error) ::unlink(file.c_str());
   }
 
   const std::string path_;
@@ -126,6 +130,10 @@ Appended AppendWhole(const std::string& path, std::string_view bytes,
 bool SameFile(const std::string& one, const std::string& other) {
   std::error_code error;
   return std::filesystem::equivalent(one, other, error);
+}
+
+bool IsSeriesFile(const std::string& path, const std::string& series) {
+  return !series.empty() && (path == series || SameFile(path, series));
 }
 
 }  // namespace files

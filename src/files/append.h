@@ -30,4 +30,8 @@ Appended AppendWhole(const std::string& path, std::string_view bytes,
 // Whether both names lead to the same file; false where one of them leads to none.
 bool SameFile(const std::string& one, const std::string& other);
 
+// Whether `path` leads to the file that holds the series, or would make it anew where it was
+// removed. `series` is empty where no file holds it.
+bool IsSeriesFile(const std::string& path, const std::string& series);
+
 }  // namespace files

@@ -63,8 +63,8 @@ class Desk {
   virtual bool ShowsPicture() const = 0;
   // Whether the series differs from its file.
   virtual bool Unsaved() const = 0;
-  // The series now in the record is what its file holds.
-  virtual void MarkSaved() = 0;
+  // The series now in the record is what `file` holds; there is none where that is empty.
+  virtual void MarkSaved(const std::string& file) = 0;
   // The user has done something, which `words` name in a menu; `before` is the series in front of
   // it. `goesOn`: with the movement of the step before.
   virtual void Done(const std::string& words, const GivenSeries& before, bool goesOn) = 0;

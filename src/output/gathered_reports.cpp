@@ -93,7 +93,9 @@ bool Printing::MayEnd() {
 }
 
 void Printing::End() {
-  if (gathered_ > 0) Keep(KeptName());
+  if (gathered_ == 0 || Keep(KeptName())) return;
+  for (const std::string& folder : OtherFolders())
+    if (Keep(UnusedPdfBeside(folder + "/.LOG"))) return;
 }
 
 }  // namespace output

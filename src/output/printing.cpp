@@ -2,6 +2,7 @@
 
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
+#include "files/append.h"
 #include "output/form_record.h"
 #include "output/grid_pages.h"
 #include "output/pdf_name.h"
@@ -67,9 +68,10 @@ Printing::Way Printing::ToFile(const screen::PrintJob& job) {
       ports_.fileDialog.Ask({true, OwnText(Own::PrintToPdf), OwnText(Own::PdfFiles),
                              PdfNameOf(record_.Now().Name), "", 0});
   if (path.empty()) return Way::Cancelled;
-  if (ports_.printer.WritePdf(path, job)) return Way::Out;
-  ports_.messageBox.Show(
-      {OwnText(Own::PdfNotWritten, {path}), LoadResString(kPrintError), screen::Icon::Exclamation});
+  const bool series = files::IsSeriesFile(path, seriesFile_());
+  if (!series && ports_.printer.WritePdf(path, job)) return Way::Out;
+  ports_.messageBox.Show({OwnText(series ? Own::PdfIsSeries : Own::PdfNotWritten, {path}),
+                          LoadResString(kPrintError), screen::Icon::Exclamation});
   return Way::Refused;
 }
 

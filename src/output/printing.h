@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "output/form_page.h"
@@ -19,7 +20,10 @@ class Printing {
   enum class Way { Out, Cancelled, Refused };
   using Compose = std::function<std::vector<drawing::DrawingRecord>(screen::Extent paper)>;
 
-  Printing(screen::Ports& ports, Record& record) : ports_(ports), record_(record) {}
+  // `seriesFile` tells the file that holds the series, which no PDF file replaces; empty where none
+  // does.
+  Printing(screen::Ports& ports, Record& record, std::function<std::string()> seriesFile)
+      : ports_(ports), record_(record), seriesFile_(std::move(seriesFile)) {}
 
   void PrintForm(screen::Form& form);
   void PrintGrid(const screen::Form& form, const screen::Grid& grid);
@@ -34,7 +38,8 @@ class Printing {
 
   // The program is to end: asks what becomes of the gathered reports. False when it may not end.
   bool MayEnd();
-  // The same where nobody can be asked: what has not been printed is kept.
+  // The same where nobody can be asked: what has not been printed is kept, beside the log or
+  // wherever there is room for it.
   void End();
 
  private:
@@ -48,6 +53,7 @@ class Printing {
 
   screen::Ports& ports_;
   Record& record_;
+  std::function<std::string()> seriesFile_;
   bool chosen_ = false;  // a printer, for the whole run
   int gathered_ = 0;     // reports with a line in the open document
   std::string log_;      // that of the series of the last report

@@ -69,8 +69,7 @@ void SessionLog::Append(const screen::Form& form, const std::string& seriesFile)
   }
   record_.Flow().LogName = LogNameOf(s.Name);
   const std::string whole = WholePath(s.LogName);
-  const bool series = s.LogName == seriesFile || files::SameFile(s.LogName, seriesFile);
-  if (!seriesFile.empty() && series) {
+  if (files::IsSeriesFile(s.LogName, seriesFile)) {
     Tell(OwnText(Own::LogIsSeries, {whole}), error, screen::Icon::Exclamation);
     return;
   }

@@ -250,7 +250,7 @@ bool DataCtrlForm::VkrSave() {
       [&path](Given& given) { (given.original ? given.original->Name : given.Name) = path; });
   mark_ = files::MarkOfBytes(bytes);
   markedPath_ = path;
-  desk.MarkSaved();
+  desk.MarkSaved(path);
   Report({.did = Did::Saved, .count = static_cast<double>(SeriesCount(session))});
   Rebind();
   return true;

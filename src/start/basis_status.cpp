@@ -144,7 +144,7 @@ void BasisForm::Sluiten() {
   }
   DescriptFrame.Hide();
   for (screen::Control* box : {&DegreesLbl, &GMTxB, &GSDTxB}) box->text.clear();
-  desk.MarkSaved();
+  desk.MarkSaved("");
   desk.ForgetSteps();
   OpeningMessage();
   menuTools.Hide();

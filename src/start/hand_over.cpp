@@ -6,6 +6,7 @@
 #include "catalog/document_texts.h"
 #include "document/pages.h"
 #include "document/plain_text.h"
+#include "files/append.h"
 #include "files/safe_writer.h"
 #include "output/pdf_name.h"
 
@@ -20,14 +21,10 @@ std::string Ending(const std::string& path) {
   return ending;
 }
 
-bool AreTheSameFile(const std::string& one, const std::string& other) {
-  std::error_code ignored;
-  return one == other || std::filesystem::equivalent(one, other, ignored);
-}
-
 // Why nothing may be written there; empty where it may.
-std::string Refusal(const ExposureSession& s, const std::string& path, const std::string& ending) {
-  if (s.Mode == DataMode::Raw && AreTheSameFile(path, s.Name)) return DocText(Doc::OwnFile, {path});
+std::string Refusal(const std::string& seriesFile, const std::string& path,
+                    const std::string& ending) {
+  if (files::IsSeriesFile(path, seriesFile)) return DocText(Doc::OwnFile, {path});
   const bool known = ending == ".pdf" || ending == ".txt" || ending == ".csv";
   return known ? std::string() : DocText(Doc::OtherEnding, {path});
 }
@@ -42,7 +39,7 @@ bool Write(screen::Ports& ports, const std::string& path, const std::string& end
 
 }  // namespace
 
-void HandOver(Record& record, screen::Form& from) {
+void HandOver(Record& record, screen::Form& from, const std::string& seriesFile) {
   const ExposureSession& s = record.Now();
   screen::Ports& ports = from.ports;
   const std::string title = DocText(Doc::DialogTitle);
@@ -50,7 +47,7 @@ void HandOver(Record& record, screen::Form& from) {
       ports.fileDialog.Ask({true, title, DocText(Doc::Files), output::PdfNameOf(s.Name), "", 0});
   if (path.empty()) return;
   const std::string ending = Ending(path);
-  const std::string refusal = Refusal(s, path, ending);
+  const std::string refusal = Refusal(seriesFile, path, ending);
   if (!refusal.empty()) {
     from.Complain(refusal, title);
     return;

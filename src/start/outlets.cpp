@@ -30,7 +30,7 @@ void Program::Output(screen::Form& form, OutputAction action) {
     case OutputAction::PrinterFont:
       return ShowInstead(p.printkeu);
     case OutputAction::Document:
-      return HandOver(p.record, form);
+      return HandOver(p.record, form, p.SeriesFile());
     default:
       return;
   }

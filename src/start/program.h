@@ -53,7 +53,7 @@ class Program final : public navigation::Desk {
   // navigation::Desk
   void Open(navigation::ScreenId target) override;
   bool Unsaved() const override;
-  void MarkSaved() override;
+  void MarkSaved(const std::string& file) override;
   const std::vector<navigation::ExtrapolationMenu>& Extrapolations() const override;
   void RunExtrapolation(Extrapolation tag) override;
   std::string PictureObstacle() const override;
@@ -76,6 +76,7 @@ class Program final : public navigation::Desk {
  private:
   std::string ExitAdvice() const;
   bool SeriesMayGo();
+  void KeepSeries();
   // Shows the form in place of the present screen, which stays as it is.
   void ShowInstead(screen::Form& form);
   void AddReport(screen::Form& form);

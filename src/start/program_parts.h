@@ -53,7 +53,7 @@ struct Program::Parts {
   const ExposureSession& session = record.Now();
   navigation::Steps steps{record, ports.history};
   output::SessionLog log{record, ports};
-  output::Printing printing{ports, record};
+  output::Printing printing{ports, record, [this] { return SeriesFile(); }};
   BasisForm basis;
   rawdata::DataCtrlForm dataCtrl;
   limits::GrenzenForm grenzen;
@@ -73,6 +73,7 @@ struct Program::Parts {
   screen::Form* behindPicture = nullptr;
   bool endRequested = false;
   std::vector<double> savedSeries;  // C(1) to C(M) as the file holds them
+  std::string savedTo;              // that file, whatever the series is called by now
 
   navigation::SessionForm* ById(navigation::ScreenId id) const {
     for (navigation::SessionForm* form : forms)
@@ -92,7 +93,7 @@ struct Program::Parts {
   std::string SeriesFile() const {
     const bool saved =
         session.Mode == DataMode::Raw && !session.refusedFile && !savedSeries.empty();
-    return saved ? session.Name : std::string();
+    return saved ? savedTo : std::string();
   }
 
   void OfferSteps() const {

@@ -89,7 +89,7 @@ void BasisForm::TakeSeries(const std::string& path, const rawdata::FileValues& f
   record.AcceptSeries();
   flow.GridData.assign(file.values.size(), {});
   if (tellReading) tellReading(&file.notes);
-  desk.MarkSaved();
+  desk.MarkSaved(path);
   desk.ForgetSteps();
   desk.Open(navigation::ScreenId::DataCtrl);
 }

@@ -1,7 +1,11 @@
 #include <algorithm>
+#include <filesystem>
+#include <iterator>
 
 #include "catalog/catalog.h"
 #include "catalog/own_texts.h"
+#include "output/pdf_name.h"
+#include "rawdata/raw_file.h"
 #include "start/program_parts.h"
 
 // What would be lost, and the questions before it is: another series, the close, the exit.
@@ -42,7 +46,10 @@ bool Program::Unsaved() const {
          !(p.savedSeries.empty() && NothingFilled(series));
 }
 
-void Program::MarkSaved() { parts_->savedSeries = parts_->Series(); }
+void Program::MarkSaved(const std::string& file) {
+  parts_->savedSeries = parts_->Series();
+  parts_->savedTo = file;
+}
 
 bool Program::MayUnload() {
   using namespace screen;
@@ -55,7 +62,26 @@ bool Program::MayUnload() {
   return p.endRequested;
 }
 
-void Program::EndUnasked() { parts_->printing.End(); }
+void Program::EndUnasked() {
+  KeepSeries();
+  parts_->printing.End();
+}
+
+// Beside its file, which stays as it is: nobody has said that it may be replaced. Empty rows are
+// left out.
+void Program::KeepSeries() {
+  if (!Unsaved()) return;
+  const Parts& p = *parts_;
+  std::vector<double> filled;
+  std::ranges::copy_if(p.Series(), std::back_inserter(filled), [](double c) { return c > 0; });
+  const std::string& named = p.savedTo.empty() ? p.session.Name : p.savedTo;
+  const std::string file = std::filesystem::path(named).replace_extension(".vkr").string();
+  std::vector<std::string> places{file};
+  for (const std::string& folder : output::OtherFolders())
+    places.push_back((folder / std::filesystem::path(file).filename()).string());
+  for (const std::string& place : places)
+    if (rawdata::WriteFile(output::UnusedBeside(place, "unsaved", ".vkr"), filled)) return;
+}
 
 std::string Program::ExitAdvice() const { return Unsaved() ? OwnText(Own::ChangesNotSaved) : ""; }
 

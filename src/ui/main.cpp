@@ -3,6 +3,7 @@
 #include "ui/application.h"
 #include "ui/clock.h"
 #include "ui/cups_system.h"
+#include "ui/end_signals.h"
 #include "ui/file_dialog.h"
 #include "ui/message_box.h"
 #include "ui/print_dialog.h"
@@ -21,5 +22,6 @@ int main(int argc, char** argv) {
   ui::TableDialog tableDialog;
   ui::Application application({messageBox, fileDialog, clock, printer, tableDialog});
   application.Start();
+  const ui::EndSignals requests([&application] { application.Program().EndUnasked(); });
   return QApplication::exec();
 }

@@ -90,6 +90,14 @@ TEST_F(DocumentTable, CommasQuotesAndLineEndsInANameStayInItsField) {
   EXPECT_THAT(Read(), testing::Contains(testing::ElementsAre("File or name", name, "", "")));
 }
 
+TEST_F(DocumentTable, LineEndsInANameBreakNoLineOfTheText) {
+  OpenTwelve();
+  p.Record().Name = "weld\nhall";
+  const std::string text = Text();
+  EXPECT_THAT(text, testing::HasSubstr("=\r\nweld hall\r\n"));
+  EXPECT_THAT(text, testing::ContainsRegex("File or name +weld hall\r\n"));
+}
+
 TEST_F(DocumentTable, TheDecimalSignIsAPoint) {
   OpenTwelve();
   EXPECT_THAT(Read(), testing::Contains(testing::ElementsAre("Outcome 1", "0.3", "mg/m3", "")));

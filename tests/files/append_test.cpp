@@ -161,6 +161,14 @@ TEST_F(Appending, OnAFullDiskCreatesNothing) {
   EXPECT_THAT(folder_.Names(), ElementsAre("empty"));
 }
 
+TEST_F(Appending, OnAFullDiskLeavesALinkToNoFileAsItWas) {
+  std::filesystem::create_symlink("new", folder_.Path("ahead"));
+  const FullDisk disk(3);
+  EXPECT_EQ(Append("ahead"), Appended::NotWritten);
+  EXPECT_THAT(folder_.Names(), ElementsAre("ahead"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.Path("ahead")));
+}
+
 TEST_F(Appending, GrowsAFileBeyondTwoGigabytes) {
   constexpr std::uintmax_t kSize = 3ULL << 30;
   folder_.Write("huge", "");

@@ -184,4 +184,18 @@ TEST(PdfOfReports, StandsBesideTheLogAndReplacesNothing) {
   EXPECT_EQ(output::UnusedPdfBeside(".LOG"), "reports.pdf");
 }
 
+TEST(PdfOfReports, HasANameThatTheFileSystemTakesWhateverThatOfTheLog) {
+  const TempFolder folder;
+  for (const std::string letter : {"a", "\u00e9", "\u20ac"}) {
+    std::string name = "b";
+    while (name.size() + letter.size() <= 251) name += letter;
+    ASSERT_NE(folder.Write(name + ".LOG", ""), "");
+    const std::string first = output::UnusedPdfBeside(folder.Path(name + ".LOG"));
+    EXPECT_TRUE(std::filesystem::create_directory(first)) << first;
+    EXPECT_TRUE(first.ends_with(letter + " reports.pdf")) << first;
+    EXPECT_TRUE(
+        std::filesystem::create_directory(output::UnusedPdfBeside(folder.Path(name + ".LOG"))));
+  }
+}
+
 }  // namespace

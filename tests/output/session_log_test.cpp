@@ -116,6 +116,26 @@ TEST_F(TheLog, IsNeverTheSeriesItself) {
   }
 }
 
+TEST_F(TheLog, IsNeverTheSeriesWhateverThatIsCalledByNow) {
+  OpenSeries("weld.LOG");
+  const std::string refusal =
+      "Nothing was appended: the log would be the file that holds the series itself, " +
+      Whole("weld.LOG") + ".";
+  p.Tab("basis");
+  p.Type("NameTxB", "weld");
+  p.Tab("raw");
+  Append();
+  ExpectRefusal(refusal);
+  p.Tab("basis");
+  p.Type("NameTxB", "weld.LOG");
+  p.Click("OriModiCmd");
+  ASSERT_EQ(p.Record().Name, "weld.LOG (Modified)");
+  p.Tab("descript");
+  Append();
+  ExpectRefusal(refusal);
+  EXPECT_EQ(Bytes("weld.LOG"), "1\r\n2\r\n4\r\n8\r\n");
+}
+
 // Its file would otherwise come back as a log.
 TEST_F(TheLog, IsNotTheSeriesThatWasRemovedMeanwhile) {
   OpenSeries("weld.LOG");

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <filesystem>
 
 #include "tests/support/start_screen.h"
 #include "tests/support/temp_folder.h"
@@ -176,6 +178,36 @@ TEST_F(Printing, WritesNoFileWhenThatIsCancelledAndNamesOneThatCannotBeWritten) 
   user_.Click("MenuPrinterPrint");
   ASSERT_EQ(user_.box.shown.size(), 1U);
   EXPECT_THAT(user_.LastBox().text, HasSubstr("/nowhere/chosen.pdf"));
+}
+
+TEST_F(Printing, WritesNoFileOverTheSeriesWhateverThatIsCalledByNow) {
+  TempFolder folder;
+  const std::string path = folder.Write("weld.pdf", "1\r\n2\r\n4\r\n8\r\n");
+  user_.OpenFile(path);
+  user_.printer.there = false;
+  user_.dialog.answers = {path, path};
+  user_.Click("MenuPrinterPrint");
+  user_.Tab("basis");
+  user_.Type("NameTxB", "hall");
+  user_.Click("MenuPrinterPrint");
+  EXPECT_TRUE(user_.printer.written.empty());
+  ASSERT_EQ(user_.box.shown.size(), 2U);
+  EXPECT_EQ(user_.LastBox().title, kTitle);
+  EXPECT_EQ(user_.LastBox().text, path + " holds the series itself: choose another name.");
+}
+
+TEST_F(Printing, NoDocumentOfAllResultsReplacesTheSeriesWhateverThatIsCalledByNow) {
+  TempFolder folder;
+  const std::string path = folder.Write("weld.txt", "1\r\n2\r\n4\r\n8\r\n");
+  user_.OpenFile(path);
+  user_.Tab("basis");
+  user_.Click("OriModiCmd");
+  ASSERT_EQ(user_.Record().Name, path + " (Modified)");
+  user_.Tab("descript");
+  user_.dialog.answers.push_back(path);
+  user_.Click("MenuDocument");
+  EXPECT_THAT(user_.LastBox().text, StartsWith(path + " holds the series itself"));
+  EXPECT_EQ(TempFolder::Bytes(path), "1\r\n2\r\n4\r\n8\r\n");
 }
 
 TEST_F(Printing, SaysSoWhenAPrinterIsToBeChosenAndThereIsNone) {
@@ -359,6 +391,22 @@ TEST_F(Printing, AtAnEndWithoutQuestionsTheReportsAreKept) {
   user_.program.EndUnasked();
   EXPECT_EQ(user_.printer.written.size(), 1U);
   EXPECT_TRUE(user_.box.shown.empty());
+}
+
+TEST_F(Printing, AtAnEndWithoutQuestionsReportsThatCannotStandBesideTheLogStandInTheHomeFolder) {
+  TempFolder home;
+  const char* before = std::getenv("HOME");
+  const std::string kept = before ? before : "";
+  ::setenv("HOME", home.Path("").c_str(), 1);
+  Gather(1);
+  const std::string name = user_.Record().Name;
+  user_.printer.refused = name.substr(0, name.find('.'));
+  user_.program.EndUnasked();
+  ::setenv("HOME", kept.c_str(), 1);
+  ASSERT_EQ(user_.printer.written.size(), 1U);
+  EXPECT_TRUE(std::filesystem::equivalent(
+      std::filesystem::path(user_.printer.written[0].first).parent_path(), home.Path(".")));
+  EXPECT_TRUE(user_.printer.open.empty());
 }
 
 // The trial of a printer's font.

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "tests/support/start_screen.h"
+#include "tests/support/temp_folder.h"
 
 // Whether the series differs from its file, and the question before it goes.
 namespace {
@@ -33,6 +34,22 @@ TEST(Unsaved, AnEditMakesItUnsavedAndTakingItBackSavedAgain) {
   EXPECT_TRUE(user.program.Unsaved());
   EditOutcome(user, 0, "1");
   EXPECT_FALSE(user.program.Unsaved());
+}
+
+TEST(Unsaved, AtAnEndWithoutQuestionsItIsKeptBesideItsFileWhichStays) {
+  TempFolder folder;
+  ProgramSession user;
+  const std::string path = folder.Write("weld.vkr", "1\r\n2\r\n4\r\n8\r\n");
+  user.OpenFile(path);
+  user.program.EndUnasked();
+  EXPECT_THAT(folder.Names(), testing::ElementsAre("weld.vkr")) << "nothing has changed";
+  EditOutcome(user, 0, "1.5");
+  user.program.EndUnasked();
+  EXPECT_TRUE(user.box.shown.empty());
+  EXPECT_EQ(TempFolder::Bytes(path), "1\r\n2\r\n4\r\n8\r\n");
+  ProgramSession later;
+  later.OpenFile(folder.Path("weld unsaved.vkr"));
+  EXPECT_THAT(later.Record().C, testing::ElementsAre(testing::_, 1.5, 2, 4, 8));
 }
 
 TEST(Unsaved, SavingEndsIt) {

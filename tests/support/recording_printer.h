@@ -23,8 +23,9 @@ class RecordingPrinter final : public screen::PrinterSurface {
     return !fails;
   }
   bool WritePdf(const std::string& path, const screen::PrintJob& job) override {
-    if (writes) written.emplace_back(path, job);
-    return writes;
+    const bool done = writes && (refused.empty() || !path.starts_with(refused));
+    if (done) written.emplace_back(path, job);
+    return done;
   }
   bool TakeLine(const std::string& line) override {
     if (takesLines) open.push_back(line);
@@ -43,6 +44,7 @@ class RecordingPrinter final : public screen::PrinterSurface {
   bool chooses = true;     // the user, one
   bool fails = false;      // the printer, a job
   bool writes = true;      // files
+  std::string refused;     // begins the paths of files that can't be written; empty for none
   bool takesLines = true;  // the open document
   screen::Extent paper{11906, 16838};
   std::vector<std::string> fonts{"Arial", "Courier"};
