@@ -11,16 +11,6 @@
 
 namespace document {
 
-std::string OnOneLine(const std::string& text) {
-  std::string line;
-  for (const char c : text) {
-    const bool blank = c == '\r' || c == '\n' || c == ' ';
-    if (blank && (line.empty() || line.back() == ' ')) continue;
-    line += blank ? ' ' : c;
-  }
-  return GlobalBAS::Trim(line);
-}
-
 std::string NameOf(const std::string& caption) {
   std::string name = OnOneLine(caption);
   const auto atEnd = [&name](char c) { return name.ends_with(c); };

@@ -4,9 +4,12 @@
 #include <string>
 
 #include "document/contents.h"
+#include "session/series_text.h"
 
 // The sections of the document, each by itself. One without blocks is left out.
 namespace document {
+
+using wording::OnOneLine;
 
 // From a series of more outcomes they stand behind the results.
 inline constexpr int kManyOutcomes = 200;
@@ -37,8 +40,6 @@ bool HasComparison(const ExposureSession& s, const Circumstances& circumstances)
 // blanks and the equals sign at its end.
 std::string NameOf(const std::string& caption);
 std::string RowName(int row);
-// On one line, with single blanks.
-std::string OnOneLine(const std::string& text);
 // As a box shows it, without the blanks about it.
 std::string Value(const ExposureSession& s, const std::optional<double>& value);
 

@@ -32,6 +32,16 @@ std::vector<int> UnfilledRows(const ExposureSession& s) {
 
 }  // namespace
 
+std::string OnOneLine(const std::string& text) {
+  std::string line;
+  for (const char c : text) {
+    const bool blank = c == '\r' || c == '\n' || c == ' ';
+    if (blank && (line.empty() || line.back() == ' ')) continue;
+    line += blank ? ' ' : c;
+  }
+  return GlobalBAS::Trim(line);
+}
+
 std::string NumberList(const std::vector<int>& numbers) {
   constexpr std::size_t kMost = 12;
   const std::size_t shown = std::min(numbers.size(), kMost);

@@ -9,6 +9,9 @@
 // to tell.
 namespace wording {
 
+// On one line, with single blanks.
+std::string OnOneLine(const std::string& text);
+
 // "3, 7 and 12"; a long list is cut.
 std::string NumberList(const std::vector<int>& numbers);
 

@@ -3,12 +3,11 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <thread>
 
+#include "tests/support/full_disk.h"
 #include "tests/support/temp_folder.h"
 
 // What the log is written by.
@@ -23,27 +22,6 @@ using testing::IsEmpty;
 
 constexpr milliseconds kShort(30);
 constexpr milliseconds kLong(20000);
-
-// A disk with room for files of `bytes`, as long as it lives.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    struct rlimit small = before_;
-    small.rlim_cur = bytes;
-    ::setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  struct rlimit before_ {};
-  void (*handler_)(int);
-};
 
 // Another process that appends: its lock is one of its own.
 class Holder {
@@ -140,12 +118,12 @@ TEST_F(Appending, RespectsWriteProtection) {
 TEST_F(Appending, OnAFullDiskLeavesTheFileAsItWas) {
   folder_.Write("a.LOG", "0123456789");
   {
-    const FullDisk disk(13);
+    const support::FullDisk disk(13);
     EXPECT_EQ(Append("a.LOG"), Appended::NotWritten) << "three of five bytes found room";
   }
   EXPECT_EQ(Bytes("a.LOG"), "0123456789");
   {
-    const FullDisk disk(15);
+    const support::FullDisk disk(15);
     EXPECT_EQ(Append("a.LOG"), Appended::Done) << "to the last byte";
   }
   EXPECT_EQ(Bytes("a.LOG"), "0123456789new\r\n");
@@ -154,7 +132,7 @@ TEST_F(Appending, OnAFullDiskLeavesTheFileAsItWas) {
 TEST_F(Appending, OnAFullDiskCreatesNothing) {
   folder_.Write("empty", "");
   for (const rlim_t room : {0U, 3U}) {
-    const FullDisk disk(room);
+    const support::FullDisk disk(room);
     EXPECT_EQ(Append("a.LOG"), Appended::NotWritten);
     EXPECT_EQ(Append("empty"), Appended::NotWritten);
   }
@@ -163,7 +141,7 @@ TEST_F(Appending, OnAFullDiskCreatesNothing) {
 
 TEST_F(Appending, OnAFullDiskLeavesALinkToNoFileAsItWas) {
   std::filesystem::create_symlink("new", folder_.Path("ahead"));
-  const FullDisk disk(3);
+  const support::FullDisk disk(3);
   EXPECT_EQ(Append("ahead"), Appended::NotWritten);
   EXPECT_THAT(folder_.Names(), ElementsAre("ahead"));
   EXPECT_TRUE(std::filesystem::is_symlink(folder_.Path("ahead")));

@@ -2,13 +2,11 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "output/log_name.h"
 #include "output/screen_record.h"
 #include "tests/output/log_user.h"
+#include "tests/support/full_disk.h"
 
 // The item that appends what the screen shows to the log.
 namespace {
@@ -200,15 +198,10 @@ TEST_F(TheLog, OfAnyNameIsWritten) {
 TEST_F(TheLog, GetsNothingOfARecordThatFindsNoRoom) {
   OpenSeries();
   folder_.Write("weld.LOG", "old");
-  struct rlimit before {};
-  ::getrlimit(RLIMIT_FSIZE, &before);
-  struct rlimit small = before;
-  small.rlim_cur = 100;
-  void (*const handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
-  ::setrlimit(RLIMIT_FSIZE, &small);
-  Append();
-  ::setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
+  {
+    const support::FullDisk full(100);
+    Append();
+  }
   ExpectRefusal("Nothing was appended to " + Whole("weld.LOG") +
                 ": it could not be written. The disk may be full.");
   EXPECT_EQ(Bytes("weld.LOG"), "old");

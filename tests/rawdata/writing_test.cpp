@@ -1,9 +1,7 @@
 #include <gmock/gmock.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 #include "rawdata/raw_file.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/temp_folder.h"
 
 namespace {
@@ -11,28 +9,6 @@ namespace {
 using rawdata::WriteFile;
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
-
-// A disk with room for `bytes` more of any file, as long as it lives.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit small = before_;
-    small.rlim_cur = bytes;
-    ::setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  struct rlimit before_ {};
-  void (*handler_)(int) = nullptr;
-};
 
 class RawFileWriting : public testing::Test {
  protected:
@@ -98,7 +74,7 @@ TEST_F(RawFileWriting, AFullDiskLeavesTheOldFileAsItWas) {
   folder_.Write("a.vkr", "7\r\n8\r\n");
   bool written = true;
   {
-    const FullDisk disk(20);
+    const support::FullDisk disk(20);
     written = WriteFile(folder_.Path("a.vkr"), std::vector<double>(100, 1.5));
   }
   EXPECT_FALSE(written);
@@ -109,7 +85,7 @@ TEST_F(RawFileWriting, AFullDiskLeavesTheOldFileAsItWas) {
 TEST_F(RawFileWriting, AFullDiskLeavesNoHalfANewFile) {
   bool written = true;
   {
-    const FullDisk disk(20);
+    const support::FullDisk disk(20);
     written = WriteFile(folder_.Path("a.vkr"), std::vector<double>(100, 1.5));
   }
   EXPECT_FALSE(written);
