@@ -42,6 +42,7 @@ constexpr Row kRows[] = {
     {Doc::DegreesOfRange, "what the detection range leaves"},
     {Doc::GMMethod, "antilogarithm of the mean logarithm: half of the population lies below it"},
     {Doc::GSDMethod, "antilogarithm of the standard deviation of the logarithms"},
+    {Doc::TriedMethod, "as tried on top of the series"},
     {Doc::TypedMethod, "as it was entered"},
     {Doc::LineMethod, "from the line through the outcomes within the detection range"},
     {Doc::GMuMethod,

@@ -36,6 +36,7 @@ enum class Doc {
   DegreesOfRange,
   GMMethod,
   GSDMethod,
+  TriedMethod,
   TypedMethod,
   LineMethod,
   GMuMethod,

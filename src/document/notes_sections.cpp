@@ -109,7 +109,8 @@ Section AccuracyOf(const ExposureSession& s, const Circumstances& circumstances)
   }
   const bool byRange = s.inForce == Estimates::RangeDegrees && s.df < s.M - 1;
   notes.Add(HasEstimates(s) && byRange, Doc::DegreesAccuracy);
-  notes.Add(HasTests(s) && s.df > kExactDegrees, Doc::En689Accuracy);
+  const bool approximated = s.df > kExactDegrees && !compliance::CoverageTooLow(BasisOf(s));
+  notes.Add(HasTests(s) && approximated, Doc::En689Accuracy);
   notes.Add(HasTests(s), Doc::JahrAccuracy);
   if (HasComparison(s, circumstances)) {
     const bool sample = s.CompareMode == ReferenceKind::Sample;

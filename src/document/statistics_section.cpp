@@ -13,6 +13,7 @@ namespace {
 constexpr double kUsualPercent = 5;  // below it a fit is poor
 
 std::string MethodOf(const ExposureSession& s, Doc fromOutcomes) {
+  if (s.ModifyMode) return DocText(Doc::TriedMethod);
   if (s.inForce == Estimates::Typed) return DocText(Doc::TypedMethod);
   return DocText(s.RegressionOn ? Doc::LineMethod : fromOutcomes);
 }

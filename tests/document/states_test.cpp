@@ -83,6 +83,23 @@ TEST_F(DocumentStates, WeakApproximationsAreNamed) {
   EXPECT_TRUE(Tells("Jahr's limit of the mean is an approximation"));
 }
 
+TEST_F(DocumentStates, NoApproximationIsNamedOfATestThatGivesNothing) {
+  p.EnterStatistics("Welders", "300", "0.3", "2");
+  StateLimit("1");
+  ASSERT_TRUE(Tells("EN 689 with more than 200 degrees of freedom"));
+  p.Type("AlphaTxb", "40");
+  EXPECT_FALSE(Tells("EN 689 with more than 200 degrees of freedom"));
+}
+
+TEST_F(DocumentStates, ValuesThatAreTriedAreCalledSo) {
+  OpenTwelve();
+  p.Tab("basis");
+  p.Click("OriModiCmd");
+  p.Type("GMTxB", "5");
+  EXPECT_EQ(ValueOf("Geometric Mean GM", "as tried on top of the series"), "5");
+  EXPECT_FALSE(ValueOf("Geometric Standard Deviation GSD", "as tried on top").empty());
+}
+
 TEST_F(DocumentStates, NothingWeakIsSaidWhereNothingWeakWasUsed) {
   OpenTwelve();
   EXPECT_TRUE(Tells("No weak approximation was used."));
