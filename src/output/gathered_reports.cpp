@@ -83,7 +83,10 @@ bool Printing::MayEnd() {
       if (Keep(path)) return true;
       ports_.messageBox.Show(
           {OwnText(Own::NotKept, {path}), LoadResString(kExit), Icon::Exclamation});
-      return false;
+      // Where that folder takes no file, another one may.
+      if (ToFile(Document()) != Way::Out) return false;
+      Drop();
+      return true;
     case Answer::Drop:
       Drop();
       return true;

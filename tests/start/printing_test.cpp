@@ -377,6 +377,18 @@ TEST_F(Printing, AtTheEndReportsThatCannotBeKeptKeepTheProgramThere) {
   EXPECT_FALSE(user_.printer.open.empty());
 }
 
+TEST_F(Printing, AtTheEndReportsThatCannotStandBesideTheLogMayStandElsewhere) {
+  Gather(1);
+  const std::string name = user_.Record().Name;
+  user_.printer.refused = name.substr(0, name.find('.'));
+  user_.dialog.answers = {"elsewhere.pdf"};
+  Leave({Answer::Yes, Answer::Keep});
+  ASSERT_EQ(user_.printer.written.size(), 1U);
+  EXPECT_EQ(user_.printer.written[0].first, "elsewhere.pdf");
+  EXPECT_TRUE(user_.program.EndRequested());
+  EXPECT_TRUE(user_.printer.open.empty());
+}
+
 TEST_F(Printing, AtTheCloseOfTheWindowTheReportsAreAskedForToo) {
   Gather(1);
   user_.box.answers = {Answer::Ok, Answer::Cancel};
