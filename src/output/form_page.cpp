@@ -10,7 +10,6 @@ namespace output {
 namespace {
 
 using drawing::Across;
-using drawing::Down;
 
 constexpr double kMargin = 10 * kTwipsPerMm;
 constexpr double kFootSize = 8;
